@@ -1,0 +1,42 @@
+# Build rules that every house shares: language level, warnings, sanitizers, compiler cache, library helpers.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS ON) # mingw's headers need the GNU dialect
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+    # Precompiled headers are cacheable only when ccache may overlook what they bring in themselves;
+    # the base directory lets checkouts in different folders share results.
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
+        CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+        CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${CCACHE_PROGRAM})
+    add_compile_options(-fpch-preprocess)
+endif()
+
+add_compile_options(-Wall -Wextra -Werror)
+if(WIN32)
+    add_compile_definitions(UNICODE _UNICODE STRICT NOMINMAX WINVER=0x0601 _WIN32_WINNT=0x0601 _WIN32_IE=0x0800)
+    # Message-map thunks and event signatures leave parameters unused by design of the interface.
+    add_compile_options(-Wno-unused-parameter -Wno-cast-function-type)
+else()
+    add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=address,undefined)
+endif()
+
+# ky_add_pure_library(NAME SOURCES...): functions that need no window; built for Windows and for Linux.
+function(ky_add_pure_library name)
+    add_library(${name} STATIC ${ARGN})
+    target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
+endfunction()
+
+# ky_add_house(NAME DEFINE define SOURCES...): one DLL of the house, exporting through its own macro.
+function(ky_add_house name)
+    cmake_parse_arguments(ARG "" "EXPORT_DEFINE" "SOURCES" ${ARGN})
+    add_library(${name} SHARED ${ARG_SOURCES})
+    target_compile_definitions(${name} PRIVATE ${ARG_EXPORT_DEFINE})
+    set_target_properties(${name} PROPERTIES PREFIX "" IMPORT_PREFIX "lib")
+endfunction()

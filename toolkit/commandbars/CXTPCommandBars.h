@@ -1,0 +1,27 @@
+// The command bars of a frame: menus, as far as controls show them.
+#pragma once
+
+#include "../common/Export.h"
+
+#include <afxwin.h>
+
+/// The command bars of a frame window.
+class KY_TOOLKIT_API CXTPCommandBars : public CCmdTarget {
+public:
+    explicit CXTPCommandBars(CWnd* pSite) : m_pSite(pSite) {}
+    CWnd* GetSite() const { return m_pSite; }
+
+    /// Shows a popup menu and waits for the user.
+    /// @param pMenu        not owned
+    /// @param nFlags       TPM_… flags; with TPM_RETURNCMD the chosen command is returned, 0 for none
+    /// @param x,y          screen coordinates
+    /// @param pWnd         the window for which the menu is shown
+    /// @param lpRect       screen rectangle that the menu does not cover, or null
+    /// @param pOwner       gets the menu's messages
+    /// @param pCommandBars the command bars whose look the menu takes, or null for the system's
+    static int TrackPopupMenu(CMenu* pMenu, UINT nFlags, int x, int y, CWnd* pWnd, LPCRECT lpRect = nullptr,
+                              CWnd* pOwner = nullptr, CXTPCommandBars* pCommandBars = nullptr);
+
+private:
+    CWnd* m_pSite;
+};

@@ -1,0 +1,44 @@
+// Tool tips of a window: how they look and when they show.
+#pragma once
+
+#include "Export.h"
+#include "XTPThemes.h"
+
+#include <afxwin.h>
+
+#include <memory>
+
+/// Shows the tool tip of whatever tool a window's `OnToolHitTest` reports under the pointer. Owned by that window.
+/// The tip's own window is made when the first tip shows.
+class KY_TOOLKIT_API CXTPToolTipContext : public CCmdTarget {
+public:
+    CXTPToolTipContext();
+    ~CXTPToolTipContext() override;
+
+    XTPToolTipStyle GetStyle() const { return m_style; }
+    void SetStyle(XTPToolTipStyle style);
+    /// Pixels; longer texts wrap. −1: one line, however long.
+    int GetMaxTipWidth() const { return m_nMaxTipWidth; }
+    void SetMaxTipWidth(int nWidth) { m_nMaxTipWidth = nWidth; }
+    /// Space between the border and the text, pixels.
+    void SetMargin(LPCRECT lprc);
+    CRect GetMargin() const { return m_rcMargin; }
+    /// Milliseconds; TTDT_INITIAL, TTDT_RESHOW or TTDT_AUTOPOP. −1 restores the system's time.
+    void SetDelayTime(DWORD dwType, int nTime);
+
+    /// Looks at a message of `pWnd` before it is dispatched: mouse moves ask `pWnd->OnToolHitTest` and start, move or end
+    /// the tip; presses, keys and wheel end it.
+    void FilterToolTipMessage(CWnd* pWnd, UINT message, WPARAM wParam, LPARAM lParam);
+    /// Hides the tip that is shown, if any.
+    void CancelToolTips();
+    BOOL IsTipVisible() const;
+    CString GetTipText() const; ///< of the tip that is shown; empty if none
+    CWnd* GetTipWindow() const; ///< the tip's window, null before the first tip
+
+private:
+    struct Impl;
+    std::unique_ptr<Impl> m_impl;
+    XTPToolTipStyle m_style = xtpToolTipStandard;
+    int m_nMaxTipWidth = -1;
+    CRect m_rcMargin;
+};

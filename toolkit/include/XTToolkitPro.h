@@ -1,0 +1,30 @@
+// Umbrella header of the toolkit layer: the one header that the library and its hosts include.
+#pragma once
+
+#include <afxwin.h>
+#include <afxext.h>
+#include <afxcmn.h>
+
+#include "../common/CXTPPaintManager.h"
+#include "../common/CXTPPaintManagerColor.h"
+#include "../common/CXTPSplitPath.h"
+#include "../common/CXTPToolTipContext.h"
+#include "../common/XTPThemes.h"
+
+#include "../commandbars/CXTPCommandBars.h"
+#include "../commandbars/CXTPMDIFrameWnd.h"
+
+#include "../report/CXTPReportColumn.h"
+#include "../report/CXTPReportColumns.h"
+#include "../report/CXTPReportControl.h"
+#include "../report/CXTPReportHeader.h"
+#include "../report/CXTPReportPaintManager.h"
+#include "../report/CXTPReportRecord.h"
+#include "../report/CXTPReportRecordItem.h"
+#include "../report/CXTPReportRecordItemNumber.h"
+#include "../report/CXTPReportRecordItemText.h"
+#include "../report/CXTPReportRecords.h"
+#include "../report/CXTPReportRow.h"
+#include "../report/CXTPReportRows.h"
+#include "../report/CXTPReportSelectedRows.h"
+#include "../report/XTPReportDefines.h"

@@ -1,0 +1,134 @@
+// The report control: a grid of records with sortable, movable, resizable columns.
+#pragma once
+
+#include "XTPReportDefines.h"
+
+#include "../common/CXTPToolTipContext.h"
+
+#include <memory>
+
+/// A grid. The host adds columns and records and calls `Populate`; rows are the sorted, visible records. All points and
+/// rectangles are in client coordinates. Changes through setters redraw by themselves; changes of item values are shown
+/// by `RedrawControl`. The control owns its columns, records, rows, header and paint manager.
+class KY_TOOLKIT_API CXTPReportControl : public CWnd {
+    DECLARE_DYNCREATE(CXTPReportControl)
+public:
+    CXTPReportControl();
+    ~CXTPReportControl() override;
+
+    /// Creates the window as a child of `pParentWnd`.
+    virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
+
+    // --- Content ------------------------------------------------------------------------------------------------
+    void AddColumn(CXTPReportColumn* pColumn);          ///< takes ownership
+    CXTPReportRecord* AddRecord(CXTPReportRecord* pRecord); ///< takes ownership; shown after `Populate`
+    virtual void Populate();                            ///< rebuilds the rows; selection and focus stay with their records
+    virtual void ResetContent();                        ///< removes all records and rows
+    /// One record stands for `nCount` rows; its items answer for the row in `GetItemMetrics`. Sorting is the host's.
+    void SetVirtualMode(CXTPReportRecord* pVirtualRecord, int nCount);
+    BOOL IsVirtualMode() const;
+
+    CXTPReportColumns* GetColumns() const;
+    CXTPReportRecords* GetRecords() const;
+    CXTPReportRows* GetRows() const;
+    CXTPReportSelectedRows* GetSelectedRows() const;
+    CXTPReportHeader* GetReportHeader() const;
+    void SetReportHeader(CXTPReportHeader* pHeader); ///< takes ownership of the new header, deletes the old one
+    CXTPReportPaintManager* GetPaintManager() const;
+    void SetPaintManager(CXTPReportPaintManager* pPaintManager); ///< takes ownership, deletes the old one
+    /// A new paint manager for the theme; the column style starts as the theme's own.
+    void SetTheme(XTPReportPaintTheme theme, BOOL bRedraw = TRUE);
+    CXTPToolTipContext* GetToolTipContext() const;
+
+    // --- Places -------------------------------------------------------------------------------------------------
+    CRect GetReportRectangle() const; ///< where rows are shown
+    CRect GetHeaderRect() const;      ///< where the header is shown
+    CXTPReportRow* HitTest(CPoint pt) const; ///< the row under the point; null if none
+    XTPReportMouseMode GetMouseMode() const;
+    void SetMouseMode(XTPReportMouseMode mode);
+
+    // --- Selection and focus ----------------------------------------------------------------------------------------
+    void SetMultipleSelection(BOOL bMultiple);
+    BOOL IsMultipleSelection() const;
+    CXTPReportRow* GetFocusedRow() const;
+    /// Focuses the row and, unless told otherwise, selects it alone and scrolls it into view.
+    void SetFocusedRow(CXTPReportRow* pRow, BOOL bSelect = TRUE);
+    virtual void OnSelectionChanged(); ///< tells the owner (XTP_NM_REPORT_SELCHANGED)
+    BOOL HasFocus() const;
+
+    // --- Scrolling ----------------------------------------------------------------------------------------------------
+    int GetTopRowIndex() const;
+    void SetTopRow(int nIndex);
+    int GetLeftOffset() const; ///< pixels scrolled sideways
+    void SetLeftOffset(int nOffset);
+    void EnsureVisible(CXTPReportRow* pRow);
+    int GetFullyVisibleRowCount() const; ///< whole rows that fit, at least 1
+
+    // --- Drawing ------------------------------------------------------------------------------------------------------
+    void RedrawControl();                       ///< asks for a redraw of everything; requests coalesce
+    void RedrawRow(const CXTPReportRow* pRow);  ///< asks for a redraw of one row
+    /// Lays out header, columns and scroll bars again and redraws.
+    void AdjustLayout();
+    /// Draws the control's client area; `rcDirty` bounds what has to be right afterwards.
+    virtual void DoDraw(CDC* pDC, const CRect& rcDirty);
+
+    // --- Layout persistence ----------------------------------------------------------------------------------------
+    /// Writes or reads the layout: columns by identity with order, width and visibility, sort order and grouping.
+    /// Reading checks the whole stream first and throws CArchiveException* on anything broken, before it changes
+    /// anything; unknown columns are dropped, columns the stream does not know keep their state and go to the end.
+    virtual void SerializeState(CArchive& ar);
+
+    // --- Editing commands -----------------------------------------------------------------------------------------
+    virtual BOOL CanCut();
+    virtual BOOL CanCopy();
+    virtual BOOL CanPaste();
+
+    /// The tool under the point; see `CXTPReportRecordItem::OnToolHitTest`. Headers, items and cut-off texts have tips.
+    INT_PTR OnToolHitTest(CPoint point, TOOLINFO* pTI) const override;
+
+    /// Sends a WM_NOTIFY about a cell to the owner; returns the owner's answer.
+    LRESULT SendItemNotify(UINT nCode, CPoint pt, CXTPReportRow* pRow, CXTPReportRecordItem* pItem,
+                           CXTPReportColumn* pColumn, int nHyperlink = -1);
+    LRESULT SendColumnNotify(UINT nCode, CXTPReportColumn* pColumn);
+
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+
+protected:
+    int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    void OnDestroy();
+    void OnPaint();
+    BOOL OnEraseBkgnd(CDC* pDC);
+    void OnSize(UINT nType, int cx, int cy);
+    void OnLButtonDown(UINT nFlags, CPoint point);
+    void OnLButtonUp(UINT nFlags, CPoint point);
+    void OnLButtonDblClk(UINT nFlags, CPoint point);
+    void OnRButtonDown(UINT nFlags, CPoint point);
+    void OnRButtonUp(UINT nFlags, CPoint point);
+    void OnContextMenu(CWnd* pWnd, CPoint ptScreen);
+    void OnMouseMove(UINT nFlags, CPoint point);
+    void OnMouseLeave();
+    BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt);
+    void OnMouseHWheel(UINT nFlags, short zDelta, CPoint pt);
+    BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message);
+    void OnCaptureChanged(CWnd* pWnd);
+    void OnCancelMode();
+    void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
+    UINT OnGetDlgCode();
+    void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
+    void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
+    void OnTimer(UINT_PTR nIDEvent);
+    void OnSetFocus(CWnd* pOldWnd);
+    void OnKillFocus(CWnd* pNewWnd);
+    void OnEnable(BOOL bEnable);
+    void OnSysColorChange();
+    void OnSettingChange(UINT uFlags, LPCTSTR lpszSection);
+    LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
+    LRESULT OnSetFont(WPARAM wParam, LPARAM lParam);
+    LRESULT OnGetFont(WPARAM wParam, LPARAM lParam);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    struct Impl;
+    std::unique_ptr<Impl> m_impl;
+};

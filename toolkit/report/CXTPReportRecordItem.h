@@ -1,0 +1,105 @@
+// One cell of a record: the base of every cell that a report control shows.
+#pragma once
+
+#include "XTPReportDefines.h"
+
+#include <memory>
+
+/// A stretch of a cell's text that acts as a hyperlink.
+class KY_TOOLKIT_API CXTPReportHyperlink {
+public:
+    CXTPReportHyperlink(int nHyperTextBegin, int nHyperTextLen)
+        : m_nHyperTextBegin(nHyperTextBegin), m_nHyperTextLen(nHyperTextLen) {}
+    int m_nHyperTextBegin; ///< first character
+    int m_nHyperTextLen;   ///< characters; 0 with begin 0: the whole text
+    CRect m_rcHyperSpot;   ///< where the link was drawn last, client coordinates
+};
+
+/// A cell. Created with `new` (memory comes from the toolkit's record-item heap), owned by its record, reference
+/// counted through `InternalAddRef`/`InternalRelease` so that a handler may outlive the removal of its own record.
+/// Rarely used properties live apart, so that a plain cell stays small: millions are ordinary.
+class KY_TOOLKIT_API CXTPReportRecordItem : public CCmdTarget {
+    DECLARE_DYNAMIC(CXTPReportRecordItem)
+public:
+    CXTPReportRecordItem();
+    ~CXTPReportRecordItem() override;
+
+    static void* operator new(size_t size);
+    static void operator delete(void* p, size_t size);
+
+    // --- Text -------------------------------------------------------------------------------------------------
+    /// The text to show; the explicit caption when one is set.
+    virtual CString GetCaption(CXTPReportColumn* pColumn);
+    void SetCaption(LPCTSTR strCaption);
+    /// printf-style format of the value, "%s" or "%f" as the kind of item has it.
+    CString GetFormatString() const;
+    void SetFormatString(LPCTSTR strFormat);
+    CString GetTooltip() const;
+    void SetTooltip(LPCTSTR strTooltip);
+
+    // --- Look -------------------------------------------------------------------------------------------------
+    /// COLORREF, or `CXTPPaintManagerColor::Unset` (the default) for the theme's.
+    COLORREF GetTextColor() const;
+    void SetTextColor(COLORREF clr);
+    COLORREF GetBackgroundColor() const;
+    void SetBackgroundColor(COLORREF clr);
+    BOOL IsBold() const;
+    void SetBold(BOOL bBold = TRUE);
+    /// DT_LEFT, DT_CENTER, DT_RIGHT, or −1 (the default) for the column's alignment.
+    int GetAlignment() const;
+    void SetAlignment(int nAlignment);
+
+    /// Fills the metrics: text, font and colours of the cell; called before each drawing.
+    virtual void GetItemMetrics(XTP_REPORTRECORDITEM_DRAWARGS* pDrawArgs, XTP_REPORTRECORDITEM_METRICS* pMetrics);
+    /// Draws the whole cell: metrics, background, caption.
+    virtual void Draw(XTP_REPORTRECORDITEM_DRAWARGS* pDrawArgs);
+    /// Draws what the cell shows inside `pDrawArgs->rcItem`; here the text with its hyperlinks.
+    virtual void OnDrawCaption(XTP_REPORTRECORDITEM_DRAWARGS* pDrawArgs, XTP_REPORTRECORDITEM_METRICS* pMetrics);
+
+    // --- Order ------------------------------------------------------------------------------------------------
+    /// <0, 0, >0 as this cell sorts before, with or after the other.
+    virtual int Compare(CXTPReportColumn* pColumn, CXTPReportRecordItem* pItem);
+
+    // --- Hyperlinks -------------------------------------------------------------------------------------------
+    /// Takes ownership; returns the index.
+    int AddHyperlink(CXTPReportHyperlink* pHyperlink);
+    int GetHyperlinksCount() const;
+    CXTPReportHyperlink* GetHyperlinkAt(int nIndex) const; ///< null when out of range
+    /// Index of the hyperlink drawn at the point (client coordinates), −1 for none.
+    virtual int HitTestHyperlink(CPoint ptPoint);
+
+    // --- Mouse; points in client coordinates --------------------------------------------------------------------
+    /// Returning TRUE keeps the press from the row (no selection change).
+    virtual BOOL OnLButtonDown(XTP_REPORTRECORDITEM_CLICKARGS* pClickArgs);
+    virtual BOOL OnLButtonUp(XTP_REPORTRECORDITEM_CLICKARGS* pClickArgs);
+    virtual void OnClick(XTP_REPORTRECORDITEM_CLICKARGS* pClickArgs);
+    virtual void OnDblClick(XTP_REPORTRECORDITEM_CLICKARGS* pClickArgs);
+    /// Every mouse move over the cell; the cursor over a hyperlink is the control's affair.
+    virtual void OnMouseMove(UINT nFlags, CPoint point, CXTPReportControl* pReportControl);
+    /// The tool under the point: fills `pTI->rect` (client coordinates) and `pTI->lpszText` (allocated with malloc,
+    /// freed by the caller) and returns an identifier, or −1 when the cell has no tool tip.
+    virtual INT_PTR OnToolHitTest(CPoint point, TOOLINFO* pTI);
+
+    // --- Place ------------------------------------------------------------------------------------------------
+    CXTPReportRecord* GetRecord() const { return m_pRecord; }
+    int GetIndex() const; ///< place in the record, −1 when in none
+    /// The control that shows the item's record, or null.
+    CXTPReportControl* GetReportControl() const;
+
+    DWORD_PTR GetItemData() const;
+    void SetItemData(DWORD_PTR dwData);
+
+protected:
+    CString m_strCaption; ///< explicit caption; empty: the value makes the text
+
+private:
+    friend class CXTPReportRecord;
+    struct Extras; ///< what few cells have: format, tip, alignment, links, data
+    Extras& EnsureExtras();
+
+    CXTPReportRecord* m_pRecord = nullptr;
+    COLORREF m_clrText = CXTPPaintManagerColor::Unset;
+    COLORREF m_clrBackground = CXTPPaintManagerColor::Unset;
+    bool m_bBold = false;
+    std::unique_ptr<Extras> m_pExtras;
+};

@@ -1,0 +1,22 @@
+// A cell that shows a number through a printf-style format.
+#pragma once
+
+#include "CXTPReportRecordItem.h"
+
+/// A number cell. Sorts by value; a NaN sorts before every number.
+class KY_TOOLKIT_API CXTPReportRecordItemNumber : public CXTPReportRecordItem {
+    DECLARE_DYNCREATE(CXTPReportRecordItemNumber)
+public:
+    /// @param strFormat printf-style with one directive for a double, such as "%.2f" or "%g"; a format with any other
+    ///                  directive is ignored and the number is shown with "%g"
+    CXTPReportRecordItemNumber(double dValue = 0.0, LPCTSTR strFormat = _T("%f"));
+
+    double GetValue() const { return m_dValue; }
+    virtual void SetValue(double dValue);
+
+    CString GetCaption(CXTPReportColumn* pColumn) override;
+    int Compare(CXTPReportColumn* pColumn, CXTPReportRecordItem* pItem) override;
+
+protected:
+    double m_dValue;
+};

@@ -1,0 +1,38 @@
+// One row: a record as the control shows it.
+#pragma once
+
+#include "XTPReportDefines.h"
+
+/// A row lives from one `Populate` to the next; do not keep pointers to rows across it. Reference counted: a handler
+/// that may cause a `Populate` holds a reference.
+class KY_TOOLKIT_API CXTPReportRow : public CCmdTarget {
+public:
+    CXTPReportRow(CXTPReportRows* pRows, CXTPReportRecord* pRecord, int nIndex);
+
+    int GetIndex() const { return m_nIndex; }
+    /// The record; null after its record was deleted and before the next `Populate`.
+    CXTPReportRecord* GetRecord() const { return m_pRecord; }
+    CXTPReportControl* GetControl() const; ///< null once the row was taken out of its control
+    BOOL IsSelected() const;
+    void SetSelected(BOOL bSelected);
+    BOOL IsFocused() const;
+
+    /// The row in client coordinates, over the full width of the report area; may lie outside the visible part.
+    CRect GetRect() const;
+    /// The rectangle of the item in client coordinates; empty when its column is hidden.
+    CRect GetItemRect(CXTPReportRecordItem* pItem) const;
+    /// The item under the point (client coordinates) with its cell rectangle and column; null if none.
+    CXTPReportRecordItem* HitTest(CPoint ptPoint, CRect* pRectItem = nullptr,
+                                  CXTPReportColumn** ppColumn = nullptr) const;
+    BOOL IsItemsVisible() const { return m_pRecord != nullptr; }
+
+    /// Draws the row into `pDC` at `rcRow`; only cells that meet the clip box of `rcClip` are drawn.
+    virtual void Draw(CDC* pDC, const CRect& rcRow, const CRect& rcClip);
+    void EnsureVisible();
+
+private:
+    friend class CXTPReportRows;
+    CXTPReportRows* m_pRows;
+    CXTPReportRecord* m_pRecord;
+    int m_nIndex;
+};

@@ -1,0 +1,40 @@
+// Which rows are selected.
+#pragma once
+
+#include "RowSelection.h"
+#include "XTPReportDefines.h"
+
+/// The selection, held as ranges of row indices: selecting a million rows costs as much as selecting one.
+/// Changes ask for a redraw; they do not raise `OnSelectionChanged`, which is the control's affair.
+class KY_TOOLKIT_API CXTPReportSelectedRows : public CCmdTarget {
+public:
+    explicit CXTPReportSelectedRows(CXTPReportControl* pControl);
+
+    int GetCount() const;
+    CXTPReportRow* GetAt(int nIndex) const; ///< the nIndex-th selected row from the top; null when out of range
+    BOOL Contains(const CXTPReportRow* pRow) const;
+    BOOL Contains(int nRowIndex) const;
+
+    void Clear();
+    void Add(CXTPReportRow* pRow);
+    void Remove(CXTPReportRow* pRow);
+    void Invert(CXTPReportRow* pRow);
+    /// Selects this row alone.
+    void Select(CXTPReportRow* pRow);
+    /// Selects the rows from `nBegin` to `nEnd` (either order, clamped to the rows there are); `bClear` drops what was
+    /// selected before. Without multiple selection only `nEnd` is selected.
+    void SelectBlock(int nBegin, int nEnd, BOOL bClear = TRUE);
+
+    /// The row from which a shift-selection extends, −1 for none.
+    int GetAnchor() const { return m_nAnchor; }
+    void SetAnchor(int nRowIndex) { m_nAnchor = nRowIndex; }
+
+    /// The ranges themselves, for copying the selection over a `Populate`.
+    const RowSelection& GetRanges() const { return m_ranges; }
+    void SetRanges(const RowSelection& ranges);
+
+private:
+    CXTPReportControl* m_pControl;
+    RowSelection m_ranges;
+    int m_nAnchor = -1;
+};

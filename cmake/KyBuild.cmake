@@ -27,6 +27,16 @@ else()
     add_link_options(-fsanitize=address,undefined)
 endif()
 
+# The compiler's shared runtime stands beside the programs: exceptions and dynamic_cast cross the DLLs only when all of
+# them use the same copy, and Windows looks for DLLs in the program's own folder first.
+if(WIN32)
+    foreach(dll libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
+        execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${dll}
+            OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+        file(COPY ${path} DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+    endforeach()
+endif()
+
 # ky_add_pure_library(NAME SOURCES...): functions that need no window; built for Windows and for Linux.
 function(ky_add_pure_library name)
     add_library(${name} STATIC ${ARGN})

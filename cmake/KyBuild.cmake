@@ -50,3 +50,5 @@ function(ky_add_house name)
     target_compile_definitions(${name} PRIVATE ${ARG_EXPORT_DEFINE})
     set_target_properties(${name} PROPERTIES PREFIX "" IMPORT_PREFIX "lib")
 endfunction()
+
+include(KyDependencies)

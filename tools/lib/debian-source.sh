@@ -1,0 +1,73 @@
+# shellcheck shell=bash
+# Fetches the upstream tarball of a Debian source package. Source it after common.sh.
+#
+# Debian has no cross-built mingw packages of most libraries, but it has their sources, of the very version whose headers
+# it installs, and apt checks what it downloads against the archive's signature. The machine's own sources lists stay as
+# they are: a private copy of them, with `deb` turned into `deb-src`, is used with package lists of its own.
+
+# ky_apt_source_options FOLDER: sets the array ky_apt_options, which makes apt work in FOLDER only.
+ky_apt_source_options() {
+    local folder=$1
+    mkdir -p "$folder/parts" "$folder/lists/partial" "$folder/cache/archives/partial"
+    ky_apt_options=(
+        -q
+        -o Dir::Etc::SourceList=/dev/null
+        -o "Dir::Etc::SourceParts=$folder/parts"
+        -o "Dir::State::Lists=$folder/lists"
+        -o "Dir::Cache=$folder/cache"
+        -o "APT::Sandbox::User=$(id -un)"
+        -o Acquire::Retries=3
+    )
+}
+
+# ky_derive_source_lists FOLDER: the machine's lists of this Debian release, both formats, asking for sources.
+ky_derive_source_lists() {
+    local parts=$1/parts release file
+    # shellcheck source=/dev/null
+    release=$(. /etc/os-release && echo "$VERSION_CODENAME")
+    rm -f "$parts"/*
+    for file in /etc/apt/sources.list /etc/apt/sources.list.d/*.list; do
+        if [ -f "$file" ]; then
+            sed -nE "s/^[[:space:]]*deb([[:space:]].*[[:space:]]${release}(-[a-z]+)*(\/[a-z]+)?[[:space:]].*)/deb-src\1/p" "$file"
+        fi
+    done >"$parts/machine.list"
+    # The other format: stanzas with fields, parted by empty lines.
+    for file in /etc/apt/sources.list.d/*.sources; do
+        if [ -f "$file" ]; then
+            awk -v RS= -v ORS='\n\n' -v wanted="(^|\n)Suites:[^\n]* ${release}(-[a-z]+)*(/[a-z]+)?([ \n]|$)" '
+                $0 ~ wanted && !/(^|\n)Enabled: *no/ { sub(/(^|\n)Types:[^\n]*/, "\nTypes: deb-src"); print }' "$file"
+        fi
+    done | sed '/^#/d' >"$parts/machine.sources"
+}
+
+# ky_debian_source PACKAGE VERSION TARBALL: prints the path of the tarball in the download cache, and downloads it first
+# when it is not there. An interrupted download is continued where it broke off.
+ky_debian_source() {
+    local package=$1 version=$2 tarball=$3 megabytes=$4 work=$ky_cache/apt
+    if [ ! -f "$ky_cache/$tarball" ]; then
+        ky_need_space "$ky_cache" $((2 * megabytes)) "the source package $package"
+        ky_apt_source_options "$work"
+        ky_derive_source_lists "$work"
+        {
+            if ! apt-get "${ky_apt_options[@]}" update; then
+                ky_fail "apt cannot read the lists of source packages" \
+                    "check the network and the sources lists in /etc/apt, then run this again"
+            fi
+            # Downloads go to a folder of their own; only a complete and verified tarball reaches the cache.
+            mkdir -p "$work/partial"
+            if ! (cd "$work/partial" && {
+                apt-get "${ky_apt_options[@]}" source --download-only --tar-only "$package=$version" ||
+                    apt-get "${ky_apt_options[@]}" source --download-only --tar-only "$package"
+            }); then
+                ky_fail "Debian's source package $package cannot be had" \
+                    "check the network; run this again, the download goes on where it broke off. Without a network, put $tarball into $ky_cache"
+            fi
+            if [ ! -f "$work/partial/$tarball" ]; then
+                ky_fail "the source package $package did not contain $tarball" "run 'apt-get update' and this again"
+            fi
+            mv "$work/partial/$tarball" "$ky_cache/$tarball"
+            rm -rf "$work"
+        } >&2
+    fi
+    printf '%s\n' "$ky_cache/$tarball"
+}

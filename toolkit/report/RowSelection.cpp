@@ -1,0 +1,115 @@
+// A set of row indices as sorted, disjoint ranges.
+#include "RowSelection.h"
+
+#include <algorithm>
+
+namespace {
+
+/// The first range that ends at or behind `row`.
+template <class Ranges>
+auto FirstEndingAtOrBehind(Ranges& ranges, std::int64_t row) {
+    return std::lower_bound(ranges.begin(), ranges.end(), row,
+                            [](const RowSelection::Range& range, std::int64_t value) { return range.last < value; });
+}
+
+} // namespace
+
+bool RowSelection::Contains(int row) const {
+    const auto it = FirstEndingAtOrBehind(m_ranges, row);
+    return it != m_ranges.end() && it->first <= row;
+}
+
+std::int64_t RowSelection::Count() const {
+    std::int64_t count = 0;
+    for (const Range& range : m_ranges)
+        count += static_cast<std::int64_t>(range.last) - range.first + 1;
+    return count;
+}
+
+int RowSelection::RowAt(std::int64_t index) const {
+    if (index < 0)
+        return -1;
+    for (const Range& range : m_ranges) {
+        const std::int64_t length = static_cast<std::int64_t>(range.last) - range.first + 1;
+        if (index < length)
+            return static_cast<int>(range.first + index);
+        index -= length;
+    }
+    return -1;
+}
+
+void RowSelection::Add(int first, int last) {
+    first = std::max(first, 0);
+    if (last < first)
+        return;
+    // Neighbours that only touch are merged too, so that equal sets have equal ranges.
+    const auto begin = FirstEndingAtOrBehind(m_ranges, static_cast<std::int64_t>(first) - 1);
+    auto end = begin;
+    while (end != m_ranges.end() && end->first <= static_cast<std::int64_t>(last) + 1) {
+        first = std::min(first, end->first);
+        last = std::max(last, end->last);
+        ++end;
+    }
+    if (begin == end) {
+        m_ranges.insert(begin, {first, last});
+    } else {
+        *begin = {first, last};
+        m_ranges.erase(begin + 1, end);
+    }
+}
+
+void RowSelection::Remove(int first, int last) {
+    first = std::max(first, 0);
+    if (last < first)
+        return;
+    auto begin = FirstEndingAtOrBehind(m_ranges, first);
+    if (begin == m_ranges.end() || begin->first > last)
+        return;
+    if (begin->first < first && begin->last > last) {
+        const Range tail{last + 1, begin->last};
+        begin->last = first - 1;
+        m_ranges.insert(begin + 1, tail);
+        return;
+    }
+    if (begin->first < first) {
+        begin->last = first - 1;
+        ++begin;
+    }
+    auto end = begin;
+    while (end != m_ranges.end() && end->last <= last)
+        ++end;
+    if (end != m_ranges.end() && end->first <= last)
+        end->first = last + 1;
+    m_ranges.erase(begin, end);
+}
+
+void RowSelection::Invert(int row) {
+    if (Contains(row))
+        Remove(row, row);
+    else
+        Add(row, row);
+}
+
+void RowSelection::RowRemoved(int row) {
+    if (row < 0)
+        return;
+    Remove(row, row);
+    const auto behind = FirstEndingAtOrBehind(m_ranges, row);
+    for (auto it = behind; it != m_ranges.end(); ++it) {
+        --it->first;
+        --it->last;
+    }
+    // What was parted by that row alone is one range now.
+    if (behind != m_ranges.end() && behind != m_ranges.begin() && (behind - 1)->last + 1 == behind->first) {
+        (behind - 1)->last = behind->last;
+        m_ranges.erase(behind);
+    }
+}
+
+void RowSelection::Truncate(int count) {
+    count = std::max(count, 0);
+    while (!m_ranges.empty() && m_ranges.back().first >= count)
+        m_ranges.pop_back();
+    if (!m_ranges.empty() && m_ranges.back().last >= count)
+        m_ranges.back().last = count - 1;
+}

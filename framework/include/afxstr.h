@@ -1,0 +1,4 @@
+// afxstr.h - the string class.
+#pragma once
+
+#include "../core/CString.h"

@@ -1,0 +1,4 @@
+// atltypes.h - points, sizes and rectangles.
+#pragma once
+
+#include "../core/Geometry.h"

@@ -10,10 +10,10 @@ class KY_TOOLKIT_API CXTPSplitPath {
 public:
     explicit CXTPSplitPath(LPCTSTR lpszPathName);
 
-    CString GetDrive() const { return m_strDrive; }       ///< "C:", or empty
-    CString GetDir() const { return m_strDir; }           ///< with leading and trailing separator
-    CString GetFileTitle() const { return m_strTitle; }   ///< without extension
-    CString GetExt() const { return m_strExt; }           ///< with the dot, or empty
+    CString GetDrive() const { return m_strDrive; }     ///< "C:", or empty
+    CString GetDir() const { return m_strDir; }         ///< with leading and trailing separator
+    CString GetFileTitle() const { return m_strTitle; } ///< without extension
+    CString GetExt() const { return m_strExt; }         ///< with the dot, or empty
     CString GetFileName() const { return m_strTitle + m_strExt; }
     CString GetFullPath() const { return m_strDrive + m_strDir + m_strTitle + m_strExt; }
 

@@ -26,8 +26,8 @@ public:
     /// Milliseconds; TTDT_INITIAL, TTDT_RESHOW or TTDT_AUTOPOP. −1 restores the system's time.
     void SetDelayTime(DWORD dwType, int nTime);
 
-    /// Looks at a message of `pWnd` before it is dispatched: mouse moves ask `pWnd->OnToolHitTest` and start, move or end
-    /// the tip; presses, keys and wheel end it.
+    /// Looks at a message of `pWnd` before it is dispatched: mouse moves ask `pWnd->OnToolHitTest` and start, move or
+    /// end the tip; presses, keys and wheel end it.
     void FilterToolTipMessage(CWnd* pWnd, UINT message, WPARAM wParam, LPARAM lParam);
     /// Hides the tip that is shown, if any.
     void CancelToolTips();

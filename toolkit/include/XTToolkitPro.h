@@ -1,9 +1,9 @@
 // Umbrella header of the toolkit layer: the one header that the library and its hosts include.
 #pragma once
 
-#include <afxwin.h>
-#include <afxext.h>
 #include <afxcmn.h>
+#include <afxext.h>
+#include <afxwin.h>
 
 #include "../common/CXTPPaintManager.h"
 #include "../common/CXTPPaintManagerColor.h"

@@ -16,8 +16,8 @@ public:
     CXTPReportColumn(int nItemIndex, LPCTSTR strName, int nWidth, BOOL bAutoSize = TRUE, int nIconID = -1,
                      BOOL bSortable = TRUE, BOOL bVisible = TRUE);
     /// As above with an internal name of its own: the identity under which a saved layout finds the column.
-    CXTPReportColumn(int nItemIndex, LPCTSTR strDisplayName, LPCTSTR strInternalName, int nWidth,
-                     BOOL bAutoSize = TRUE, int nIconID = -1, BOOL bSortable = TRUE, BOOL bVisible = TRUE);
+    CXTPReportColumn(int nItemIndex, LPCTSTR strDisplayName, LPCTSTR strInternalName, int nWidth, BOOL bAutoSize = TRUE,
+                     int nIconID = -1, BOOL bSortable = TRUE, BOOL bVisible = TRUE);
 
     int GetItemIndex() const { return m_nItemIndex; }
     /// Place in the column collection, left to right, hidden columns counted; −1 before the column is added.

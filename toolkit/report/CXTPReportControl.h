@@ -20,10 +20,10 @@ public:
     virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
 
     // --- Content ------------------------------------------------------------------------------------------------
-    void AddColumn(CXTPReportColumn* pColumn);          ///< takes ownership
+    void AddColumn(CXTPReportColumn* pColumn);              ///< takes ownership
     CXTPReportRecord* AddRecord(CXTPReportRecord* pRecord); ///< takes ownership; shown after `Populate`
-    virtual void Populate();                            ///< rebuilds the rows; selection and focus stay with their records
-    virtual void ResetContent();                        ///< removes all records and rows
+    virtual void Populate();     ///< rebuilds the rows; selection and focus stay with their records
+    virtual void ResetContent(); ///< removes all records and rows
     /// One record stands for `nCount` rows; its items answer for the row in `GetItemMetrics`. Sorting is the host's.
     void SetVirtualMode(CXTPReportRecord* pVirtualRecord, int nCount);
     BOOL IsVirtualMode() const;
@@ -41,8 +41,8 @@ public:
     CXTPToolTipContext* GetToolTipContext() const;
 
     // --- Places -------------------------------------------------------------------------------------------------
-    CRect GetReportRectangle() const; ///< where rows are shown
-    CRect GetHeaderRect() const;      ///< where the header is shown
+    CRect GetReportRectangle() const;        ///< where rows are shown
+    CRect GetHeaderRect() const;             ///< where the header is shown
     CXTPReportRow* HitTest(CPoint pt) const; ///< the row under the point; null if none
     XTPReportMouseMode GetMouseMode() const;
     void SetMouseMode(XTPReportMouseMode mode);
@@ -56,7 +56,8 @@ public:
     virtual void OnSelectionChanged(); ///< tells the owner (XTP_NM_REPORT_SELCHANGED)
     BOOL HasFocus() const;
 
-    // --- Scrolling ----------------------------------------------------------------------------------------------------
+    // --- Scrolling
+    // ----------------------------------------------------------------------------------------------------
     int GetTopRowIndex() const;
     void SetTopRow(int nIndex);
     int GetLeftOffset() const; ///< pixels scrolled sideways
@@ -64,9 +65,10 @@ public:
     void EnsureVisible(CXTPReportRow* pRow);
     int GetFullyVisibleRowCount() const; ///< whole rows that fit, at least 1
 
-    // --- Drawing ------------------------------------------------------------------------------------------------------
-    void RedrawControl();                       ///< asks for a redraw of everything; requests coalesce
-    void RedrawRow(const CXTPReportRow* pRow);  ///< asks for a redraw of one row
+    // --- Drawing
+    // ------------------------------------------------------------------------------------------------------
+    void RedrawControl();                      ///< asks for a redraw of everything; requests coalesce
+    void RedrawRow(const CXTPReportRow* pRow); ///< asks for a redraw of one row
     /// Lays out header, columns and scroll bars again and redraws.
     void AdjustLayout();
     /// Draws the control's client area; `rcDirty` bounds what has to be right afterwards.

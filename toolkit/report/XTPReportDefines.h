@@ -21,12 +21,12 @@ class CXTPReportSelectedRows;
 
 /// What the mouse is doing in a report control.
 enum XTPReportMouseMode {
-    xtpReportMouseNothing,            ///< idle
-    xtpReportMouseOverColumnDivide,   ///< hovering over a column divider
-    xtpReportMousePrepareColumnDrag,  ///< pressed on a header; moving on turns it into a drag
-    xtpReportMouseColumnDrag,         ///< a column is being dragged to another place
-    xtpReportMouseColumnResize,       ///< a column divider is being dragged
-    xtpReportMouseSelectingRows       ///< rows are being selected by dragging over them
+    xtpReportMouseNothing,           ///< idle
+    xtpReportMouseOverColumnDivide,  ///< hovering over a column divider
+    xtpReportMousePrepareColumnDrag, ///< pressed on a header; moving on turns it into a drag
+    xtpReportMouseColumnDrag,        ///< a column is being dragged to another place
+    xtpReportMouseColumnResize,      ///< a column divider is being dragged
+    xtpReportMouseSelectingRows      ///< rows are being selected by dragging over them
 };
 
 /// Line style of the grid lines between rows or columns.

@@ -56,10 +56,9 @@ logfont() {
 
 # settings: everything that Wine would otherwise take from the machine it runs on.
 settings() {
-    local ui bold
+    local ui
     ui=$(logfont 12 400 'Segoe UI')
-    bold=$(logfont 12 700 'Segoe UI')
-    cat <<END
+        cat <<END
 Windows Registry Editor Version 5.00
 
 ; No program may take windows, menus or files of the user's own desktop.
@@ -87,15 +86,48 @@ Windows Registry Editor Version 5.00
 [HKEY_CURRENT_USER\\Control Panel\\Desktop]
 "LogPixels"=dword:00000060
 "FontSmoothing"="2"
-"FontSmoothingType"=dword:00000001
+"FontSmoothingType"=dword:00000002
 "FontSmoothingGamma"=dword:00000578
 "FontSmoothingOrientation"=dword:00000001
 
 [HKEY_CURRENT_CONFIG\\Software\\Fonts]
 "LogPixels"=dword:00000060
 
+; The colours of Windows itself.
+[HKEY_CURRENT_USER\\Control Panel\\Colors]
+"ActiveBorder"="180 180 180"
+"ActiveTitle"="153 180 209"
+"AppWorkSpace"="171 171 171"
+"Background"="37 111 149"
+"ButtonDkShadow"="105 105 105"
+"ButtonFace"="240 240 240"
+"ButtonHilight"="255 255 255"
+"ButtonLight"="227 227 227"
+"ButtonShadow"="160 160 160"
+"ButtonText"="0 0 0"
+"GradientActiveTitle"="185 209 234"
+"GradientInactiveTitle"="215 228 242"
+"GrayText"="109 109 109"
+"Hilight"="0 120 215"
+"HilightText"="255 255 255"
+"HotTrackingColor"="0 102 204"
+"InactiveBorder"="244 247 252"
+"InactiveTitle"="191 205 219"
+"InactiveTitleText"="0 0 0"
+"InfoText"="0 0 0"
+"InfoWindow"="255 255 225"
+"Menu"="240 240 240"
+"MenuBar"="240 240 240"
+"MenuHilight"="0 120 215"
+"MenuText"="0 0 0"
+"Scrollbar"="200 200 200"
+"TitleText"="0 0 0"
+"Window"="255 255 255"
+"WindowFrame"="100 100 100"
+"WindowText"="0 0 0"
+
 [HKEY_CURRENT_USER\\Control Panel\\Desktop\\WindowMetrics]
-"CaptionFont"=$bold
+"CaptionFont"=$ui
 "SmCaptionFont"=$ui
 "MenuFont"=$ui
 "StatusFont"=$ui

@@ -1,6 +1,14 @@
 # shellcheck shell=bash
 # What every script of this repository shares: where things are, and how it speaks to the user.
 # Source it; it defines functions and paths only.
+# shellcheck disable=SC2034 # The paths are for those who source it.
+
+# A user without a home (a container's) gets one here: compilers, Wine and fontconfig keep caches in it.
+if [ -z "${HOME:-}" ] || [ ! -w "$HOME" ]; then
+    HOME=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)/build/home
+    mkdir -p "$HOME"
+    export HOME
+fi
 
 ky_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 ky_build=$ky_root/build
@@ -32,4 +40,33 @@ ky_need_space() {
         ky_fail "$3 needs $2 MB in $folder, and only $free MB are free" \
             "free some space there (build/ in the checkout may be deleted at any time) and run this again"
     fi
+}
+
+# ky_prefix KIND: the Wine prefix of this checkout for virtual screens ('screen') or for the user's display ('desktop').
+# Two, because what tests and tours leave behind in the registry is not the user's.
+ky_prefix() {
+    if [ "$1" = desktop ]; then
+        echo "$ky_build/wineprefix-desktop"
+    else
+        echo "$ky_build/wineprefix"
+    fi
+}
+
+# ky_windows_path FILE: the path as a program under Wine has it.
+ky_windows_path() {
+    local path
+    path=$(realpath -m -- "$1")
+    printf 'Z:%s\n' "${path//\//\\}"
+}
+
+# ky_imagemagick TOOL: the path of ImageMagick's own TOOL, whatever else has that name on PATH.
+ky_imagemagick() {
+    local candidate
+    for candidate in "/usr/bin/$1-im6.q16" "/usr/bin/$1-im6" "/usr/bin/$1"; do
+        if [ -x "$candidate" ]; then
+            echo "$candidate"
+            return 0
+        fi
+    done
+    ky_fail "ImageMagick's $1 is not installed" "run ./test or ./run, which install it"
 }

@@ -1,0 +1,28 @@
+// CScrollBar: a scroll bar that is a window of its own.
+#pragma once
+
+#include "../windows/CWnd.h"
+
+/// Adds no data to CWnd: scroll handlers receive it for any scroll bar control, also for one without an object.
+class KY_FRAMEWORK_API CScrollBar : public CWnd {
+    DECLARE_DYNAMIC(CScrollBar)
+public:
+    using CWnd::Create;
+    virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
+
+    int GetScrollPos() const { return ::GetScrollPos(m_hWnd, SB_CTL); }
+    int SetScrollPos(int nPos, BOOL bRedraw = TRUE) { return ::SetScrollPos(m_hWnd, SB_CTL, nPos, bRedraw); }
+    void GetScrollRange(LPINT lpMinPos, LPINT lpMaxPos) const { ::GetScrollRange(m_hWnd, SB_CTL, lpMinPos, lpMaxPos); }
+    void SetScrollRange(int nMinPos, int nMaxPos, BOOL bRedraw = TRUE) {
+        ::SetScrollRange(m_hWnd, SB_CTL, nMinPos, nMaxPos, bRedraw);
+    }
+    void ShowScrollBar(BOOL bShow = TRUE) { ::ShowScrollBar(m_hWnd, SB_CTL, bShow); }
+    BOOL EnableScrollBar(UINT nArrowFlags = ESB_ENABLE_BOTH) { return ::EnableScrollBar(m_hWnd, SB_CTL, nArrowFlags); }
+    /// The structure's size is filled in.
+    BOOL GetScrollInfo(LPSCROLLINFO lpScrollInfo, UINT nMask = SIF_ALL) {
+        return CWnd::GetScrollInfo(SB_CTL, lpScrollInfo, nMask);
+    }
+    BOOL SetScrollInfo(LPSCROLLINFO lpScrollInfo, BOOL bRedraw = TRUE) {
+        return CWnd::SetScrollInfo(SB_CTL, lpScrollInfo, bRedraw);
+    }
+};

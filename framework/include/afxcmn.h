@@ -1,0 +1,6 @@
+// afxcmn.h - the common controls.
+#pragma once
+
+#include "afxwin.h"
+
+#include "../controls/CToolTipCtrl.h"

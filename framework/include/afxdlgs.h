@@ -1,0 +1,6 @@
+// afxdlgs.h - the common dialogs.
+#pragma once
+
+#include "afxwin.h"
+
+#include "../dialogs/CFileDialog.h"

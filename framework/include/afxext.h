@@ -1,0 +1,7 @@
+// afxext.h - control bars.
+#pragma once
+
+#include "afxwin.h"
+
+#include "../docview/CControlBar.h"
+#include "../docview/CStatusBar.h"

@@ -1,0 +1,83 @@
+// CCmdTarget and CCmdUI: whatever commands are routed to, and the object that a command's user interface is updated by.
+#pragma once
+
+#include "../core/CObject.h"
+#include "../core/CString.h"
+#include "../core/Geometry.h"
+#include "../include/afxmsg_.h"
+
+class CMenu;
+class CWnd;
+
+/// Base of everything that has a message map: windows, documents, the application.
+class KY_FRAMEWORK_API CCmdTarget : public CObject {
+    DECLARE_DYNAMIC(CCmdTarget)
+public:
+    /// Offers a command, notification or update to this object's message map, and in derived classes to the objects
+    /// next in the route. Returns whether somebody handled it.
+    ///
+    /// `nCode` is CN_COMMAND, CN_UPDATE_COMMAND_UI or a control's notification code in its low word; the high word is
+    /// WM_NOTIFY or a reflected message's number, and zero stands for WM_COMMAND. `pExtra` is the CCmdUI of an update
+    /// and the AFX_NOTIFY of a notification. With `pHandlerInfo` nothing is called: it is filled with the handler
+    /// found.
+    virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo);
+
+    /// The wait cursor, counted: it shows from the first Begin to the last End. Restore sets it again after something
+    /// else (a message box) changed the cursor.
+    void BeginWaitCursor();
+    void EndWaitCursor();
+    void RestoreWaitCursor();
+
+protected:
+    CCmdTarget() = default;
+
+    static const AFX_MSGMAP* GetThisMessageMap();
+    virtual const AFX_MSGMAP* GetMessageMap() const;
+
+    friend class CWnd;
+};
+
+/// Shows the wait cursor for its own lifetime.
+class KY_FRAMEWORK_API CWaitCursor {
+public:
+    CWaitCursor();
+    ~CWaitCursor();
+    CWaitCursor(const CWaitCursor&) = delete;
+    CWaitCursor& operator=(const CWaitCursor&) = delete;
+    void Restore();
+};
+
+/// One menu item, status bar pane or control whose state follows a command. Update handlers receive it and say what
+/// the item shall look like; derived classes know other kinds of items.
+class KY_FRAMEWORK_API CCmdUI {
+public:
+    CCmdUI() = default;
+    virtual ~CCmdUI() = default;
+
+    UINT m_nID = 0;                ///< The command.
+    UINT m_nIndex = 0;             ///< Position of the menu item, or index of the pane.
+    CMenu* m_pMenu = nullptr;      ///< The menu that holds the item; null when it is no menu item.
+    CMenu* m_pSubMenu = nullptr;   ///< The popup that the item opens, if it does.
+    CWnd* m_pOther = nullptr;      ///< The window to update when it is no menu item.
+    BOOL m_bEnableChanged = FALSE; ///< Enable was called.
+    BOOL m_bContinueRouting = FALSE;
+    UINT m_nIndexMax = 0;           ///< How many items are iterated over.
+    CMenu* m_pParentMenu = nullptr; ///< The menu that holds m_pMenu, if it is a popup.
+
+    /// Also tells DoUpdate that the handler decided about it. Disabling a control that has the focus moves the focus
+    /// on.
+    virtual void Enable(BOOL bOn = TRUE);
+    /// 0 unchecked, 1 checked, 2 undetermined (which menus show as checked).
+    virtual void SetCheck(int nCheck = 1);
+    /// As SetCheck, with the mark of a choice of one among several.
+    virtual void SetRadio(BOOL bOn = TRUE);
+    virtual void SetText(LPCTSTR lpszText);
+
+    /// The update goes on to the next object in the route as if this handler did not exist.
+    void ContinueRouting() { m_bContinueRouting = TRUE; }
+
+    /// Routes the update to `pTarget`. When no handler called Enable and `bDisableIfNoHndler` is set, the item becomes
+    /// enabled or disabled according to whether the command has a handler. Returns whether an update handler was found.
+    /// Items without an id (0 or 0xFFFF) are left alone and count as handled.
+    BOOL DoUpdate(CCmdTarget* pTarget, BOOL bDisableIfNoHndler);
+};

@@ -95,6 +95,15 @@ public:
 
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
+    // --- Called by the model as it changes ----------------------------------------------------------------------------
+    /// The row at that index was taken out, because its record is being deleted: focus, top row and scroll bars follow.
+    /// The selection has already lost it. The rows below have moved up by one.
+    void OnRowRemoved(int nRowIndex);
+    /// All rows were taken out: nothing has the focus any more.
+    void OnRowsCleared();
+    /// The column is about to be deleted: the header forgets it, and a drag or resize of it ends without effect.
+    void OnColumnRemoved(CXTPReportColumn* pColumn);
+
 protected:
     int OnCreate(LPCREATESTRUCT lpCreateStruct);
     void OnDestroy();

@@ -28,6 +28,18 @@ public:
     void EndWaitCursor();
     void RestoreWaitCursor();
 
+    /// References to the object; it is made with one, which belongs to whoever made it. Taking away the last one calls
+    /// OnFinalRelease. Objects that are deleted outright, as most are, need not be counted. Both return the new count.
+    DWORD InternalAddRef() { return static_cast<DWORD>(::InterlockedIncrement(&m_dwRef)); }
+    DWORD InternalRelease() {
+        const LONG references = ::InterlockedDecrement(&m_dwRef);
+        if (references == 0)
+            OnFinalRelease();
+        return static_cast<DWORD>(references);
+    }
+    /// Deletes the object.
+    virtual void OnFinalRelease() { delete this; }
+
 protected:
     CCmdTarget() = default;
 
@@ -35,6 +47,9 @@ protected:
     virtual const AFX_MSGMAP* GetMessageMap() const;
 
     friend class CWnd;
+
+private:
+    LONG m_dwRef = 1;
 };
 
 /// Shows the wait cursor for its own lifetime.

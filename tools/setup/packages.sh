@@ -89,7 +89,7 @@ plan=$(LC_ALL=C apt-get -q --assume-no --no-install-recommends install "${missin
 # megabytes SED-PATTERN: the number of MB that apt's plan gives, rounded up; 0 when it says nothing.
 megabytes() {
     sed -nE "s/.*$1.*/\1 \2/p" <<<"$plan" | tr -d , | awk '{
-        n = $1 + 0; if ($2 == "kB") n /= 1000; if ($2 == "GB") n *= 1000; printf "%d", n + 1 }'
+        n = $1 + 0; if ($2 == "kB") n /= 1000; if ($2 == "GB") n *= 1000; printf "%d", int(n) + (n > int(n)) }'
 }
 download=$(megabytes 'Need to get ([0-9.,]+) (kB|MB|GB)')
 unpacked=$(megabytes 'operation, ([0-9.,]+) (kB|MB|GB) of additional')

@@ -1,9 +1,9 @@
 // Saved layouts, column chooser and theme of the report grid.
 #include "KyReportControl.h"
 
-#include "../common/KyMessages.h"
-#include "../common/KyTranslate.h"
-#include "../themes/Themes.h"
+#include "common/KyMessages.h"
+#include "common/Translation.h"
+#include "themes/Themes.h"
 #include "KyReportHeader.h"
 
 #include <afxdisp.h>

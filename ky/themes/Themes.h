@@ -1,7 +1,7 @@
 // The application's visual theme: the stored choice, and what it means for each component of the toolkit.
 #pragma once
 
-#include "../common/KyExport.h"
+#include "common/KyExport.h"
 #include "KyPaintTheme.h"
 
 #include <XTToolkitPro.h>

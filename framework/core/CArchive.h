@@ -40,11 +40,10 @@ public:
     void Write(const void* buffer, UINT count);
     /// Writes the characters without length or terminator.
     void WriteString(LPCTSTR text);
-    /// Reads up to the next line feed or `maxCount - 1` characters; a line feed that ends the line is kept. Null at the
-    /// end of the data.
+    /// Reads one line: up to the next line feed, carriage return with line feed, or NUL, which is dropped, and at most
+    /// `maxCount - 1` characters. Null when the data ends before the first character.
     LPTSTR ReadString(LPTSTR buffer, UINT maxCount);
-    /// Reads up to the next line feed, which is dropped together with a carriage return before it. FALSE at the end of
-    /// the data.
+    /// As above for a line of any length; FALSE when the data ends before the first character.
     BOOL ReadString(CString& text);
 
     /// Storing: writes what is buffered. Loading: moves the file back to the first byte not yet read.

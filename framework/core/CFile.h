@@ -61,7 +61,7 @@ public:
     void SeekToBegin() { Seek(0, begin); }
     ULONGLONG SeekToEnd() { return static_cast<ULONGLONG>(Seek(0, end)); }
     virtual ULONGLONG GetLength() const;
-    /// Cuts or lengthens the file; the position becomes the new end.
+    /// Cuts or lengthens the file; the position may end up at the new end.
     virtual void SetLength(ULONGLONG newLength);
 
     virtual CString GetFileName() const;

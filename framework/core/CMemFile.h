@@ -17,8 +17,8 @@ public:
     /// Works on the caller's block, which the file never frees. With a grow step of zero the block is the content;
     /// otherwise the file starts empty, the block comes from malloc and may be moved by growing.
     void Attach(BYTE* buffer, UINT bufferSize, UINT growBytes = 0);
-    /// Gives up the block and leaves the file empty and closed; the caller releases the block with free. Null for a
-    /// file that never held anything.
+    /// Gives up the block and leaves the file empty; the caller releases the block with free. Null for a file that
+    /// never held anything.
     BYTE* Detach();
 
     UINT Read(void* buffer, UINT count) override;

@@ -30,7 +30,6 @@ public:
     CString(LPCSTR text, int length);
     CString(wchar_t character, int repeat = 1);
     explicit CString(char character, int repeat = 1);
-    CString(const std::wstring& text) : m_text(text) {}
     ~CString() = default;
 
     CString& operator=(const CString&) = default;
@@ -52,7 +51,7 @@ public:
     LPCWSTR GetString() const noexcept { return m_text.c_str(); }
 
     // Direct access to the characters
-    /// A writable buffer that keeps the present text and its length; call ReleaseBuffer after writing.
+    /// A writable buffer that starts with the present text; call ReleaseBuffer after writing and before anything else.
     LPWSTR GetBuffer() { return m_text.data(); }
     /// As above with room for at least `minLength` characters and the terminator.
     LPWSTR GetBuffer(int minLength);
@@ -194,7 +193,6 @@ inline bool operator>=(LPCWSTR a, const CString& b) noexcept { return b.Compare(
 template <>
 struct std::hash<CString> {
     std::size_t operator()(const CString& text) const noexcept {
-        return std::hash<std::wstring_view>()(
-            std::wstring_view(text.GetString(), static_cast<std::size_t>(text.GetLength())));
+        return std::hash<std::wstring_view>()(std::wstring_view(text.GetString()));
     }
 };

@@ -22,7 +22,11 @@ public:
     Object* FindTemporary(Handle handle) const { return Find(m_temporary, handle); }
 
     void SetPermanent(Handle handle, Object* object) { m_permanent[handle] = object; }
-    void RemovePermanent(Handle handle) { m_permanent.erase(handle); }
+    /// Forgets the handle if that object is the one known for it; two objects may hold the same stock object.
+    void RemovePermanent(Handle handle, const Object* object) {
+        if (FindPermanent(handle) == object)
+            m_permanent.erase(handle);
+    }
 
     /// Takes over a temporary object. One made earlier for the same handle is no longer found but stays alive, since
     /// callers may still hold it.

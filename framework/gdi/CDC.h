@@ -228,4 +228,17 @@ public:
 
 private:
     bool HasOwnAttribDC() const { return m_hAttribDC && m_hAttribDC != m_hDC; }
+
+    /// Applies one setting to the output context and to an attribute context of its own, which answers.
+    template <class Result, class Setting, class... Values>
+    auto OnBoth(Result failed, Setting setting, Values... values) {
+        auto result = static_cast<decltype(setting(m_hDC, values...))>(failed);
+        if (m_hDC)
+            result = setting(m_hDC, values...);
+        if (HasOwnAttribDC())
+            result = setting(m_hAttribDC, values...);
+        return result;
+    }
+
+    HDC m_owned = nullptr; // the attached context; none in temporary objects
 };

@@ -41,4 +41,7 @@ public:
 protected:
     /// The object of a handle, of the framework class for `type` (an OBJ_ value) when it has to be made.
     static CGdiObject* FromHandleOfType(HGDIOBJ handle, DWORD type);
+
+private:
+    bool m_isOwner = false; // temporary objects are not
 };

@@ -13,6 +13,13 @@ namespace {
 
 constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
 
+/// Gives back room that was made for rows which did not come.
+template <typename T>
+void Trim(std::vector<T>& values) {
+    if (values.capacity() > values.size() + values.size() / 20)
+        values.shrink_to_fit();
+}
+
 /// True when every byte is ASCII and none is zero, which most texts are.
 bool IsPlainAscii(std::string_view text) {
     return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<signed char>(c) > 0; });
@@ -105,6 +112,8 @@ std::string_view ColumnBuilder::Clean(std::string_view text, std::size_t line) {
 Column ColumnBuilder::Finish(std::string name, const Dialect& dialect, MessageList& messages) {
     m_column.name = std::move(name);
     m_column.decimalMark = m_mark;
+    Trim(m_column.numbers);
+    Trim(m_column.textIds);
     TellWrongBytes(messages);
     if (m_way == Way::Numbers) {
         m_column.type = ColumnType::Number;

@@ -230,7 +230,7 @@ void ColumnBuilder::TellWrongBytes(MessageList& messages) const {
         Message message;
         message.line = line;
         message.literal = Translatable("%1%, line %2%, column \"%3%\": some characters are not UTF-8 and are shown as "
-                                       "\uFFFD. Save the file as UTF-8 to see them.");
+                                       "�. Save the file as UTF-8 to see them.");
         message.arguments = {messages.FileName(), std::to_string(line), m_column.name};
         messages.Add(std::move(message));
     }

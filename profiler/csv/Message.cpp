@@ -25,13 +25,12 @@ std::string FillIn(const std::string& text, const std::vector<std::string>& argu
 }
 
 std::string Text(const Message& message) {
-    return Text(message, [](const char* literal, const char* plural, std::size_t number) {
-        return std::string(plural != nullptr && number != 1 ? plural : literal);
-    });
+    return Text(message, [](const char* text) { return std::string(text); });
 }
 
 std::string Text(const Message& message, const Translator& translate) {
-    return FillIn(translate(message.literal, message.plural, message.number), message.arguments);
+    const bool plural = message.plural != nullptr && message.number != 1;
+    return FillIn(translate(plural ? message.plural : message.literal), message.arguments);
 }
 
 std::string Excerpt(const std::string& text) {

@@ -23,12 +23,11 @@ struct Message {
     std::vector<std::string> arguments; ///< UTF-8, in the order of the placeholders
 };
 
-/// Gives the user's wording of a literal. Called with the two forms of `Message` (the second may be null) and the
-/// number that decides between them; returns UTF-8 with the placeholders still in it.
-using Translator = std::function<std::string(const char* literal, const char* plural, std::size_t number)>;
+/// Gives the user's wording of an English text; returns UTF-8 with the placeholders still in it.
+using Translator = std::function<std::string(const char* text)>;
 
-/// Marks a literal for the message catalogue; it is translated later, by the `Translator`.
-constexpr const char* Translatable(const char* literal) { return literal; }
+/// Marks a text for the message catalogue; it is translated later, by the `Translator`.
+constexpr const char* Translatable(const char* text) { return text; }
 
 /// The sentence in English.
 std::string Text(const Message& message);

@@ -132,15 +132,13 @@ RecordReader::Scan RecordReader::ScanRecord(Record& record, Found& found, std::s
     }
 }
 
-/// Moves `position`, just behind an opening quote, to just behind its closing quote. False when the buffer ends first,
-/// also when it ends right behind a quote that the next byte might double.
+/// Moves `position`, just behind an opening quote, to just behind its closing quote; false when the buffer ends first.
+/// A quote at the buffer's very end may be the first of two; the scan then needs more bytes in any case.
 bool RecordReader::FindClosingQuote(std::size_t& position, Found& found, bool& doubled) const {
     const char* const data = m_buffer.data();
     for (; position < m_end; ++position) {
         const char byte = data[position];
         if (byte == '"') {
-            if (position + 1 == m_end && !m_sourceAtEnd)
-                return false;
             if (position + 1 == m_end || data[position + 1] != '"') {
                 ++position;
                 return true;

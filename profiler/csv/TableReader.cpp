@@ -191,7 +191,7 @@ bool TableReading::ReadNames(RecordReader& reader) {
         if (name != Trimmed(field.text) && !utf8::IsValid(field.text))
             Warn(line,
                  Translatable("%1%, line %2%: the name of column %3% has characters that are not UTF-8 and are "
-                              "shown as \uFFFD. Save the file as UTF-8 to see them."),
+                              "shown as �. Save the file as UTF-8 to see them."),
                  {place});
         numbers += ReadNumber(name, m_dialect.fileMark).fault == NumberFault::None ? 1 : 0;
 

@@ -24,7 +24,7 @@ double PointerFraction(int x, int left, int right) {
     return distance / width;
 }
 
-bool IsNear(double mark, double pointer) { return std::fabs(mark - pointer) < NearDistance; }
+bool IsNear(double mark, double pointer) { return !IsMissing(mark) && std::fabs(mark - pointer) < NearDistance; }
 
 std::optional<double> ValueUnderPointer(double fraction, const Scale& scale) {
     if (!(fraction >= 0.0 && fraction <= 1.0))

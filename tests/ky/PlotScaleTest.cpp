@@ -83,6 +83,7 @@ TEST(PlotScale, NearIsLessThanTwoPercentOfTheWidth) {
     EXPECT_FALSE(IsNear(0.0, 0.02));
     EXPECT_FALSE(IsNear(0.5, 0.521));
     EXPECT_FALSE(IsNear(-99.0, 0.0));
+    EXPECT_FALSE(IsNear(-99.0, -99.0)); // no mark, and a pointer that was never over the cell
 }
 
 TEST(PlotScale, TheValueUnderThePointerIsToldInsideTheCellOnly) {

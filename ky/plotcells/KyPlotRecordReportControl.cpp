@@ -1,0 +1,171 @@
+// The report grid in which plot cells can be dragged.
+#include "KyPlotRecordReportControl.h"
+
+#include "../common/KeepAlive.h"
+#include "KyPlotRecordItem.h"
+
+#include <algorithm>
+#include <utility>
+
+IMPLEMENT_DYNCREATE(KyPlotRecordReportControl, KyReportControl)
+
+BEGIN_MESSAGE_MAP(KyPlotRecordReportControl, KyReportControl)
+    ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONUP()
+    ON_WM_MOUSEMOVE()
+    ON_WM_SETCURSOR()
+    ON_WM_MOUSELEAVE()
+END_MESSAGE_MAP()
+
+KyPlotRecordReportControl::KyPlotRecordReportControl() = default;
+
+KyPlotRecordReportControl::~KyPlotRecordReportControl() { RouteDragTo(nullptr); }
+
+// --- The routed drag
+// --------------------------------------------------------------------------------------------------
+
+/// Routes a drag to the cell, or to none. The cell stays in memory while it is routed to: the host may remove its
+/// record at any time, also during the drag.
+void KyPlotRecordReportControl::RouteDragTo(KyPlotRecordItem* item) {
+    if (item != nullptr)
+        item->InternalAddRef();
+    KyPlotRecordItem* const former = std::exchange(m_pDragItem, item);
+    if (former != nullptr)
+        former->InternalRelease();
+}
+
+/// Ends the routing to a cell that the host has taken out of the grid.
+void KyPlotRecordReportControl::ForgetRemovedDragItem() {
+    if (m_pDragItem != nullptr && m_pDragItem->GetReportControl() != this) {
+        m_pDragItem->EndDrag(CPoint(), m_rcDragItem, false);
+        RouteDragTo(nullptr);
+    }
+}
+
+/// A point outside the dragged cell becomes one at the cell's vertical middle, at or between its left and right edge,
+/// so that the toolkit keeps delivering moves to the cell.
+CPoint KyPlotRecordReportControl::PulledIntoDragItem(CPoint point) const {
+    const CRect rect = m_pDragItem->GetItemRect();
+    if (rect.PtInRect(point))
+        return point;
+    return CPoint(point.x < rect.left ? rect.left : std::min(point.x, rect.right), (rect.top + rect.bottom) / 2);
+}
+
+CPoint KyPlotRecordReportControl::CursorPosition() const {
+    CPoint point;
+    ::GetCursorPos(&point);
+    ScreenToClient(&point);
+    return point;
+}
+
+void KyPlotRecordReportControl::OnPlotRecordItemDragCancelled() {}
+
+// --- Mouse
+// ------------------------------------------------------------------------------------------------------------
+
+void KyPlotRecordReportControl::OnLButtonDown(UINT flags, CPoint point) {
+    KyReportControl::OnLButtonDown(flags, point);
+    ForgetRemovedDragItem();
+    CXTPReportRow* const row = HitTest(point);
+    if (row == nullptr)
+        return;
+    CRect cell;
+    CXTPReportColumn* column = nullptr;
+    auto* const item = dynamic_cast<KyPlotRecordItem*>(row->HitTest(point, &cell, &column));
+    if (item == nullptr)
+        return;
+
+    bool capture = false;
+    if (!item->GetAllowInteraction(point, capture)) {
+        ::SetCursor(::LoadCursor(nullptr, IDC_NO));
+        return;
+    }
+    const KeepAlive alive(*item);
+    if (capture) {
+        SetCapture();
+        // A drag that was left routed to another cell ends there, unapplied.
+        if (m_pDragItem != nullptr && m_pDragItem != item)
+            m_pDragItem->EndDrag(point, m_rcDragItem, false);
+        RouteDragTo(item);
+        m_rcDragItem = cell;
+    }
+    item->BeginDrag(point, cell);
+}
+
+void KyPlotRecordReportControl::OnMouseMove(UINT flags, CPoint point) {
+    ForgetRemovedDragItem();
+    if (m_pDragItem != nullptr)
+        point = PulledIntoDragItem(point);
+    KyReportControl::OnMouseMove(flags, point);
+}
+
+void KyPlotRecordReportControl::OnLButtonUp(UINT flags, CPoint point) {
+    ForgetRemovedDragItem();
+    if (m_pDragItem != nullptr)
+        point = PulledIntoDragItem(point);
+    KyReportControl::OnLButtonUp(flags, point);
+    ::ReleaseCapture();
+    ForgetRemovedDragItem();
+
+    // Intended: a release over no row or no item leaves the drag routed until the next release, Escape or leave.
+    CXTPReportRow* const row = HitTest(point);
+    if (row == nullptr) {
+        GetSelectedRows()->Clear();
+        return;
+    }
+    CRect cell;
+    CXTPReportColumn* column = nullptr;
+    CXTPReportRecordItem* const item = row->HitTest(point, &cell, &column);
+    if (item == nullptr || m_pDragItem == nullptr)
+        return;
+
+    // The routing ends first: a slot of the cell's signal may run a message loop, in which the pointer leaves the grid.
+    const KeepAlive alive(*m_pDragItem);
+    KyPlotRecordItem* const dragged = m_pDragItem;
+    RouteDragTo(nullptr);
+    if (item == dragged)
+        dragged->EndDrag(point, cell, true);
+    else
+        dragged->EndDrag(point, m_rcDragItem, false);
+    RedrawControl();
+}
+
+void KyPlotRecordReportControl::OnMouseLeave() {
+    ForgetRemovedDragItem();
+    if (m_pDragItem != nullptr) {
+        const KeepAlive alive(*m_pDragItem);
+        KyPlotRecordItem* const dragged = m_pDragItem;
+        RouteDragTo(nullptr);
+        dragged->EndDrag(CursorPosition(), dragged->GetItemRect(), true);
+        RedrawControl();
+    }
+    KyReportControl::OnMouseLeave();
+}
+
+BOOL KyPlotRecordReportControl::OnSetCursor(CWnd* wnd, UINT hitTest, UINT message) {
+    const CPoint point = CursorPosition();
+    if (CXTPReportRow* const row = HitTest(point)) {
+        auto* const item = dynamic_cast<KyPlotRecordItem*>(row->HitTest(point, nullptr, nullptr));
+        if (item != nullptr && item->OnSetCursor(point))
+            return TRUE;
+    }
+    return KyReportControl::OnSetCursor(wnd, hitTest, message);
+}
+
+// --- Keyboard and commands
+// --------------------------------------------------------------------------------------------
+
+BOOL KyPlotRecordReportControl::PreTranslateMessage(MSG* msg) {
+    // Intended: only wParam is looked at, so any message that carries 27 there cancels a routed drag.
+    if (msg->wParam == VK_ESCAPE && m_pDragItem != nullptr) {
+        const KeepAlive alive(*m_pDragItem);
+        m_pDragItem->CancelDrag();
+        OnPlotRecordItemDragCancelled();
+        RouteDragTo(nullptr);
+    }
+    return KyReportControl::PreTranslateMessage(msg);
+}
+
+BOOL KyPlotRecordReportControl::CanCut() { return FALSE; }
+
+BOOL KyPlotRecordReportControl::CanPaste() { return FALSE; }

@@ -17,4 +17,5 @@
 #include "../dialogs/CDataExchange.h"
 #include "../dialogs/CDialog.h"
 #include "../docview/CFrameWnd.h"
+#include "../docview/CMDIFrameWnd.h"
 #include "../docview/CView.h"

@@ -1,6 +1,7 @@
 // One cell of a record: the base of every cell that a report control shows.
 #pragma once
 
+#include "CompactText.h"
 #include "XTPReportDefines.h"
 
 #include <memory>
@@ -28,10 +29,13 @@ public:
     static void operator delete(void* p, size_t size);
 
     // --- Text -------------------------------------------------------------------------------------------------
-    /// The text to show; the explicit caption when one is set.
+    /// The text to show; the explicit caption when one is set. Setters do not redraw: `RedrawControl` shows the
+    /// changes.
     virtual CString GetCaption(CXTPReportColumn* pColumn);
+    /// An explicit caption, shown instead of the value's text; empty takes it back.
     void SetCaption(LPCTSTR strCaption);
-    /// printf-style format of the value, "%s" or "%f" as the kind of item has it.
+    /// printf-style format of the value, "%s" or "%f" as the kind of item has it. A format that would read anything but
+    /// the one value is kept but not used.
     CString GetFormatString() const;
     void SetFormatString(LPCTSTR strFormat);
     CString GetTooltip() const;
@@ -49,15 +53,20 @@ public:
     int GetAlignment() const;
     void SetAlignment(int nAlignment);
 
-    /// Fills the metrics: text, font and colours of the cell; called before each drawing.
+    /// Fills the metrics: text, font and colours of the cell; called before each drawing, after the theme and the
+    /// record have filled them. The item's own colours give way to those of a selection.
     virtual void GetItemMetrics(XTP_REPORTRECORDITEM_DRAWARGS* pDrawArgs, XTP_REPORTRECORDITEM_METRICS* pMetrics);
-    /// Draws the whole cell: metrics, background, caption.
+    /// Draws the whole cell: metrics, background where it differs from the row's, caption. While the caption is drawn
+    /// the metrics' font and text colour are selected into the device context, whose background mode is transparent;
+    /// what was selected before comes back afterwards.
     virtual void Draw(XTP_REPORTRECORDITEM_DRAWARGS* pDrawArgs);
-    /// Draws what the cell shows inside `pDrawArgs->rcItem`; here the text with its hyperlinks.
+    /// Draws what the cell shows inside `pDrawArgs->rcItem`; here the text with its hyperlinks, in the text colour that
+    /// the device context has.
     virtual void OnDrawCaption(XTP_REPORTRECORDITEM_DRAWARGS* pDrawArgs, XTP_REPORTRECORDITEM_METRICS* pMetrics);
 
     // --- Order ------------------------------------------------------------------------------------------------
-    /// <0, 0, >0 as this cell sorts before, with or after the other.
+    /// <0, 0, >0 as this cell sorts before, with or after the other; here by caption in the user's locale, without
+    /// regard to case. `pItem` is null for a record that has no such cell, which sorts first.
     virtual int Compare(CXTPReportColumn* pColumn, CXTPReportRecordItem* pItem);
 
     // --- Hyperlinks -------------------------------------------------------------------------------------------
@@ -72,6 +81,8 @@ public:
     /// Returning TRUE keeps the press from the row (no selection change).
     virtual BOOL OnLButtonDown(XTP_REPORTRECORDITEM_CLICKARGS* pClickArgs);
     virtual BOOL OnLButtonUp(XTP_REPORTRECORDITEM_CLICKARGS* pClickArgs);
+    /// A click on a hyperlink tells the owner (XTP_NM_REPORT_HYPERLINK). NM_CLICK and NM_DBLCLK are the control's
+    /// affair.
     virtual void OnClick(XTP_REPORTRECORDITEM_CLICKARGS* pClickArgs);
     virtual void OnDblClick(XTP_REPORTRECORDITEM_CLICKARGS* pClickArgs);
     /// Every mouse move over the cell; the cursor over a hyperlink is the control's affair.
@@ -90,16 +101,23 @@ public:
     void SetItemData(DWORD_PTR dwData);
 
 protected:
-    CString m_strCaption; ///< explicit caption; empty: the value makes the text
+    /// As `m_formatString`, for the texts that many items have in common.
+    void InternFormatString(LPCTSTR strFormat) { m_formatString = CompactText::Interned(strFormat); }
+    LPCTSTR FormatString() const { return m_formatString.GetString(); }
+
+    CompactText m_strCaption; ///< explicit caption; empty: the value makes the text
 
 private:
     friend class CXTPReportRecord;
-    struct Extras; ///< what few cells have: format, tip, alignment, links, data
+    struct Extras; ///< what few cells have: tip, links, data
     Extras& EnsureExtras();
 
+    // In this order the members leave no gaps: millions of items are ordinary.
+    short m_nAlignment = -1;
+    bool m_bBold = false;
     CXTPReportRecord* m_pRecord = nullptr;
     COLORREF m_clrText = CXTPPaintManagerColor::Unset;
     COLORREF m_clrBackground = CXTPPaintManagerColor::Unset;
-    bool m_bBold = false;
+    CompactText m_formatString;
     std::unique_ptr<Extras> m_pExtras;
 };

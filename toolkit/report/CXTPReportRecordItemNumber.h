@@ -7,11 +7,13 @@
 class KY_TOOLKIT_API CXTPReportRecordItemNumber : public CXTPReportRecordItem {
     DECLARE_DYNCREATE(CXTPReportRecordItemNumber)
 public:
-    /// @param strFormat printf-style with one directive for a double, such as "%.2f" or "%g"; a format with any other
-    ///                  directive is ignored and the number is shown with "%g"
+    /// @param strFormat printf-style with one directive for a double, such as "%.2f" or "%g"; with a format that has
+    /// any
+    ///                  other directive, or none, the number is shown with "%g"
     CXTPReportRecordItemNumber(double dValue = 0.0, LPCTSTR strFormat = _T("%f"));
 
     double GetValue() const { return m_dValue; }
+    /// Shows at the next redraw. An explicit caption stays in front of it.
     virtual void SetValue(double dValue);
 
     CString GetCaption(CXTPReportColumn* pColumn) override;

@@ -10,11 +10,12 @@ public:
     CXTPReportRecordItemText(LPCTSTR szText = _T(""));
 
     CString GetValue() const { return m_strText; }
+    /// Shows at the next redraw. An explicit caption stays in front of it.
     virtual void SetValue(LPCTSTR szText);
 
     CString GetCaption(CXTPReportColumn* pColumn) override;
     int Compare(CXTPReportColumn* pColumn, CXTPReportRecordItem* pItem) override;
 
 protected:
-    CString m_strText;
+    CompactText m_strText;
 };

@@ -1,0 +1,28 @@
+// A cell that shows a number through a printf-style format.
+#include "CXTPReportRecordItemNumber.h"
+
+#include "ItemCompare.h"
+#include "ItemFormat.h"
+
+IMPLEMENT_DYNCREATE(CXTPReportRecordItemNumber, CXTPReportRecordItem)
+
+CXTPReportRecordItemNumber::CXTPReportRecordItemNumber(double dValue, LPCTSTR strFormat) : m_dValue(dValue) {
+    InternFormatString(strFormat);
+}
+
+void CXTPReportRecordItemNumber::SetValue(double dValue) { m_dValue = dValue; }
+
+CString CXTPReportRecordItemNumber::GetCaption(CXTPReportColumn* /*pColumn*/) {
+    if (!m_strCaption.IsEmpty())
+        return m_strCaption;
+    const LPCTSTR strFormat = FormatString();
+    CString strText;
+    strText.Format(itemformat::IsSafe(strFormat, itemformat::Value::Number) ? strFormat : _T("%g"), m_dValue);
+    return strText;
+}
+
+int CXTPReportRecordItemNumber::Compare(CXTPReportColumn* pColumn, CXTPReportRecordItem* pItem) {
+    if (const auto* const pNumber = dynamic_cast<const CXTPReportRecordItemNumber*>(pItem))
+        return itemcompare::Numbers(m_dValue, pNumber->m_dValue);
+    return CXTPReportRecordItem::Compare(pColumn, pItem);
+}

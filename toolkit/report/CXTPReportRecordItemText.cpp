@@ -1,0 +1,28 @@
+// A cell that shows a text.
+#include "CXTPReportRecordItemText.h"
+
+#include "ItemCompare.h"
+#include "ItemFormat.h"
+
+#include <cwchar>
+
+IMPLEMENT_DYNCREATE(CXTPReportRecordItemText, CXTPReportRecordItem)
+
+CXTPReportRecordItemText::CXTPReportRecordItemText(LPCTSTR szText) : m_strText(szText) { InternFormatString(_T("%s")); }
+
+void CXTPReportRecordItemText::SetValue(LPCTSTR szText) { m_strText = szText; }
+
+CString CXTPReportRecordItemText::GetCaption(CXTPReportColumn* /*pColumn*/) {
+    if (!m_strCaption.IsEmpty())
+        return m_strCaption;
+    const LPCTSTR strFormat = FormatString();
+    if (std::wcscmp(strFormat, _T("%s")) == 0 || !itemformat::IsSafe(strFormat, itemformat::Value::Text))
+        return m_strText;
+    CString strText;
+    strText.Format(strFormat, m_strText.GetString());
+    return strText;
+}
+
+int CXTPReportRecordItemText::Compare(CXTPReportColumn* pColumn, CXTPReportRecordItem* pItem) {
+    return CXTPReportRecordItem::Compare(pColumn, pItem);
+}

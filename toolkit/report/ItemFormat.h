@@ -1,0 +1,14 @@
+// Checks of the printf-style formats that hosts give to cells. No window needed.
+#pragma once
+
+namespace itemformat {
+
+/// Kinds of value that a format may show.
+enum class Value { Number, Text };
+
+/// True when the format has exactly one directive, which takes a double (a, e, f, g) or a text (s), and nothing else
+/// that would read an argument; "%%" may stand anywhere. Width and precision have at most three digits. Only such a
+/// format may be handed to printf with one argument.
+bool IsSafe(const wchar_t* format, Value value);
+
+} // namespace itemformat

@@ -1,18 +1,23 @@
 // One record: a row's worth of items.
 #pragma once
 
+#include "RecordItemHeap.h"
 #include "XTPReportDefines.h"
 
 #include <vector>
 
-/// Owns its items. Created by the host with `new`; owned by the record collection it is added to.
+/// Owns its items. Created by the host with `new`; owned by the record collection it is added to. Reference counted
+/// like its items: a handler that may cause the record's removal holds a reference.
 class KY_TOOLKIT_API CXTPReportRecord : public CCmdTarget {
     DECLARE_DYNAMIC(CXTPReportRecord)
 public:
     CXTPReportRecord();
     ~CXTPReportRecord() override;
 
-    /// Takes ownership and returns the item, so that it can be set up in the same expression.
+    static void* operator new(size_t size);
+    static void operator delete(void* p, size_t size);
+
+    /// Takes ownership and returns the item, so that it can be set up in the same expression. Null is not added.
     virtual CXTPReportRecordItem* AddItem(CXTPReportRecordItem* pItem);
     int GetItemCount() const { return static_cast<int>(m_items.size()); }
     CXTPReportRecordItem* GetItem(int nItemIndex) const; ///< null when out of range
@@ -23,9 +28,10 @@ public:
     BOOL IsVisible() const { return m_bVisible; }
     void SetVisible(BOOL bVisible) { m_bVisible = bVisible; }
 
-    int GetIndex() const { return m_nIndex; } ///< place in the collection, −1 when in none
+    int GetIndex() const; ///< place in the collection, −1 when in none; −1 for the record of virtual mode
     CXTPReportRecords* GetRecords() const { return m_pRecords; }
-    /// Removes the record from its collection and deletes it.
+    /// Removes the record, and its row, from its collection and deletes it. The items that handlers hold references to
+    /// live on without a record.
     void Delete();
 
     DWORD_PTR GetItemData() const { return m_dwData; }
@@ -36,9 +42,12 @@ public:
 
 private:
     friend class CXTPReportRecords;
-    std::vector<CXTPReportRecordItem*> m_items; ///< released in the destructor
+    friend class CXTPReportRows;
+
+    int m_nIndex = -1; ///< kept by the collection's sequence
+    std::vector<CXTPReportRecordItem*, recorditemheap::Allocator<CXTPReportRecordItem*>> m_items;
     CXTPReportRecords* m_pRecords = nullptr;
     DWORD_PTR m_dwData = 0;
-    int m_nIndex = -1;
+    int m_nRow = -1; ///< kept by the rows' sequence
     bool m_bVisible = true;
 };

@@ -1,38 +1,49 @@
 // The records of a report control.
 #pragma once
 
+#include "RecordSequence.h"
 #include "XTPReportDefines.h"
 
 #include <vector>
 
-/// Owns the records. In virtual mode it owns one record that stands for all rows.
+/// Owns the records. In virtual mode it owns one record that stands for all rows. Records that are added show after the
+/// control's next `Populate`; records that are removed lose their rows at once.
 class KY_TOOLKIT_API CXTPReportRecords : public CCmdTarget {
 public:
     explicit CXTPReportRecords(CXTPReportControl* pControl);
     ~CXTPReportRecords() override;
 
+    /// Takes ownership and returns the record; null is not added.
     CXTPReportRecord* Add(CXTPReportRecord* pRecord);
     void InsertAt(int nIndex, CXTPReportRecord* pRecord); ///< clamped to 0…count
-    /// Deletes the record; its row goes with it at once, so that no row ever shows a dead record.
+    /// Deletes the record; its row goes with it at once, so that no row ever shows a dead record. FALSE when the record
+    /// is not in this collection.
     BOOL RemoveRecord(CXTPReportRecord* pRecord);
-    void RemoveAt(int nIndex);
+    void RemoveAt(int nIndex); ///< nothing happens when out of range
+    /// Deletes all records with their rows; virtual mode ends.
     void RemoveAll();
 
-    int GetCount() const { return static_cast<int>(m_records.size()); }
-    CXTPReportRecord* GetAt(int nIndex) const; ///< null when out of range
+    /// Records there are; 0 in virtual mode.
+    int GetCount() const { return m_records.Count(); }
+    CXTPReportRecord* GetAt(int nIndex) const { return m_records.At(nIndex); } ///< null when out of range
+    int IndexOf(const CXTPReportRecord* pRecord) const { return m_records.IndexOf(pRecord); } ///< −1 when absent
     CXTPReportControl* GetControl() const { return m_pControl; }
 
-    /// One record for `nCount` rows; null and 0 end virtual mode. Takes ownership of the record.
+    /// One record for `nCount` rows, shown after `Populate`; it takes the place of all records that are there. Null and
+    /// 0 end virtual mode. Takes ownership of the record.
     void SetVirtualMode(CXTPReportRecord* pVirtualRecord, int nCount);
     BOOL IsVirtualMode() const { return m_pVirtualRecord != nullptr; }
     CXTPReportRecord* GetVirtualRecord() const { return m_pVirtualRecord; }
     int GetVirtualCount() const { return m_nVirtualCount; }
 
+    const std::vector<CXTPReportRecord*>& GetRecords() const { return m_records.Records(); }
+
 private:
-    void Reindex(int nFirst);
+    CXTPReportRows* GetRows() const;
+    void Release(CXTPReportRecord* pRecord);
 
     CXTPReportControl* m_pControl;
-    std::vector<CXTPReportRecord*> m_records;
+    RecordSequence m_records;
     CXTPReportRecord* m_pVirtualRecord = nullptr;
     int m_nVirtualCount = 0;
 };

@@ -1,38 +1,46 @@
 // The rows of a report control: the records in the order in which they are shown.
 #pragma once
 
+#include "RecordSequence.h"
 #include "XTPReportDefines.h"
 
+#include <cstdint>
 #include <unordered_map>
 #include <vector>
 
 /// Rebuilt by `CXTPReportControl::Populate`. Row objects are made when they are first asked for, so that a control with
-/// millions of rows holds objects only for those that were looked at.
+/// millions of rows holds objects only for those that were looked at. A row object stays the same until the next
+/// rebuild; one that was taken out has neither control nor record.
 class KY_TOOLKIT_API CXTPReportRows : public CCmdTarget {
 public:
     explicit CXTPReportRows(CXTPReportControl* pControl);
     ~CXTPReportRows() override;
 
     int GetCount() const;
-    CXTPReportRow* GetAt(int nIndex) const; ///< null when out of range
-    CXTPReportRow* Find(CXTPReportRecord* pRecord) const;
-    CXTPReportRecord* GetRecordAt(int nIndex) const; ///< as `GetAt(n)->GetRecord()` without making the row object
+    CXTPReportRow* GetAt(int nIndex) const;               ///< null when out of range
+    CXTPReportRow* Find(CXTPReportRecord* pRecord) const; ///< null when the record has no row, and in virtual mode
+    int IndexOf(const CXTPReportRecord* pRecord) const;   ///< −1 when the record has no row, and in virtual mode
+    CXTPReportRecord* GetRecordAt(int nIndex) const;      ///< as `GetAt(n)->GetRecord()` without making the row object
     CXTPReportControl* GetControl() const { return m_pControl; }
 
     // --- For the control ----------------------------------------------------------------------------------------
     /// Takes the visible records in the given order; every earlier row object is detached.
     void Rebuild(std::vector<CXTPReportRecord*> records);
     void RebuildVirtual(CXTPReportRecord* pVirtualRecord, int nCount);
-    /// Takes out the row of a record that is about to be deleted.
+    BOOL IsVirtual() const { return m_pVirtualRecord != nullptr; }
+    /// Takes out the row of a record that is about to be deleted, out of the selection as well, and tells the control.
     void RecordRemoved(CXTPReportRecord* pRecord);
     void Clear();
 
 private:
+    std::uintptr_t KeyOf(int nIndex) const;
     void DetachRowObjects();
+    void Detach(CXTPReportRow* pRow);
 
     CXTPReportControl* m_pControl;
-    std::vector<CXTPReportRecord*> m_records;
+    RecordSequence m_records;
     CXTPReportRecord* m_pVirtualRecord = nullptr;
     int m_nVirtualCount = 0;
-    mutable std::unordered_map<int, CXTPReportRow*> m_rowObjects;
+    /// By record, so that they stay in place when a row above is taken out; by index in virtual mode.
+    mutable std::unordered_map<std::uintptr_t, CXTPReportRow*> m_rowObjects;
 };

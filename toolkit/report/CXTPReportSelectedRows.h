@@ -10,12 +10,13 @@ class KY_TOOLKIT_API CXTPReportSelectedRows : public CCmdTarget {
 public:
     explicit CXTPReportSelectedRows(CXTPReportControl* pControl);
 
-    int GetCount() const;
+    int GetCount() const;                   ///< held at the largest int
     CXTPReportRow* GetAt(int nIndex) const; ///< the nIndex-th selected row from the top; null when out of range
     BOOL Contains(const CXTPReportRow* pRow) const;
     BOOL Contains(int nRowIndex) const;
 
     void Clear();
+    /// Without multiple selection as `Select`.
     void Add(CXTPReportRow* pRow);
     void Remove(CXTPReportRow* pRow);
     void Invert(CXTPReportRow* pRow);
@@ -29,11 +30,18 @@ public:
     int GetAnchor() const { return m_nAnchor; }
     void SetAnchor(int nRowIndex) { m_nAnchor = nRowIndex; }
 
-    /// The ranges themselves, for copying the selection over a `Populate`.
+    // --- For the control and its rows -----------------------------------------------------------------------------
+    /// The ranges themselves, for carrying the selection over a `Populate`. Setting them drops what lies beyond the
+    /// rows.
     const RowSelection& GetRanges() const { return m_ranges; }
     void SetRanges(const RowSelection& ranges);
+    /// The row was taken out: it leaves the selection, and those below move up by one.
+    void RowRemoved(int nRowIndex);
 
 private:
+    int GetRowCount() const;
+    void Changed();
+
     CXTPReportControl* m_pControl;
     RowSelection m_ranges;
     int m_nAnchor = -1;

@@ -1,0 +1,81 @@
+// The records of a report control.
+#include "CXTPReportRecords.h"
+
+#include "CXTPReportControl.h"
+#include "CXTPReportRecord.h"
+#include "CXTPReportRows.h"
+
+#include <algorithm>
+
+CXTPReportRecords::CXTPReportRecords(CXTPReportControl* pControl)
+    : m_pControl(pControl), m_records(&CXTPReportRecord::m_nIndex) {}
+
+CXTPReportRecords::~CXTPReportRecords() {
+    // The control is being destroyed, and its rows are gone.
+    m_pControl = nullptr;
+    RemoveAll();
+}
+
+CXTPReportRows* CXTPReportRecords::GetRows() const { return m_pControl ? m_pControl->GetRows() : nullptr; }
+
+CXTPReportRecord* CXTPReportRecords::Add(CXTPReportRecord* pRecord) {
+    InsertAt(GetCount(), pRecord);
+    return pRecord;
+}
+
+void CXTPReportRecords::InsertAt(int nIndex, CXTPReportRecord* pRecord) {
+    if (!pRecord)
+        return;
+    ASSERT(!pRecord->m_pRecords);
+    pRecord->m_pRecords = this;
+    if (nIndex >= GetCount())
+        m_records.Append(pRecord);
+    else
+        m_records.Insert(std::max(nIndex, 0), pRecord);
+}
+
+BOOL CXTPReportRecords::RemoveRecord(CXTPReportRecord* pRecord) {
+    if (pRecord && pRecord == m_pVirtualRecord) {
+        SetVirtualMode(nullptr, 0);
+        return TRUE;
+    }
+    const int nIndex = IndexOf(pRecord);
+    if (nIndex < 0)
+        return FALSE;
+    m_records.Erase(nIndex);
+    if (CXTPReportRows* const pRows = GetRows())
+        pRows->RecordRemoved(pRecord);
+    Release(pRecord);
+    return TRUE;
+}
+
+void CXTPReportRecords::RemoveAt(int nIndex) { RemoveRecord(GetAt(nIndex)); }
+
+void CXTPReportRecords::RemoveAll() {
+    if (CXTPReportRows* const pRows = GetRows())
+        pRows->Clear();
+    for (CXTPReportRecord* const pRecord : m_records.Take())
+        Release(pRecord);
+    m_nVirtualCount = 0;
+    if (CXTPReportRecord* const pVirtualRecord = std::exchange(m_pVirtualRecord, nullptr))
+        Release(pVirtualRecord);
+}
+
+void CXTPReportRecords::Release(CXTPReportRecord* pRecord) {
+    pRecord->m_pRecords = nullptr;
+    pRecord->InternalRelease();
+}
+
+void CXTPReportRecords::SetVirtualMode(CXTPReportRecord* pVirtualRecord, int nCount) {
+    if (pVirtualRecord && pVirtualRecord == m_pVirtualRecord) {
+        m_nVirtualCount = std::max(nCount, 0);
+        return;
+    }
+    RemoveAll();
+    if (!pVirtualRecord)
+        return;
+    ASSERT(!pVirtualRecord->m_pRecords);
+    pVirtualRecord->m_pRecords = this;
+    m_pVirtualRecord = pVirtualRecord;
+    m_nVirtualCount = std::max(nCount, 0);
+}

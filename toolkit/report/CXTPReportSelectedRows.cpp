@@ -1,0 +1,97 @@
+// Which rows are selected.
+#include "CXTPReportSelectedRows.h"
+
+#include "CXTPReportControl.h"
+#include "CXTPReportRow.h"
+#include "CXTPReportRows.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+CXTPReportSelectedRows::CXTPReportSelectedRows(CXTPReportControl* pControl) : m_pControl(pControl) {}
+
+int CXTPReportSelectedRows::GetRowCount() const { return m_pControl ? m_pControl->GetRows()->GetCount() : 0; }
+
+void CXTPReportSelectedRows::Changed() {
+    if (m_pControl)
+        m_pControl->RedrawControl();
+}
+
+int CXTPReportSelectedRows::GetCount() const {
+    return static_cast<int>(std::min<std::int64_t>(m_ranges.Count(), std::numeric_limits<int>::max()));
+}
+
+CXTPReportRow* CXTPReportSelectedRows::GetAt(int nIndex) const {
+    return m_pControl ? m_pControl->GetRows()->GetAt(m_ranges.RowAt(nIndex)) : nullptr;
+}
+
+BOOL CXTPReportSelectedRows::Contains(const CXTPReportRow* pRow) const {
+    return pRow && pRow->GetControl() == m_pControl && Contains(pRow->GetIndex());
+}
+
+BOOL CXTPReportSelectedRows::Contains(int nRowIndex) const { return m_ranges.Contains(nRowIndex); }
+
+void CXTPReportSelectedRows::Clear() {
+    if (m_ranges.IsEmpty())
+        return;
+    m_ranges.Clear();
+    Changed();
+}
+
+void CXTPReportSelectedRows::Add(CXTPReportRow* pRow) {
+    if (pRow)
+        SelectBlock(pRow->GetIndex(), pRow->GetIndex(), FALSE);
+}
+
+void CXTPReportSelectedRows::Remove(CXTPReportRow* pRow) {
+    if (!Contains(pRow))
+        return;
+    m_ranges.Remove(pRow->GetIndex(), pRow->GetIndex());
+    Changed();
+}
+
+void CXTPReportSelectedRows::Invert(CXTPReportRow* pRow) {
+    if (Contains(pRow))
+        Remove(pRow);
+    else
+        Add(pRow);
+}
+
+void CXTPReportSelectedRows::Select(CXTPReportRow* pRow) {
+    if (pRow)
+        SelectBlock(pRow->GetIndex(), pRow->GetIndex(), TRUE);
+    else
+        Clear();
+}
+
+void CXTPReportSelectedRows::SelectBlock(int nBegin, int nEnd, BOOL bClear) {
+    RowSelection ranges = m_ranges;
+    const int nLastRow = GetRowCount() - 1;
+    if (m_pControl && !m_pControl->IsMultipleSelection()) {
+        bClear = TRUE;
+        nBegin = nEnd;
+    }
+    if (bClear)
+        ranges.Clear();
+    if (nLastRow >= 0)
+        ranges.Add(std::clamp(std::min(nBegin, nEnd), 0, nLastRow), std::clamp(std::max(nBegin, nEnd), 0, nLastRow));
+    SetRanges(ranges);
+}
+
+void CXTPReportSelectedRows::SetRanges(const RowSelection& ranges) {
+    RowSelection kept = ranges;
+    kept.Truncate(GetRowCount());
+    if (kept == m_ranges)
+        return;
+    m_ranges = std::move(kept);
+    Changed();
+}
+
+void CXTPReportSelectedRows::RowRemoved(int nRowIndex) {
+    m_ranges.RowRemoved(nRowIndex);
+    if (m_nAnchor == nRowIndex)
+        m_nAnchor = std::min(m_nAnchor, GetRowCount() - 1);
+    else if (m_nAnchor > nRowIndex)
+        --m_nAnchor;
+}

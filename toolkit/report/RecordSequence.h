@@ -1,0 +1,36 @@
+// Records in an order, each of which knows its place.
+#pragma once
+
+#include <vector>
+
+class CXTPReportRecord;
+
+/// A list of records that finds the place of a record without a search, because the record keeps it in one of its
+/// members. Taking out a record of a million costs one move of memory: the places of those behind are put right later,
+/// all at once. Does not own the records.
+class RecordSequence {
+public:
+    /// `place` is the member of the record that this sequence may use; −1 means that it is in none.
+    explicit RecordSequence(int CXTPReportRecord::*place) : m_place(place) {}
+
+    int Count() const { return static_cast<int>(m_records.size()); }
+    CXTPReportRecord* At(int index) const; ///< null when out of range
+    /// The place of the record; −1 when it is not in this sequence. Null is in none.
+    int IndexOf(const CXTPReportRecord* record) const;
+    const std::vector<CXTPReportRecord*>& Records() const { return m_records; }
+
+    void Append(CXTPReportRecord* record);
+    void Insert(int index, CXTPReportRecord* record); ///< 0 <= index <= count
+    void Erase(int index);                            ///< 0 <= index < count
+    void Assign(std::vector<CXTPReportRecord*> records);
+    /// Empties the sequence and returns what was in it.
+    std::vector<CXTPReportRecord*> Take();
+
+private:
+    void Renumber();
+
+    int CXTPReportRecord::*m_place;
+    std::vector<CXTPReportRecord*> m_records;
+    /// A place kept in a record is at most this much larger than the true one.
+    int m_lag = 0;
+};

@@ -5,7 +5,8 @@
 
 /// A column: its caption, its width in pixels, and which item of each record it shows. Created by the host with `new`
 /// and owned by the control's column collection from `CXTPReportControl::AddColumn` on. Setters that change the look
-/// ask the control for a redraw; they do nothing when the value stays the same.
+/// ask the control for a redraw, those that change widths or visibility for a new layout; they do nothing when the
+/// value stays the same.
 class KY_TOOLKIT_API CXTPReportColumn : public CCmdTarget {
     DECLARE_DYNAMIC(CXTPReportColumn)
 public:
@@ -30,7 +31,8 @@ public:
     CString GetTooltip() const { return m_strTooltip; }
     void SetTooltip(LPCTSTR strTooltip) { m_strTooltip = strTooltip; }
 
-    /// Pixels. Setting clamps to the minimum and maximum width.
+    /// Pixels. Setting clamps to the minimum and maximum width; so does moving a limit past the width. A minimum above
+    /// the maximum moves the maximum, and the other way round. At first 10 and 32000.
     int GetWidth() const { return m_nWidth; }
     void SetWidth(int nWidth);
     int GetMinWidth() const { return m_nMinWidth; }
@@ -77,12 +79,15 @@ public:
 
 private:
     friend class CXTPReportColumns;
-    void Changed();
+    enum class Effect { Look, Layout };
+    void Changed(Effect effect);
+    template <class T, class U>
+    void Set(T& member, const U& value, Effect effect);
 
     CXTPReportColumns* m_pColumns = nullptr;
     CString m_strCaption, m_strInternalName, m_strTooltip;
     int m_nItemIndex;
-    int m_nWidth, m_nMinWidth, m_nMaxWidth;
+    int m_nWidth, m_nMinWidth = 10, m_nMaxWidth = 32000;
     int m_nAlignment = DT_LEFT;
     int m_nHeaderAlignment = -1;
     int m_nIconID;

@@ -7,21 +7,21 @@
 
 namespace reportsort {
 
-/// The visible records, ordered by the sort order's columns, most significant first, each in its direction. Records that
-/// compare equal in all of them stay in the order of the collection, whichever the direction. A record without an item
-/// for a column comes before those that have one. Cells compare through `CXTPReportRecordItem::Compare`.
+/// The visible records, ordered by the sort order's columns, most significant first, each in its direction. Records
+/// that compare equal in all of them stay in the order of the collection, whichever the direction. A record without an
+/// item for a column comes before those that have one. Cells compare through `CXTPReportRecordItem::Compare`.
 std::vector<CXTPReportRecord*> SortedVisibleRecords(const CXTPReportRecords& records, CXTPReportColumns& columns);
 
 /// Carries selection, anchor and focus over a rebuild of the rows: they stay with their records. Take it before the
-/// rebuild, with the rows' old order still there; no record may be deleted until `Restore`. In virtual mode, which has one
-/// record for all rows, they stay with the row indices.
+/// rebuild, with the rows' old order still there; no record may be deleted until `Restore`. In virtual mode, which has
+/// one record for all rows, they stay with the row indices.
 class RowStateKeeper {
 public:
     /// `nFocusedRow` is the index of the focused row, -1 for none.
     RowStateKeeper(CXTPReportRows& rows, CXTPReportSelectedRows& selection, int nFocusedRow);
 
-    /// Selects the rows of the records that were selected, and forgets those that have no row any more. Returns the index
-    /// of the row that has the focus now, -1 for none.
+    /// Selects the rows of the records that were selected, and forgets those that have no row any more. Returns the
+    /// index of the row that has the focus now, -1 for none.
     int Restore();
 
 private:

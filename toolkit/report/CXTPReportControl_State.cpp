@@ -1,0 +1,114 @@
+// The saved layout of a report control: its columns and their order, sorting and grouping.
+#include "CXTPReportControl.h"
+
+#include "CXTPReportColumn.h"
+#include "CXTPReportColumns.h"
+#include "LayoutStream.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+using namespace layoutstream;
+
+std::u16string ToUtf16(const CString& text) {
+    return std::u16string(reinterpret_cast<const char16_t*>(text.GetString()),
+                          static_cast<std::size_t>(text.GetLength()));
+}
+
+std::vector<Key> DescribeOrder(const CXTPReportColumnOrder& order) {
+    std::vector<Key> keys;
+    for (int i = 0; i < order.GetCount(); ++i)
+        keys.push_back({order.GetAt(i)->GetIndex(), order.GetAt(i)->IsSortIncreasing() != FALSE});
+    return keys;
+}
+
+ReportLayout DescribeLayout(CXTPReportColumns& columns) {
+    ReportLayout layout;
+    for (int i = 0; i < columns.GetCount(); ++i) {
+        const CXTPReportColumn* const column = columns.GetAt(i);
+        layout.columns.push_back({ToUtf16(column->GetInternalName()), column->GetItemIndex(), column->GetWidth(),
+                                  column->IsVisible() != FALSE});
+    }
+    layout.sortOrder = DescribeOrder(*columns.GetSortOrder());
+    layout.groupsOrder = DescribeOrder(*columns.GetGroupsOrder());
+    return layout;
+}
+
+std::vector<LiveColumn> DescribeLiveColumns(const CXTPReportColumns& columns) {
+    std::vector<LiveColumn> live;
+    for (int i = 0; i < columns.GetCount(); ++i) {
+        const CXTPReportColumn* const column = columns.GetAt(i);
+        live.push_back({ToUtf16(column->GetInternalName()), column->GetItemIndex(), column->GetWidth(),
+                        column->GetMinWidth(), column->GetMaxWidth(), column->IsVisible() != FALSE});
+    }
+    return live;
+}
+
+void ApplyOrder(const std::vector<Key>& keys, const std::vector<CXTPReportColumn*>& live,
+                CXTPReportColumnOrder& order) {
+    order.Clear();
+    for (const Key& key : keys)
+        order.Add(live[key.column], key.increasing);
+}
+
+void ApplyPlan(const Plan& plan, CXTPReportColumns& columns) {
+    std::vector<CXTPReportColumn*> live;
+    for (int i = 0; i < columns.GetCount(); ++i)
+        live.push_back(columns.GetAt(i));
+    std::vector<CXTPReportColumn*> arranged;
+    for (const Plan::Column& planned : plan.columns) {
+        CXTPReportColumn* const column = live[planned.column];
+        column->SetWidth(planned.width);
+        column->SetVisible(planned.visible);
+        arranged.push_back(column);
+    }
+    columns.Arrange(arranged);
+    ApplyOrder(plan.groupsOrder, live, *columns.GetGroupsOrder());
+    // Last: a column that is in both has the direction of its place in the sort order.
+    ApplyOrder(plan.sortOrder, live, *columns.GetSortOrder());
+}
+
+void ThrowUnlessOk(Status status, const CArchive& ar) {
+    if (status == Status::Ok)
+        return;
+    AfxThrowArchiveException(status == Status::Truncated ? CArchiveException::endOfFile : CArchiveException::badSchema,
+                             ar.m_strFileName);
+}
+
+/// Reads in small steps, so that a size that the archive cannot hold costs no memory.
+std::vector<std::uint8_t> ReadPayload(CArchive& ar, std::uint32_t size) {
+    constexpr std::size_t step = 64 * 1024;
+    std::vector<std::uint8_t> payload;
+    while (payload.size() < size) {
+        const std::size_t begin = payload.size();
+        const std::size_t part = std::min(step, size - begin);
+        payload.resize(begin + part);
+        ar.EnsureRead(payload.data() + begin, static_cast<UINT>(part));
+    }
+    return payload;
+}
+
+ReportLayout ReadLayout(CArchive& ar) {
+    std::uint8_t bytes[HeaderSize];
+    const UINT read = ar.Read(bytes, sizeof(bytes));
+    const Header header = DecodeHeader(std::span(bytes, read));
+    ThrowUnlessOk(header.status, ar);
+    Decoded decoded = DecodePayload(ReadPayload(ar, header.payloadSize));
+    ThrowUnlessOk(decoded.status, ar);
+    return std::move(decoded.layout);
+}
+
+} // namespace
+
+void CXTPReportControl::SerializeState(CArchive& ar) {
+    CXTPReportColumns& columns = *GetColumns();
+    if (ar.IsStoring()) {
+        const std::vector<std::uint8_t> bytes = Encode(DescribeLayout(columns));
+        ar.Write(bytes.data(), static_cast<UINT>(bytes.size()));
+        return;
+    }
+    ApplyPlan(ApplyLayout(ReadLayout(ar), DescribeLiveColumns(columns)), columns);
+    Populate();
+}

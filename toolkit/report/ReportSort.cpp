@@ -1,0 +1,206 @@
+// The rows that `CXTPReportControl::Populate` makes: which records are shown, and in which order.
+#include "ReportSort.h"
+
+#include "CXTPReportColumn.h"
+#include "CXTPReportColumns.h"
+#include "CXTPReportRecord.h"
+#include "CXTPReportRecordItemNumber.h"
+#include "CXTPReportRecordItemText.h"
+#include "CXTPReportRecords.h"
+#include "CXTPReportRow.h"
+#include "CXTPReportRows.h"
+#include "CXTPReportSelectedRows.h"
+#include "ItemCompare.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+#include <memory>
+#include <numeric>
+#include <string>
+#include <typeinfo>
+
+namespace reportsort {
+
+namespace {
+
+using Items = std::vector<CXTPReportRecordItem*>;
+
+/// What one column of the sort order says about two records, given by their place in the list that is sorted.
+class ColumnKey {
+public:
+    virtual ~ColumnKey() = default;
+    virtual int Compare(std::uint32_t left, std::uint32_t right) const = 0;
+};
+
+/// Any cells: each comparison asks them.
+class ItemKey : public ColumnKey {
+public:
+    ItemKey(CXTPReportColumn* column, Items items) : m_column(column), m_items(std::move(items)) {}
+    int Compare(std::uint32_t left, std::uint32_t right) const override {
+        CXTPReportRecordItem* const a = m_items[left];
+        CXTPReportRecordItem* const b = m_items[right];
+        if (!a || !b)
+            return static_cast<int>(a != nullptr) - static_cast<int>(b != nullptr);
+        return a->Compare(m_column, b);
+    }
+
+private:
+    CXTPReportColumn* m_column;
+    Items m_items;
+};
+
+/// Plain number cells: their values, read once.
+class NumberKey : public ColumnKey {
+public:
+    explicit NumberKey(const Items& items) {
+        m_values.reserve(items.size());
+        for (const auto* const item : items)
+            m_values.push_back(static_cast<const CXTPReportRecordItemNumber*>(item)->GetValue());
+    }
+    int Compare(std::uint32_t left, std::uint32_t right) const override {
+        return itemcompare::Numbers(m_values[left], m_values[right]);
+    }
+
+private:
+    std::vector<double> m_values;
+};
+
+/// Plain text cells: the locale's sort keys, made once, compare byte by byte as the texts do in the locale.
+class TextKey : public ColumnKey {
+public:
+    TextKey(CXTPReportColumn* column, const Items& items) {
+        m_begins.reserve(items.size() + 1);
+        for (auto* const item : items) {
+            m_begins.push_back(m_bytes.size());
+            AppendSortKey(item->GetCaption(column));
+        }
+        m_begins.push_back(m_bytes.size());
+    }
+    int Compare(std::uint32_t left, std::uint32_t right) const override {
+        // Sort keys end with a zero byte, so that none begins with another.
+        return std::memcmp(&m_bytes[m_begins[left]], &m_bytes[m_begins[right]], std::min(Length(left), Length(right)));
+    }
+
+private:
+    std::size_t Length(std::uint32_t index) const { return m_begins[index + 1] - m_begins[index]; }
+    void AppendSortKey(const CString& text) {
+        const std::size_t begin = m_bytes.size();
+        // Large enough for most texts; the others are measured.
+        int room = text.GetLength() * 8 + 32;
+        for (;;) {
+            m_bytes.resize(begin + room);
+            const int length = text.IsEmpty() ? 0 : MakeSortKey(text, &m_bytes[begin], room);
+            if (length > 0 || text.IsEmpty()) {
+                m_bytes.resize(begin + length);
+                break;
+            }
+            room = std::max(MakeSortKey(text, nullptr, 0), room * 2);
+        }
+        if (m_bytes.size() == begin || m_bytes.back() != 0)
+            m_bytes.push_back(0);
+    }
+    static int MakeSortKey(const CString& text, std::uint8_t* buffer, int size) {
+        return ::LCMapStringEx(LOCALE_NAME_USER_DEFAULT, LCMAP_SORTKEY | itemcompare::TextFlags, text, text.GetLength(),
+                               reinterpret_cast<LPWSTR>(buffer), size, nullptr, nullptr, 0);
+    }
+
+    std::vector<std::uint8_t> m_bytes;
+    std::vector<std::size_t> m_begins;
+};
+
+template <class Item>
+bool AllAreExactly(const Items& items) {
+    // Exactly: a derived class may compare in another way.
+    return std::all_of(items.begin(), items.end(),
+                       [](const CXTPReportRecordItem* item) { return item && typeid(*item) == typeid(Item); });
+}
+
+std::unique_ptr<ColumnKey> MakeKey(CXTPReportColumn* column, const std::vector<CXTPReportRecord*>& records) {
+    Items items;
+    items.reserve(records.size());
+    for (const CXTPReportRecord* const record : records)
+        items.push_back(record->GetItem(column));
+    if (AllAreExactly<CXTPReportRecordItemNumber>(items))
+        return std::make_unique<NumberKey>(items);
+    if (AllAreExactly<CXTPReportRecordItemText>(items))
+        return std::make_unique<TextKey>(column, items);
+    return std::make_unique<ItemKey>(column, std::move(items));
+}
+
+struct DirectedKey {
+    std::unique_ptr<ColumnKey> key;
+    bool increasing;
+};
+
+} // namespace
+
+std::vector<CXTPReportRecord*> SortedVisibleRecords(const CXTPReportRecords& records, CXTPReportColumns& columns) {
+    std::vector<CXTPReportRecord*> visible;
+    visible.reserve(records.GetCount());
+    std::copy_if(records.GetRecords().begin(), records.GetRecords().end(), std::back_inserter(visible),
+                 [](const CXTPReportRecord* record) { return record->IsVisible(); });
+
+    std::vector<DirectedKey> keys;
+    const CXTPReportColumnOrder& order = *columns.GetSortOrder();
+    for (int i = 0; i < order.GetCount(); ++i)
+        keys.push_back({MakeKey(order.GetAt(i), visible), order.GetAt(i)->IsSortIncreasing() != FALSE});
+    if (keys.empty() || visible.size() < 2)
+        return visible;
+
+    std::vector<std::uint32_t> places(visible.size());
+    std::iota(places.begin(), places.end(), 0U);
+    std::stable_sort(places.begin(), places.end(), [&keys](std::uint32_t left, std::uint32_t right) {
+        for (const DirectedKey& directed : keys)
+            if (const int result = directed.key->Compare(left, right))
+                return directed.increasing ? result < 0 : result > 0;
+        return false;
+    });
+    std::vector<CXTPReportRecord*> sorted;
+    sorted.reserve(visible.size());
+    for (const std::uint32_t place : places)
+        sorted.push_back(visible[place]);
+    return sorted;
+}
+
+// --- RowStateKeeper
+// ---------------------------------------------------------------------------------------------------
+
+RowStateKeeper::RowStateKeeper(CXTPReportRows& rows, CXTPReportSelectedRows& selection, int nFocusedRow)
+    : m_rows(rows), m_selection(selection), m_nFocusedRow(nFocusedRow), m_bVirtual(rows.IsVirtual()) {
+    if (m_bVirtual)
+        return;
+    m_pAnchor = rows.GetRecordAt(selection.GetAnchor());
+    m_pFocused = rows.GetRecordAt(nFocusedRow);
+    for (const RowSelection::Range& range : selection.GetRanges().Ranges())
+        for (int nRow = range.first; nRow <= range.last && nRow < rows.GetCount(); ++nRow)
+            m_selected.push_back(rows.GetRecordAt(nRow));
+}
+
+int RowStateKeeper::Restore() {
+    const int nCount = m_rows.GetCount();
+    if (m_bVirtual && m_rows.IsVirtual()) {
+        m_selection.SetRanges(RowSelection(m_selection.GetRanges()));
+        if (m_selection.GetAnchor() >= nCount)
+            m_selection.SetAnchor(-1);
+        return m_nFocusedRow < nCount ? m_nFocusedRow : -1;
+    }
+    std::vector<bool> selected(nCount, false);
+    for (const CXTPReportRecord* const record : m_selected)
+        if (const int nRow = m_rows.IndexOf(record); nRow >= 0)
+            selected[nRow] = true;
+    RowSelection ranges;
+    for (int nRow = 0; nRow < nCount; ++nRow) {
+        if (!selected[nRow])
+            continue;
+        const int nFirst = nRow;
+        while (nRow + 1 < nCount && selected[nRow + 1])
+            ++nRow;
+        ranges.Add(nFirst, nRow);
+    }
+    m_selection.SetRanges(ranges);
+    m_selection.SetAnchor(m_rows.IndexOf(m_pAnchor));
+    return m_rows.IndexOf(m_pFocused);
+}
+
+} // namespace reportsort

@@ -11,14 +11,15 @@ public:
     explicit CXTPCommandBars(CWnd* pSite) : m_pSite(pSite) {}
     CWnd* GetSite() const { return m_pSite; }
 
-    /// Shows a popup menu and waits for the user.
+    /// Shows a popup menu and waits for the user. Without menu or window nothing is shown, and the result is 0.
     /// @param pMenu        not owned
-    /// @param nFlags       TPM_… flags; with TPM_RETURNCMD the chosen command is returned, 0 for none
+    /// @param nFlags       TPM_… flags; with TPM_RETURNCMD the chosen command is returned, 0 for none; without it the
+    ///                     owner gets WM_COMMAND, and the result says whether the menu was shown
     /// @param x,y          screen coordinates
     /// @param pWnd         the window for which the menu is shown
     /// @param lpRect       screen rectangle that the menu does not cover, or null
-    /// @param pOwner       gets the menu's messages
-    /// @param pCommandBars the command bars whose look the menu takes, or null for the system's
+    /// @param pOwner       gets the menu's messages; null: `pWnd` does
+    /// @param pCommandBars the command bars the menu belongs to, or null; the menu has the system's look in either case
     static int TrackPopupMenu(CMenu* pMenu, UINT nFlags, int x, int y, CWnd* pWnd, LPCRECT lpRect = nullptr,
                               CWnd* pOwner = nullptr, CXTPCommandBars* pCommandBars = nullptr);
 

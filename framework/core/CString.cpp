@@ -354,6 +354,11 @@ CString operator+(const CString& left, wchar_t right) {
     return result;
 }
 
+CString operator+(CString&& left, wchar_t right) {
+    left += right;
+    return std::move(left);
+}
+
 CString operator+(wchar_t left, const CString& right) {
     CString result(left);
     result += right;

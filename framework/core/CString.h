@@ -169,6 +169,7 @@ KY_FRAMEWORK_API CString operator+(const CString& left, LPCWSTR right);
 KY_FRAMEWORK_API CString operator+(CString&& left, LPCWSTR right);
 KY_FRAMEWORK_API CString operator+(LPCWSTR left, const CString& right);
 KY_FRAMEWORK_API CString operator+(const CString& left, wchar_t right);
+KY_FRAMEWORK_API CString operator+(CString&& left, wchar_t right);
 KY_FRAMEWORK_API CString operator+(wchar_t left, const CString& right);
 
 inline bool operator==(const CString& a, const CString& b) noexcept { return a.Compare(b) == 0; }

@@ -40,34 +40,37 @@ ky_derive_source_lists() {
     done | sed '/^#/d' >"$parts/machine.sources"
 }
 
-# ky_debian_source PACKAGE VERSION TARBALL: prints the path of the tarball in the download cache, and downloads it first
-# when it is not there. An interrupted download is continued where it broke off.
+# ky_debian_source PACKAGE VERSION TARBALL MEGABYTES: prints the path of the tarball in the download cache, and downloads
+# it first when it is not there. An interrupted download is continued where it broke off.
 ky_debian_source() {
-    local package=$1 version=$2 tarball=$3 megabytes=$4 work=$ky_cache/apt
+    local package=$1 version=$2 tarball=$3 megabytes=$4 work=$ky_cache/apt log=$ky_cache/$1.log
     if [ ! -f "$ky_cache/$tarball" ]; then
         ky_need_space "$ky_cache" $((2 * megabytes)) "the source package $package"
         ky_apt_source_options "$work"
         ky_derive_source_lists "$work"
-        {
-            if ! apt-get "${ky_apt_options[@]}" update; then
-                ky_fail "apt cannot read the lists of source packages" \
-                    "check the network and the sources lists in /etc/apt, then run this again"
-            fi
-            # Downloads go to a folder of their own; only a complete and verified tarball reaches the cache.
-            mkdir -p "$work/partial"
-            if ! (cd "$work/partial" && {
-                apt-get "${ky_apt_options[@]}" source --download-only --tar-only "$package=$version" ||
-                    apt-get "${ky_apt_options[@]}" source --download-only --tar-only "$package"
-            }); then
-                ky_fail "Debian's source package $package cannot be had" \
-                    "check the network; run this again, the download goes on where it broke off. Without a network, put $tarball into $ky_cache"
-            fi
-            if [ ! -f "$work/partial/$tarball" ]; then
-                ky_fail "the source package $package did not contain $tarball" "run 'apt-get update' and this again"
-            fi
-            mv "$work/partial/$tarball" "$ky_cache/$tarball"
-            rm -rf "$work"
-        } >&2
+        if ! apt-get "${ky_apt_options[@]}" update >"$log" 2>&1; then
+            tail -n 3 "$log" >&2
+            ky_fail "apt cannot read the lists of source packages" \
+                "check the network and the sources lists in /etc/apt, then run this again"
+        fi
+        # Downloads go to a folder of their own; only a complete and verified tarball reaches the cache.
+        mkdir -p "$work/partial"
+        if ! ky_apt_download "$package=$version" && ! ky_apt_download "$package"; then
+            tail -n 3 "$log" >&2
+            ky_need_space "$ky_cache" 20 "the source package $package"
+            ky_fail "Debian's source package $package cannot be had" \
+                "check the network; run this again, the download goes on where it broke off. Without a network, put $tarball into $ky_cache"
+        fi
+        if [ ! -f "$work/partial/$tarball" ]; then
+            ky_fail "the source package $package did not contain $tarball" "run 'apt-get update' and this again"
+        fi
+        mv "$work/partial/$tarball" "$ky_cache/$tarball"
+        rm -rf "$work" "$log"
     fi
     printf '%s\n' "$ky_cache/$tarball"
+}
+
+# ky_apt_download SOURCE-PACKAGE: one try, within ky_debian_source.
+ky_apt_download() {
+    (cd "$work/partial" && apt-get "${ky_apt_options[@]}" source --download-only --tar-only "$1") >>"$log" 2>&1
 }

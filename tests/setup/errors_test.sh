@@ -14,6 +14,8 @@ mkdir -p "$work/checkout"
 cp -r "$root/tools" "$root/cmake" "$work/checkout"
 setup=$work/checkout/tools/setup
 
+# shellcheck disable=SC2016 # The stand-ins are scripts, expanded when they run.
+
 # stand_in NAME: a program from standard input, in a folder that comes first on PATH.
 stand_in() {
     mkdir -p "$work/bin"
@@ -88,6 +90,7 @@ check_equal "a failing download is an error" 1 "$code"
 check_contains "a failing download: apt's reason is shown" "Connection timed out" "$output"
 check_contains "a failing download: the next step" "it goes on where it stopped" "$output"
 
+tarball=boost1.81_1.81.0.orig.tar.xz
 tarballs() { find "$work/cache/ky-controls" -maxdepth 1 -name '*.tar.xz'; }
 
 # Boost.Locale, with an empty cache and an empty folder of dependencies.
@@ -99,19 +102,46 @@ boost
 check_equal "no network for the source lists is an error" 1 "$code"
 check_contains "no network for the source lists: the next step" "check the network" "$output"
 
-stand_in apt-get <<<'[[ "$*" == *update* ]] && exit 0; echo part >boost1.81_1.81.0.orig.tar.xz; exit 100'
+# archive_with TEXT: an apt that knows the tarball, which has TEXT and its checksum.
+archive_with() {
+    stand_in apt-get <<<"[[ \"\$*\" == *print-uris* ]] && echo \"'http://archive/tarball' $tarball ${#1} SHA256:$(printf '%s' "$1" | sha256sum | cut -d ' ' -f 1)\"; exit 0"
+}
+partial=$work/cache/ky-controls/apt/partial/$tarball
+
+stand_in apt-get <<<'exit 0'
+boost
+check_equal "a source package that the archive does not have is an error" 1 "$code"
+check_contains "a source package that the archive does not have is named" "boost1.81" "$output"
+
+archive_with "whole tarball"
+stand_in curl <<<'while [ "$1" != --output ]; do shift; done; printf whole >"$2"; echo "curl: (18) transfer closed" >&2; exit 18'
 boost
 check_equal "an interrupted source download is an error" 1 "$code"
 check_contains "an interrupted source download: the next step" "goes on where it broke off" "$output"
-check_equal "what came of it is kept to be continued" part "$(cat "$work/cache/ky-controls/apt/partial/boost1.81_1.81.0.orig.tar.xz")"
+check_contains "an interrupted source download: the reason is shown" "transfer closed" "$output"
+check_equal "what came of it is kept to be continued" whole "$(cat "$partial")"
 check_equal "what came of it is not taken for the whole" "" "$(tarballs)"
+
+archive_with "whole tarball"
+stand_in curl <<<'[[ "$*" == *"--continue-at -"* ]] || exit 2
+while [ "$1" != --output ]; do shift; done; printf " tarbell" >>"$2"'
+boost
+check_contains "a download with another checksum is refused" "is not what Debian has signed" "$output"
+check_equal "a download with another checksum is removed" "" "$(find "$work/cache/ky-controls" -name "$tarball")"
+
+printf whole >"$partial"
+archive_with "whole tarball"
+stand_in curl <<<'[[ "$*" == *"--continue-at -"* ]] || exit 2
+while [ "$1" != --output ]; do shift; done; printf " tarball" >>"$2"'
+boost
+check_contains "a continued download is accepted" "building Boost.Locale" "$output"
 
 stand_in df <<<'echo Avail; echo 20'
 boost
 check_equal "no room for the source download is an error" 1 "$code"
 check_contains "no room for the source download is said" "and only 20 MB are free" "$output"
 
-echo "not a tarball" >"$work/cache/ky-controls/boost1.81_1.81.0.orig.tar.xz"
+echo "not a tarball" >"$work/cache/ky-controls/$tarball"
 boost
 check_equal "a damaged tarball is an error" 1 "$code"
 check_contains "a damaged tarball is removed" "is damaged and was removed" "$output"

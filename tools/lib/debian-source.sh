@@ -53,16 +53,20 @@ ky_debian_source() {
             ky_fail "apt cannot read the lists of source packages" \
                 "check the network and the sources lists in /etc/apt, then run this again"
         fi
+        local uri checksum
+        read -r uri _ _ checksum < <(ky_apt_source_uris "$package=$version" || ky_apt_source_uris "$package") || true
+        if [ "${checksum%%:*}" != SHA256 ]; then
+            tail -n 3 "$log" >&2
+            ky_fail "Debian's source package $package, with $tarball, cannot be had" \
+                "make sure that /etc/apt names the 'main' component of Debian bookworm, then run this again"
+        fi
         # Downloads go to a folder of their own; only a complete and verified tarball reaches the cache.
         mkdir -p "$work/partial"
-        if ! ky_apt_download "$package=$version" && ! ky_apt_download "$package"; then
+        if ! ky_download "${uri//\'/}" "$work/partial/$tarball" "${checksum#*:}" >>"$log" 2>&1; then
             tail -n 3 "$log" >&2
             ky_need_space "$ky_cache" 20 "the source package $package"
-            ky_fail "Debian's source package $package cannot be had" \
+            ky_fail "the download of $tarball failed" \
                 "check the network; run this again, the download goes on where it broke off. Without a network, put $tarball into $ky_cache"
-        fi
-        if [ ! -f "$work/partial/$tarball" ]; then
-            ky_fail "the source package $package did not contain $tarball" "run 'apt-get update' and this again"
         fi
         mv "$work/partial/$tarball" "$ky_cache/$tarball"
         rm -rf "$work" "$log"
@@ -70,7 +74,29 @@ ky_debian_source() {
     printf '%s\n' "$ky_cache/$tarball"
 }
 
-# ky_apt_download SOURCE-PACKAGE: one try, within ky_debian_source.
-ky_apt_download() {
-    (cd "$work/partial" && apt-get "${ky_apt_options[@]}" source --download-only --tar-only "$1") >>"$log" 2>&1
+# ky_apt_source_uris SOURCE-PACKAGE: apt's line about the tarball: 'address' name size checksum.
+ky_apt_source_uris() {
+    apt-get "${ky_apt_options[@]}" source --print-uris --tar-only "$1" 2>>"$log" | grep -F " $tarball "
+}
+
+# ky_download ADDRESS FILE SHA256: continues what is there of the file. What is complete but wrong is removed.
+ky_download() {
+    local address=$1 file=$2 sha256=$3 proxy
+    if ky_has_checksum "$file" "$sha256"; then
+        return 0
+    fi
+    proxy=$(apt-config dump --format '%v' Acquire::http::Proxy)
+    if [ "$proxy" = DIRECT ]; then proxy=; fi
+    curl --fail --silent --show-error --location --retry 3 --connect-timeout 30 --speed-time 60 --speed-limit 1 \
+        ${proxy:+--proxy "$proxy"} --continue-at - --output "$file" "$address" || return
+    if ! ky_has_checksum "$file" "$sha256"; then
+        rm -f "$file"
+        echo "what $address gave is not what Debian has signed" >&2
+        return 1
+    fi
+}
+
+# ky_has_checksum FILE SHA256
+ky_has_checksum() {
+    [ -f "$1" ] && echo "$2  $1" | sha256sum --check --status
 }

@@ -18,7 +18,8 @@ ky_hold_screen() {
     flock 7
     if ! ky_screen_is_alive "$state"; then
         rm -f "$state"
-        setsid "$ky_root/tools/lib/screen-keeper" "$prefix" </dev/null >/dev/null 2>"$prefix/ky-screen.log" 7>&- 9>&- &
+        # Nobody's child: who ends a program that hangs, with all its children, must not end the others' screen.
+        (setsid "$ky_root/tools/lib/screen-keeper" "$prefix" </dev/null >/dev/null 2>"$prefix/ky-screen.log" 7>&- 9>&- &)
         local waited=0
         until [ -s "$state" ]; do
             sleep 0.1

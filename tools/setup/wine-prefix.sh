@@ -36,8 +36,8 @@ if [ -e "$prefix/$stamp" ] && [ "$(cat "$prefix/$stamp")" = "$recipe" ]; then
 fi
 command -v wine >/dev/null || ky_fail "Wine is not installed" "run ./test or ./run, which install it"
 
-ky_say "making a Wine prefix in $prefix, so that your own Wine settings stay untouched (10 s)"
-ky_need_space "$(dirname "$prefix")" 300 "a Wine prefix"
+ky_say "making a Wine prefix in $prefix, so that your own Wine settings stay untouched (20 s)"
+ky_need_space "$(dirname "$prefix")" 800 "a Wine prefix"
 
 # logfont HEIGHT WEIGHT FACE: a LOGFONTW as the registry's hex bytes.
 logfont() {

@@ -4,9 +4,14 @@
 #include "XTPReportDefines.h"
 
 /// Draws the parts of a report control. It never changes how the control behaves. Derive and hand to
-/// `CXTPReportControl::SetPaintManager` for a look of one's own. Metrics are pixels at the control's DPI.
+/// `CXTPReportControl::SetPaintManager` for a look of one's own. Metrics are pixels at the screen's DPI.
+///
+/// Every colour has a standard value, which the theme and the column style give it, and may be overridden by the host;
+/// the override survives `SetColumnStyle` and `RefreshMetrics`. A colour that reads as `CXTPPaintManagerColor::Unset`
+/// is not drawn.
 class KY_TOOLKIT_API CXTPReportPaintManager : public CCmdTarget {
 public:
+    /// Themes without a look of their own get that of xtpReportThemeDefault; the column style begins as the theme's own.
     explicit CXTPReportPaintManager(XTPReportPaintTheme theme = xtpReportThemeDefault);
     ~CXTPReportPaintManager() override;
 
@@ -15,25 +20,38 @@ public:
 
     XTPReportPaintTheme GetTheme() const { return m_theme; }
     XTPReportColumnStyle GetColumnStyle() const { return m_columnStyle; }
+    /// Styles without a look of their own look as xtpReportColumnShaded. The control shows it at its next redraw.
     void SetColumnStyle(XTPReportColumnStyle style);
 
     // --- Metrics ------------------------------------------------------------------------------------------------
+    /// From one row's upper edge to the next one's, the grid line included.
     virtual int GetRowHeight() const;
     void SetRowHeight(int nHeight); ///< 0: from the font
-    virtual int GetHeaderHeight() const;
+    virtual int GetHeaderHeight() const; ///< the line under the header included
+    /// Space between the edge of a cell or header column and its text.
+    int GetCellPadding() const { return m_nCellPadding; }
+    /// The width that the sort arrow takes from a caption, its distance to the text included.
+    int GetSortArrowSpace() const;
+    /// Pixels for a length given at 96 DPI.
+    int ScaleForDpi(int nPixels) const;
     CFont* GetTextFont() { return &m_fontText; }
     CFont* GetTextBoldFont() { return &m_fontBold; }
+    /// Also gives the bold variant. Row and header heights follow.
     void SetTextFont(const LOGFONT& lf);
     XTPReportGridStyle GetGridStyle(BOOL bVertical) const { return bVertical ? m_gridVertical : m_gridHorizontal; }
+    /// The room of the line stays when it is switched off, so that cells keep their size.
     void SetGridStyle(BOOL bVertical, XTPReportGridStyle style);
     /// Shown in the middle of a grid without rows.
     CString GetNoItemText() const { return m_strNoItems; }
     void SetNoItemText(LPCTSTR strText) { m_strNoItems = strText; }
+    /// Width of a text in one line, pixels.
+    int GetTextWidth(const CString& strText, BOOL bBold = FALSE) const;
 
-    // --- Parts --------------------------------------------------------------------------------------------------
+    // --- Parts; rectangles are in the coordinates of `pDC` -----------------------------------------------------------
     virtual void DrawHeaderBackground(CDC* pDC, const CRect& rcHeader);
     virtual void DrawColumnBackground(CDC* pDC, CXTPReportColumn* pColumn, const CRect& rcColumn, BOOL bHot,
                                       BOOL bPressed);
+    /// The caption and, when the rows are sorted by the column, the arrow.
     virtual void DrawColumnCaption(CDC* pDC, CXTPReportColumn* pColumn, const CRect& rcColumn);
     virtual void DrawSortArrow(CDC* pDC, const CRect& rcArrow, BOOL bIncreasing);
     virtual void DrawDropMarker(CDC* pDC, int x, const CRect& rcHeader);
@@ -41,7 +59,9 @@ public:
     virtual void DrawNoItemText(CDC* pDC, const CRect& rcReport);
     /// Colours and font of a row that is or is not selected, in a control that has or has not the focus.
     virtual void FillRowMetrics(CXTPReportRow* pRow, XTP_REPORTRECORDITEM_METRICS* pMetrics);
+    /// The lines at the right and lower edge of a cell, inside `rcCell`.
     virtual void DrawGridLines(CDC* pDC, const CRect& rcCell);
+    /// One line of text, vertically centred, with an ellipsis when it does not fit.
     virtual void DrawItemText(XTP_REPORTRECORDITEM_DRAWARGS* pDrawArgs, XTP_REPORTRECORDITEM_METRICS* pMetrics);
     virtual void DrawFocusedRow(CDC* pDC, const CRect& rcRow);
 
@@ -50,19 +70,36 @@ public:
     CXTPPaintManagerColor m_clrHighlightText;     ///< text on it
     CXTPPaintManagerColor m_clrInactiveHighlight; ///< background of a selected row without the focus
     CXTPPaintManagerColor m_clrInactiveHighlightText;
+    CXTPPaintManagerColor m_clrFocusFrame; ///< around the focused row; unset: the system's dotted rectangle
     CXTPPaintManagerColor m_clrWindow, m_clrWindowText;
     CXTPPaintManagerColor m_clrGridLine;
-    CXTPPaintManagerColor m_clrHeader, m_clrHeaderLight, m_clrHeaderHot, m_clrHeaderPressed, m_clrHeaderDivider,
-        m_clrHeaderText;
     CXTPPaintManagerColor m_clrHyperlink;
     CXTPPaintManagerColor m_clrDisabledText;
     CXTPPaintManagerColor m_clrDropMark;
+    /// The header is filled from light (top) to dark (bottom).
+    CXTPPaintManagerColor m_clrHeader, m_clrHeaderLight, m_clrHeaderHot, m_clrHeaderHotLight, m_clrHeaderPressed,
+        m_clrHeaderPressedLight;
+    CXTPPaintManagerColor m_clrHeaderDivider, m_clrHeaderDividerLight, m_clrHeaderFrame, m_clrHeaderLine,
+        m_clrHeaderText, m_clrSortArrow;
 
 protected:
+    /// Draws `strText` in one line into `rcText` with the font selected into `pDC`.
+    void DrawTextLine(CDC* pDC, const CString& strText, const CRect& rcText, int nAlignment) const;
+
     XTPReportPaintTheme m_theme;
-    XTPReportColumnStyle m_columnStyle = xtpReportColumnExplorer;
+    XTPReportColumnStyle m_columnStyle;
     CFont m_fontText, m_fontBold;
     int m_nRowHeight = 0, m_nTextRowHeight = 0, m_nHeaderHeight = 0;
+    int m_nDpi = 96, m_nTextHeight = 0, m_nCellPadding = 0;
     XTPReportGridStyle m_gridVertical = xtpReportGridSolid, m_gridHorizontal = xtpReportGridSolid;
     CString m_strNoItems;
+
+private:
+    void ApplyColors();
+    void MeasureFont();
+    void DrawGridLine(CDC* pDC, const CRect& rcLine, XTPReportGridStyle style, const CRect& rcCell) const;
+    void DrawColumnEdges(CDC* pDC, const CRect& rcColumn, BOOL bHot, BOOL bPressed) const;
+
+    LOGFONT m_lfHost;         ///< the host's font, when it has set one
+    bool m_bHostFont = false; ///< a font was set by `SetTextFont`
 };

@@ -1,0 +1,256 @@
+// Colours and metrics of a report control, and the drawing of the parts of its body.
+#include "CXTPReportPaintManager.h"
+
+#include "CXTPReportControl.h"
+#include "CXTPReportRow.h"
+#include "ReportLook.h"
+
+#include "../../framework/gdi/SelectGuard.h"
+
+#include <algorithm>
+
+namespace {
+
+using ColorMember = CXTPPaintManagerColor CXTPReportPaintManager::*;
+
+/// The member that holds the colour of each role, in the order of the roles.
+constexpr ColorMember RoleMembers[] = {
+    &CXTPReportPaintManager::m_clrWindow,
+    &CXTPReportPaintManager::m_clrWindowText,
+    &CXTPReportPaintManager::m_clrHighlight,
+    &CXTPReportPaintManager::m_clrHighlightText,
+    &CXTPReportPaintManager::m_clrInactiveHighlight,
+    &CXTPReportPaintManager::m_clrInactiveHighlightText,
+    &CXTPReportPaintManager::m_clrFocusFrame,
+    &CXTPReportPaintManager::m_clrGridLine,
+    &CXTPReportPaintManager::m_clrHyperlink,
+    &CXTPReportPaintManager::m_clrDisabledText,
+    &CXTPReportPaintManager::m_clrDropMark,
+    &CXTPReportPaintManager::m_clrHeader,
+    &CXTPReportPaintManager::m_clrHeaderLight,
+    &CXTPReportPaintManager::m_clrHeaderHot,
+    &CXTPReportPaintManager::m_clrHeaderHotLight,
+    &CXTPReportPaintManager::m_clrHeaderPressed,
+    &CXTPReportPaintManager::m_clrHeaderPressedLight,
+    &CXTPReportPaintManager::m_clrHeaderDivider,
+    &CXTPReportPaintManager::m_clrHeaderDividerLight,
+    &CXTPReportPaintManager::m_clrHeaderFrame,
+    &CXTPReportPaintManager::m_clrHeaderLine,
+    &CXTPReportPaintManager::m_clrHeaderText,
+    &CXTPReportPaintManager::m_clrSortArrow,
+};
+static_assert(std::size(RoleMembers) == static_cast<std::size_t>(reportlook::Role::Count));
+
+// Lengths at 96 DPI.
+constexpr int CellPadding = 5;
+constexpr int RowSpacing = 3;    // above and below the text of a row
+constexpr int HeaderSpacing = 4; // above and below a caption
+constexpr int NoItemTextTop = 16;
+
+/// The user's font for message texts; 9 point Segoe UI when the system does not tell.
+LOGFONT SystemTextFont(int dpi) {
+    NONCLIENTMETRICS metrics = {};
+    metrics.cbSize = sizeof(metrics);
+    if (::SystemParametersInfo(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0))
+        return metrics.lfMessageFont;
+    LOGFONT font = {};
+    font.lfHeight = -::MulDiv(9, dpi, 72);
+    font.lfWeight = FW_NORMAL;
+    font.lfCharSet = DEFAULT_CHARSET;
+    ::lstrcpyn(font.lfFaceName, _T("Segoe UI"), LF_FACESIZE);
+    return font;
+}
+
+} // namespace
+
+CXTPReportPaintManager::CXTPReportPaintManager(XTPReportPaintTheme theme)
+    : m_theme(theme), m_columnStyle(reportlook::LookOf(theme).columnStyle),
+      m_strNoItems(_T("There are no items to show.")), m_lfHost{} {
+    CXTPReportPaintManager::RefreshMetrics();
+}
+
+CXTPReportPaintManager::~CXTPReportPaintManager() = default;
+
+// --- Metrics --------------------------------------------------------------------------------------------------------
+
+void CXTPReportPaintManager::RefreshMetrics() {
+    ApplyColors();
+    MeasureFont();
+}
+
+void CXTPReportPaintManager::ApplyColors() {
+    const reportlook::ThemeLook& theme = reportlook::LookOf(m_theme);
+    const bool isOwnStyle = theme.ownHeader && m_columnStyle == theme.columnStyle;
+    const reportlook::HeaderColors& header = isOwnStyle ? *theme.ownHeader : reportlook::LookOf(m_columnStyle).colors;
+    for (std::size_t role = 0; role < std::size(RoleMembers); ++role) {
+        const bool isBody = role < reportlook::BodyRoles;
+        const reportlook::LookColor& color = isBody ? theme.body[role] : header[role - reportlook::BodyRoles];
+        (this->*RoleMembers[role]).SetStandardValue(color.Resolve());
+    }
+}
+
+void CXTPReportPaintManager::MeasureFont() {
+    CClientDC dc(nullptr);
+    m_nDpi = dc.GetDeviceCaps(LOGPIXELSY);
+    LOGFONT font = m_bHostFont ? m_lfHost : SystemTextFont(m_nDpi);
+    m_fontText.DeleteObject();
+    m_fontText.CreateFontIndirect(&font);
+    font.lfWeight = FW_BOLD;
+    m_fontBold.DeleteObject();
+    m_fontBold.CreateFontIndirect(&font);
+
+    TEXTMETRIC metrics = {};
+    const SelectGuard select(dc, m_fontText);
+    dc.GetTextMetrics(&metrics);
+    m_nTextHeight = metrics.tmHeight;
+    m_nCellPadding = ScaleForDpi(CellPadding);
+    m_nTextRowHeight = m_nTextHeight + 2 * ScaleForDpi(RowSpacing) + 1;
+    m_nHeaderHeight = m_nTextHeight + 2 * ScaleForDpi(HeaderSpacing) + 1;
+}
+
+int CXTPReportPaintManager::ScaleForDpi(int nPixels) const { return ::MulDiv(nPixels, m_nDpi, 96); }
+
+int CXTPReportPaintManager::GetRowHeight() const { return m_nRowHeight > 0 ? m_nRowHeight : m_nTextRowHeight; }
+
+void CXTPReportPaintManager::SetRowHeight(int nHeight) { m_nRowHeight = std::max(nHeight, 0); }
+
+int CXTPReportPaintManager::GetHeaderHeight() const { return m_nHeaderHeight; }
+
+void CXTPReportPaintManager::SetTextFont(const LOGFONT& lf) {
+    m_lfHost = lf;
+    m_bHostFont = true;
+    MeasureFont();
+}
+
+void CXTPReportPaintManager::SetColumnStyle(XTPReportColumnStyle style) {
+    m_columnStyle = style;
+    ApplyColors();
+}
+
+void CXTPReportPaintManager::SetGridStyle(BOOL bVertical, XTPReportGridStyle style) {
+    (bVertical ? m_gridVertical : m_gridHorizontal) = style;
+}
+
+int CXTPReportPaintManager::GetTextWidth(const CString& strText, BOOL bBold) const {
+    CClientDC dc(nullptr);
+    const SelectGuard select(dc, bBold ? m_fontBold : m_fontText);
+    return dc.GetTextExtent(strText).cx;
+}
+
+// --- Body -----------------------------------------------------------------------------------------------------------
+
+void CXTPReportPaintManager::FillBackground(CDC* pDC, const CRect& rc) { pDC->FillSolidRect(&rc, m_clrWindow); }
+
+void CXTPReportPaintManager::DrawNoItemText(CDC* pDC, const CRect& rcReport) {
+    if (m_strNoItems.IsEmpty())
+        return;
+    CRect rcText(rcReport);
+    rcText.DeflateRect(m_nCellPadding, ScaleForDpi(NoItemTextTop), m_nCellPadding, 0);
+    const SelectGuard select(*pDC, m_fontText);
+    pDC->SetBkMode(TRANSPARENT);
+    pDC->SetTextColor(m_clrDisabledText);
+    pDC->DrawText(m_strNoItems, &rcText, DT_CENTER | DT_WORDBREAK | DT_NOPREFIX);
+}
+
+void CXTPReportPaintManager::FillRowMetrics(CXTPReportRow* pRow, XTP_REPORTRECORDITEM_METRICS* pMetrics) {
+    const CXTPReportControl* control = pRow ? pRow->GetControl() : nullptr;
+    pMetrics->pFont = &m_fontText;
+    pMetrics->clrForeground = m_clrWindowText;
+    pMetrics->clrBackground = m_clrWindow;
+    if (pRow && pRow->IsSelected()) {
+        const bool isActive = control && control->HasFocus();
+        pMetrics->clrForeground = isActive ? m_clrHighlightText : m_clrInactiveHighlightText;
+        pMetrics->clrBackground = isActive ? m_clrHighlight : m_clrInactiveHighlight;
+    }
+    if (control && control->GetSafeHwnd() && !control->IsWindowEnabled())
+        pMetrics->clrForeground = m_clrDisabledText;
+}
+
+void CXTPReportPaintManager::DrawGridLines(CDC* pDC, const CRect& rcCell) {
+    const CRect rcRight(rcCell.right - 1, rcCell.top, rcCell.right, rcCell.bottom);
+    DrawGridLine(pDC, rcRight, m_gridVertical, rcCell);
+    const CRect rcBottom(rcCell.left, rcCell.bottom - 1, rcCell.right, rcCell.bottom);
+    DrawGridLine(pDC, rcBottom, m_gridHorizontal, rcCell);
+}
+
+void CXTPReportPaintManager::DrawGridLine(CDC* pDC, const CRect& rcLine, XTPReportGridStyle style,
+                                          const CRect& rcCell) const {
+    struct Pattern {
+        int dash;
+        int gap;
+    };
+    constexpr Pattern SmallDots = {1, 1}, LargeDots = {2, 2}, Dashes = {4, 2};
+    Pattern pattern = SmallDots;
+    switch (style) {
+    case xtpReportGridNoLines:
+        return;
+    case xtpReportGridSmallDots:
+        break;
+    case xtpReportGridLargeDots:
+        pattern = LargeDots;
+        break;
+    case xtpReportGridDashes:
+        pattern = Dashes;
+        break;
+    case xtpReportGridSolid:
+    default:
+        pDC->FillSolidRect(&rcLine, m_clrGridLine);
+        return;
+    }
+    // The pattern begins at the cell's corner, so that pixels moved by scrolling meet newly drawn ones without a seam.
+    const bool isVertical = rcLine.Width() == 1;
+    const int end = isVertical ? rcLine.bottom : rcLine.right;
+    for (int pos = isVertical ? rcCell.top : rcCell.left; pos < end; pos += pattern.dash + pattern.gap) {
+        const int stop = std::min(pos + pattern.dash, end);
+        const CRect rcDash = isVertical ? CRect(rcLine.left, pos, rcLine.right, stop)
+                                        : CRect(pos, rcLine.top, stop, rcLine.bottom);
+        pDC->FillSolidRect(&rcDash, m_clrGridLine);
+    }
+}
+
+void CXTPReportPaintManager::DrawTextLine(CDC* pDC, const CString& strText, const CRect& rcText,
+                                          int nAlignment) const {
+    if (strText.IsEmpty() || rcText.Width() <= 0)
+        return;
+    // What stands beyond the right edge is cut off anyway; a character is at least a pixel wide.
+    const int length = std::min(strText.GetLength(), rcText.Width() + 8);
+    const CSize extent = pDC->GetTextExtent(strText.GetString(), length);
+    if (extent.cx > rcText.Width() || length < strText.GetLength()) {
+        CRect rcCut(rcText);
+        pDC->DrawText(strText.GetString(), length, &rcCut,
+                      DT_SINGLELINE | DT_VCENTER | DT_LEFT | DT_END_ELLIPSIS | DT_NOPREFIX);
+        return;
+    }
+    int x = rcText.left;
+    if (nAlignment & DT_RIGHT)
+        x = rcText.right - extent.cx;
+    else if (nAlignment & DT_CENTER)
+        x += (rcText.Width() - extent.cx) / 2;
+    const int y = rcText.top + (rcText.Height() - extent.cy) / 2;
+    pDC->ExtTextOut(x, y, ETO_CLIPPED, &rcText, strText, nullptr);
+}
+
+void CXTPReportPaintManager::DrawItemText(XTP_REPORTRECORDITEM_DRAWARGS* pDrawArgs,
+                                          XTP_REPORTRECORDITEM_METRICS* pMetrics) {
+    CDC* pDC = pDrawArgs->pDC;
+    CRect rcText(pDrawArgs->rcItem);
+    rcText.DeflateRect(m_nCellPadding, 0);
+    const SelectGuard select(*pDC, pMetrics->pFont ? pMetrics->pFont : &m_fontText);
+    pDC->SetBkMode(TRANSPARENT);
+    pDC->SetTextColor(pMetrics->clrForeground != CXTPPaintManagerColor::Unset ? pMetrics->clrForeground
+                                                                                : COLORREF(m_clrWindowText));
+    DrawTextLine(pDC, pMetrics->strText, rcText, pMetrics->nColumnAlignment);
+}
+
+void CXTPReportPaintManager::DrawFocusedRow(CDC* pDC, const CRect& rcRow) {
+    CRect rcFrame(rcRow);
+    rcFrame.bottom -= 1; // the grid line stays
+    if (m_clrFocusFrame == CXTPPaintManagerColor::Unset) {
+        // The dots are exclusive-or: they show on any background when both colours are plain.
+        pDC->SetTextColor(RGB(0, 0, 0));
+        pDC->SetBkColor(RGB(255, 255, 255));
+        pDC->DrawFocusRect(&rcFrame);
+    } else {
+        pDC->Draw3dRect(&rcFrame, m_clrFocusFrame, m_clrFocusFrame);
+    }
+}

@@ -1,0 +1,93 @@
+// The looks of a report control as data: which colour each role has in each theme and column style.
+#pragma once
+
+#include "../common/XTPThemes.h"
+
+#include <windows.h>
+
+#include <array>
+#include <cstddef>
+
+namespace reportlook {
+
+/// What a colour is for. The first roles belong to the body of the grid and come from the theme; those from `Header` on
+/// belong to the header and come from the column style.
+enum class Role {
+    Window,
+    WindowText,
+    Highlight,
+    HighlightText,
+    InactiveHighlight,
+    InactiveHighlightText,
+    FocusFrame, ///< around the focused row; none: the system's dotted rectangle
+    GridLine,
+    Hyperlink,
+    DisabledText,
+    DropMark,
+
+    Header, ///< the lower end of the header's gradient
+    HeaderLight,
+    HeaderHot,
+    HeaderHotLight,
+    HeaderPressed,
+    HeaderPressedLight,
+    HeaderDivider,
+    HeaderDividerLight, ///< beside the divider where the style draws it in two tones
+    HeaderFrame,        ///< around a hot or pressed column; none: no frame
+    HeaderLine,         ///< under the header
+    HeaderText,
+    SortArrow,
+    Count
+};
+constexpr std::size_t BodyRoles = static_cast<std::size_t>(Role::Header);
+constexpr std::size_t HeaderRoles = static_cast<std::size_t>(Role::Count) - BodyRoles;
+
+/// A fixed colour or one of the user's system colours.
+class LookColor {
+public:
+    static constexpr LookColor Rgb(int hex) {
+        return LookColor(RGB((hex >> 16) & 0xFF, (hex >> 8) & 0xFF, hex & 0xFF), -1);
+    }
+    static constexpr LookColor System(int index) { return LookColor(0, index); }
+    static constexpr LookColor None() { return LookColor(0xFFFFFFFF, -1); }
+    /// The COLORREF now; CXTPPaintManagerColor::Unset for none.
+    COLORREF Resolve() const { return m_systemIndex >= 0 ? ::GetSysColor(m_systemIndex) : m_color; }
+
+private:
+    constexpr LookColor(COLORREF color, int systemIndex) : m_color(color), m_systemIndex(systemIndex) {}
+    COLORREF m_color;
+    int m_systemIndex;
+};
+
+using BodyColors = std::array<LookColor, BodyRoles>;
+using HeaderColors = std::array<LookColor, HeaderRoles>;
+
+/// How the edges of a header column are drawn.
+enum class HeaderEdge {
+    Raised,       ///< a button: light and dark edges, swapped while pressed
+    Boxed,        ///< full-height lines
+    Thin,         ///< full-height lines, a frame when hot or pressed
+    ShortDivider, ///< two-tone dividers that leave the ends free
+    Inset         ///< full-height divider with a light line beside it
+};
+
+struct ColumnLook {
+    XTPReportColumnStyle style;
+    HeaderEdge edge;
+    HeaderColors colors;
+};
+
+struct ThemeLook {
+    XTPReportPaintTheme theme;
+    XTPReportColumnStyle columnStyle; ///< the theme's own
+    BodyColors body;
+    /// The header's colours while the column style is the theme's own; null: those of the style.
+    const HeaderColors* ownHeader;
+};
+
+/// Numbers without a look of their own get that of xtpReportThemeDefault.
+const ThemeLook& LookOf(XTPReportPaintTheme theme);
+/// Numbers without a look of their own get that of xtpReportColumnShaded.
+const ColumnLook& LookOf(XTPReportColumnStyle style);
+
+} // namespace reportlook

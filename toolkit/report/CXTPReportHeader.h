@@ -36,9 +36,12 @@ public:
     /// The column whose right divider is under the point (within 4 pixels) and that may be resized; null if none.
     CXTPReportColumn* HitTestDivider(CPoint ptPoint) const;
 
+    /// Draws the strip; columns outside the clip box of `pDC` are left out.
     virtual void Draw(CDC* pDC, const CRect& rcHeader);
     /// The drop mark and the picture of the column being dragged; drawn last, over everything.
     virtual void DrawDrag(CDC* pDC);
+    /// What `DrawDrag` covers; empty while no column is dragged.
+    CRect GetDragRect() const;
 
     // --- Mouse, called by the control -----------------------------------------------------------------------------
     virtual void OnLButtonDown(CPoint ptPoint);
@@ -46,12 +49,15 @@ public:
     virtual void OnLButtonDblClk(CPoint ptPoint);
     virtual void OnMouseMove(UINT nFlags, CPoint ptPoint);
     virtual void OnMouseLeave();
-    /// Ends a resize or a drag without effect.
+    /// Ends a press, a resize or a drag without effect: a column being resized gets back the width it had.
     virtual void OnCancelMode();
     virtual BOOL OnSetCursor(CPoint ptPoint);
     /// A right click on the header; here it does nothing more than ending a drag.
     virtual void OnContextMenu(CPoint ptPoint);
 
+    /// Sorts by the column as a click on its header does: a column already in the sort order changes direction.
+    /// @param bAddKey keeps the other columns of the sort order, as a click with ctrl or shift does
+    void Sort(CXTPReportColumn* pColumn, BOOL bAddKey);
     /// Sets the width at which the caption and the texts of the visible rows show without ellipsis.
     void BestFit(CXTPReportColumn* pColumn);
     CXTPReportColumn* GetHotColumn() const { return m_pHotColumn; }
@@ -62,12 +68,24 @@ protected:
     CXTPReportColumns* m_pColumns;
 
 private:
+    bool IsInGesture() const;
+    void BeginGesture(CXTPReportColumn* pColumn, CPoint ptPoint, XTPReportMouseMode mode);
+    void EndGesture();
+    void TrackPress(CPoint ptPoint);
+    void TrackDrag(CPoint ptPoint);
+    void TrackHover(CPoint ptPoint);
+    void SetHotColumn(CXTPReportColumn* pColumn);
+    void DropColumn(CXTPReportColumn* pColumn, int nDropPos);
+    void RedrawColumn(const CXTPReportColumn* pColumn) const;
+    void ForgetLostColumns();
+
     BOOL m_bAllowColumnRemove = TRUE, m_bAllowColumnReorder = TRUE, m_bAllowColumnResize = TRUE,
          m_bAllowColumnSort = TRUE;
     CXTPReportColumn* m_pHotColumn = nullptr;
     CXTPReportColumn* m_pPressedColumn = nullptr;
+    bool m_bPressedInside = false; ///< the pointer is over the pressed column
     CPoint m_ptPress;
     CPoint m_ptDrag;
     int m_nResizeStartWidth = 0;
-    int m_nDropPos = -1; ///< place among all columns before which the dragged column would land, −1 for none
+    int m_nDropPos = -1; ///< place among the visible columns before which the dragged column would land, −1 for none
 };

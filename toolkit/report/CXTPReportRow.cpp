@@ -1,0 +1,148 @@
+// One row: where it and its cells stand, and its drawing.
+#include "CXTPReportRow.h"
+
+#include "CXTPReportColumn.h"
+#include "CXTPReportColumns.h"
+#include "CXTPReportControl.h"
+#include "CXTPReportPaintManager.h"
+#include "CXTPReportRecord.h"
+#include "CXTPReportRecordItem.h"
+#include "CXTPReportRows.h"
+#include "CXTPReportSelectedRows.h"
+#include "GridGeometry.h"
+
+#include <algorithm>
+
+namespace {
+
+/// The cell without its grid lines: what an item is given to draw in.
+CRect InsideGridLines(const CRect& rcCell) {
+    return CRect(rcCell.left, rcCell.top, std::max(rcCell.right - 1, rcCell.left), rcCell.bottom - 1);
+}
+
+CRect CellRect(const CRect& rcRow, const CXTPReportColumn* column) {
+    const CRect rcColumn = column->GetRect();
+    return CRect(rcColumn.left, rcRow.top, rcColumn.right, rcRow.bottom);
+}
+
+} // namespace
+
+CXTPReportRow::CXTPReportRow(CXTPReportRows* pRows, CXTPReportRecord* pRecord, int nIndex)
+    : m_pRows(pRows), m_pRecord(pRecord), m_nIndex(nIndex) {}
+
+CXTPReportControl* CXTPReportRow::GetControl() const { return m_pRows ? m_pRows->GetControl() : nullptr; }
+
+BOOL CXTPReportRow::IsSelected() const {
+    const CXTPReportControl* control = GetControl();
+    return control && control->GetSelectedRows()->Contains(m_nIndex);
+}
+
+void CXTPReportRow::SetSelected(BOOL bSelected) {
+    const CXTPReportControl* control = GetControl();
+    if (!control || !bSelected == !IsSelected())
+        return;
+    if (bSelected)
+        control->GetSelectedRows()->Add(this);
+    else
+        control->GetSelectedRows()->Remove(this);
+}
+
+BOOL CXTPReportRow::IsFocused() const {
+    const CXTPReportControl* control = GetControl();
+    return control && control->GetFocusedRow() == this;
+}
+
+void CXTPReportRow::EnsureVisible() {
+    if (CXTPReportControl* control = GetControl())
+        control->EnsureVisible(this);
+}
+
+// --- Places ---------------------------------------------------------------------------------------------------------
+
+CRect CXTPReportRow::GetRect() const {
+    const CXTPReportControl* control = GetControl();
+    if (!control)
+        return CRect();
+    const CRect rcReport = control->GetReportRectangle();
+    const int height = control->GetPaintManager()->GetRowHeight();
+    const gridgeometry::UniformRows rows(control->GetRows()->GetCount(), height, rcReport.Height());
+    const int top = rcReport.top + rows.RowTop(control->GetTopRowIndex(), m_nIndex);
+    return CRect(rcReport.left, top, rcReport.right, top + height);
+}
+
+CRect CXTPReportRow::GetItemRect(CXTPReportRecordItem* pItem) const {
+    const CXTPReportControl* control = GetControl();
+    const int index = pItem && pItem->GetRecord() == m_pRecord ? pItem->GetIndex() : -1;
+    const CXTPReportColumn* column = control && index >= 0 ? control->GetColumns()->Find(index) : nullptr;
+    if (!column || !column->IsVisible())
+        return CRect();
+    return InsideGridLines(CellRect(GetRect(), column));
+}
+
+CXTPReportRecordItem* CXTPReportRow::HitTest(CPoint ptPoint, CRect* pRectItem, CXTPReportColumn** ppColumn) const {
+    const CXTPReportControl* control = GetControl();
+    const CRect rcRow = GetRect();
+    if (!control || !m_pRecord || ptPoint.y < rcRow.top || ptPoint.y >= rcRow.bottom)
+        return nullptr;
+    const CXTPReportColumns* columns = control->GetColumns();
+    for (int i = 0; i < columns->GetCount(); ++i) {
+        CXTPReportColumn* column = columns->GetAt(i);
+        const CRect rcCell = CellRect(rcRow, column);
+        if (!column->IsVisible() || ptPoint.x < rcCell.left || ptPoint.x >= rcCell.right)
+            continue;
+        CXTPReportRecordItem* item = m_pRecord->GetItem(column);
+        if (item && pRectItem)
+            *pRectItem = InsideGridLines(rcCell);
+        if (item && ppColumn)
+            *ppColumn = column;
+        return item;
+    }
+    return nullptr;
+}
+
+// --- Drawing --------------------------------------------------------------------------------------------------------
+
+void CXTPReportRow::Draw(CDC* pDC, const CRect& rcRow, const CRect& rcClip) {
+    CXTPReportControl* control = GetControl();
+    CRect rcDirty;
+    if (!control || !rcDirty.IntersectRect(&rcRow, &rcClip))
+        return;
+    CXTPReportPaintManager* paintManager = control->GetPaintManager();
+    XTP_REPORTRECORDITEM_METRICS metrics;
+    paintManager->FillRowMetrics(this, &metrics);
+    pDC->FillSolidRect(&rcDirty, metrics.clrBackground);
+
+    int right = rcRow.left;
+    const CXTPReportColumns* columns = control->GetColumns();
+    for (int i = 0; i < columns->GetCount(); ++i) {
+        CXTPReportColumn* column = columns->GetAt(i);
+        if (!column->IsVisible())
+            continue;
+        const CRect rcCell = CellRect(rcRow, column);
+        right = std::max<int>(right, rcCell.right);
+        if (rcCell.right <= rcClip.left || rcCell.left >= rcClip.right)
+            continue;
+        DrawCell(pDC, column, rcCell);
+        paintManager->DrawGridLines(pDC, rcCell);
+    }
+    // Beyond the last column only the line under the row goes on; its end lies outside, where nothing is drawn.
+    if (right < rcDirty.right)
+        paintManager->DrawGridLines(pDC, CRect(right, rcRow.top, rcRow.right + 1, rcRow.bottom));
+    if (IsFocused() && control->HasFocus())
+        paintManager->DrawFocusedRow(pDC, rcRow);
+}
+
+void CXTPReportRow::DrawCell(CDC* pDC, CXTPReportColumn* pColumn, const CRect& rcCell) {
+    CXTPReportRecordItem* item = m_pRecord ? m_pRecord->GetItem(pColumn) : nullptr;
+    XTP_REPORTRECORDITEM_DRAWARGS args;
+    args.rcItem = InsideGridLines(rcCell);
+    if (!item || args.rcItem.IsRectEmpty())
+        return;
+    args.pDC = pDC;
+    args.pControl = GetControl();
+    args.pRow = this;
+    args.pColumn = pColumn;
+    args.pItem = item;
+    args.nTextAlign = pColumn->GetAlignment();
+    item->Draw(&args);
+}

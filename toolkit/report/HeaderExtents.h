@@ -1,0 +1,16 @@
+// How the columns of a header stand, in the terms of the grid arithmetic.
+#pragma once
+
+#include "GridGeometry.h"
+
+#include <vector>
+
+class CXTPReportColumn;
+class CXTPReportColumns;
+class CXTPReportHeader;
+
+/// The visible columns from left to right, in client coordinates as laid out last.
+std::vector<gridgeometry::ColumnExtent> HeaderExtents(const CXTPReportHeader& header);
+
+/// The column's place among the visible ones; −1 when it is not one of them.
+int VisibleIndexOf(const CXTPReportColumns& columns, const CXTPReportColumn* column);

@@ -134,12 +134,14 @@ protected:
     void OnEnable(BOOL bEnable);
     void OnSysColorChange();
     void OnSettingChange(UINT uFlags, LPCTSTR lpszSection);
-    LRESULT OnPrintClient(WPARAM wParam, LPARAM lParam);
+    LRESULT OnPrintClient(CDC* pDC, UINT nFlags);
     LRESULT OnSetFont(WPARAM wParam, LPARAM lParam);
     LRESULT OnGetFont(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:
+    LRESULT SendNotify(UINT nCode, NMHDR* pHeader);
+
     struct Impl;
     std::unique_ptr<Impl> m_impl;
 };

@@ -33,7 +33,6 @@ std::vector<gridgeometry::ColumnExtent> HeaderExtents(const CXTPReportHeader& he
 }
 
 void CXTPReportHeader::AdjustLayout(const CRect& rcHeader) {
-    ForgetLostColumns();
     int x = rcHeader.left - m_pControl->GetLeftOffset();
     for (int i = 0; i < m_pColumns->GetCount(); ++i) {
         CXTPReportColumn* column = m_pColumns->GetAt(i);
@@ -43,16 +42,6 @@ void CXTPReportHeader::AdjustLayout(const CRect& rcHeader) {
         }
         column->SetRect(CRect(x, rcHeader.top, x + column->GetWidth(), rcHeader.bottom));
         x += column->GetWidth();
-    }
-}
-
-void CXTPReportHeader::ForgetLostColumns() {
-    const auto isLost = [this](const CXTPReportColumn* column) { return column && m_pColumns->IndexOf(column) < 0; };
-    if (isLost(m_pHotColumn))
-        m_pHotColumn = nullptr;
-    if (isLost(m_pPressedColumn)) {
-        m_pPressedColumn = nullptr;
-        EndGesture();
     }
 }
 

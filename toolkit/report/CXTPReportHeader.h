@@ -60,6 +60,8 @@ public:
     void Sort(CXTPReportColumn* pColumn, BOOL bAddKey);
     /// Sets the width at which the caption and the texts of the visible rows show without ellipsis.
     void BestFit(CXTPReportColumn* pColumn);
+    /// The column is about to be deleted.
+    void OnColumnRemoved(const CXTPReportColumn* pColumn);
     CXTPReportColumn* GetHotColumn() const { return m_pHotColumn; }
     CXTPReportColumn* GetPressedColumn() const { return m_pPressedColumn; }
 
@@ -77,7 +79,6 @@ private:
     void SetHotColumn(CXTPReportColumn* pColumn);
     void DropColumn(CXTPReportColumn* pColumn, int nDropPos);
     void RedrawColumn(const CXTPReportColumn* pColumn) const;
-    void ForgetLostColumns();
 
     BOOL m_bAllowColumnRemove = TRUE, m_bAllowColumnReorder = TRUE, m_bAllowColumnResize = TRUE,
          m_bAllowColumnSort = TRUE;

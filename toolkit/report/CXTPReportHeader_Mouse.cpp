@@ -78,6 +78,13 @@ void CXTPReportHeader::OnCancelMode() {
     EndGesture();
 }
 
+void CXTPReportHeader::OnColumnRemoved(const CXTPReportColumn* pColumn) {
+    if (m_pHotColumn == pColumn)
+        m_pHotColumn = nullptr;
+    if (m_pPressedColumn == pColumn)
+        EndGesture();
+}
+
 void CXTPReportHeader::OnContextMenu(CPoint) { OnCancelMode(); }
 
 // --- Buttons --------------------------------------------------------------------------------------------------------

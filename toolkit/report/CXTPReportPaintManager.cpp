@@ -2,6 +2,7 @@
 #include "CXTPReportPaintManager.h"
 
 #include "CXTPReportControl.h"
+#include "CXTPReportRecordItem.h"
 #include "CXTPReportRow.h"
 #include "ReportLook.h"
 
@@ -84,7 +85,7 @@ void CXTPReportPaintManager::ApplyColors() {
     const reportlook::HeaderColors& header = isOwnStyle ? *theme.ownHeader : reportlook::LookOf(m_columnStyle).colors;
     for (std::size_t role = 0; role < std::size(RoleMembers); ++role) {
         const bool isBody = role < reportlook::BodyRoles;
-        const reportlook::LookColor& color = isBody ? theme.body[role] : header[role - reportlook::BodyRoles];
+        const LookColor& color = isBody ? theme.body[role] : header[role - reportlook::BodyRoles];
         (this->*RoleMembers[role]).SetStandardValue(color.Resolve());
     }
 }
@@ -103,6 +104,7 @@ void CXTPReportPaintManager::MeasureFont() {
     const SelectGuard select(dc, m_fontText);
     dc.GetTextMetrics(&metrics);
     m_nTextHeight = metrics.tmHeight;
+    m_nTextAscent = metrics.tmAscent;
     m_nCellPadding = ScaleForDpi(CellPadding);
     m_nTextRowHeight = m_nTextHeight + 2 * ScaleForDpi(RowSpacing) + 1;
     m_nHeaderHeight = m_nTextHeight + 2 * ScaleForDpi(HeaderSpacing) + 1;
@@ -120,6 +122,15 @@ void CXTPReportPaintManager::SetTextFont(const LOGFONT& lf) {
     m_lfHost = lf;
     m_bHostFont = true;
     MeasureFont();
+}
+
+void CXTPReportPaintManager::TakeOver(const CXTPReportPaintManager& former) {
+    m_nRowHeight = former.m_nRowHeight;
+    m_gridVertical = former.m_gridVertical;
+    m_gridHorizontal = former.m_gridHorizontal;
+    m_strNoItems = former.m_strNoItems;
+    if (former.m_bHostFont)
+        SetTextFont(former.m_lfHost);
 }
 
 void CXTPReportPaintManager::SetColumnStyle(XTPReportColumnStyle style) {
@@ -235,11 +246,43 @@ void CXTPReportPaintManager::DrawItemText(XTP_REPORTRECORDITEM_DRAWARGS* pDrawAr
     CDC* pDC = pDrawArgs->pDC;
     CRect rcText(pDrawArgs->rcItem);
     rcText.DeflateRect(m_nCellPadding, 0);
-    const SelectGuard select(*pDC, pMetrics->pFont ? pMetrics->pFont : &m_fontText);
+    const SelectGuard select(*pDC, pMetrics->pFont);
     pDC->SetBkMode(TRANSPARENT);
-    pDC->SetTextColor(pMetrics->clrForeground != CXTPPaintManagerColor::Unset ? pMetrics->clrForeground
-                                                                                : COLORREF(m_clrWindowText));
-    DrawTextLine(pDC, pMetrics->strText, rcText, pMetrics->nColumnAlignment);
+    if (pDrawArgs->pItem && pDrawArgs->pItem->GetHyperlinksCount() > 0)
+        DrawLinkedText(pDC, pDrawArgs->pItem, pMetrics->strText, rcText, pMetrics->nColumnAlignment);
+    else
+        DrawTextLine(pDC, pMetrics->strText, rcText, pMetrics->nColumnAlignment);
+}
+
+void CXTPReportPaintManager::DrawLinkedText(CDC* pDC, CXTPReportRecordItem* pItem, const CString& strText,
+                                            const CRect& rcText, int nAlignment) const {
+    const CSize extent = pDC->GetTextExtent(strText);
+    const int slack = std::max<int>(rcText.Width() - extent.cx, 0);
+    const int x = rcText.left + (nAlignment & DT_RIGHT ? slack : nAlignment & DT_CENTER ? slack / 2 : 0);
+    const int y = rcText.top + (rcText.Height() - extent.cy) / 2;
+    // Smoothed letters drawn twice look bold, so the plain text leaves out what the links cover.
+    const SaveDCGuard plainText(*pDC);
+    for (int i = 0; i < pItem->GetHyperlinksCount(); ++i) {
+        CXTPReportHyperlink* link = pItem->GetHyperlinkAt(i);
+        const bool isWhole = link->m_nHyperTextBegin == 0 && link->m_nHyperTextLen == 0;
+        const int begin = std::clamp(link->m_nHyperTextBegin, 0, strText.GetLength());
+        const int rest = strText.GetLength() - begin;
+        const int length = isWhole ? rest : std::clamp(link->m_nHyperTextLen, 0, rest);
+        const int left = x + pDC->GetTextExtent(strText.GetString(), begin).cx;
+        const int right = x + pDC->GetTextExtent(strText.GetString(), begin + length).cx;
+        const CRect rcLink(left, y, right, y + extent.cy);
+        link->m_rcHyperSpot = CRect();
+        if (!link->m_rcHyperSpot.IntersectRect(&rcLink, &rcText))
+            continue;
+        const SaveDCGuard linkText(*pDC);
+        pDC->IntersectClipRect(link->m_rcHyperSpot);
+        pDC->SetTextColor(m_clrHyperlink);
+        DrawTextLine(pDC, strText, rcText, nAlignment);
+        pDC->FillSolidRect(left, y + m_nTextAscent + 1, right - left, 1, m_clrHyperlink);
+    }
+    for (int i = 0; i < pItem->GetHyperlinksCount(); ++i)
+        pDC->ExcludeClipRect(pItem->GetHyperlinkAt(i)->m_rcHyperSpot);
+    DrawTextLine(pDC, strText, rcText, nAlignment);
 }
 
 void CXTPReportPaintManager::DrawFocusedRow(CDC* pDC, const CRect& rcRow) {

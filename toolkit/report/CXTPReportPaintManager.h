@@ -44,6 +44,8 @@ public:
     /// Shown in the middle of a grid without rows.
     CString GetNoItemText() const { return m_strNoItems; }
     void SetNoItemText(LPCTSTR strText) { m_strNoItems = strText; }
+    /// Takes what the host has set on another paint manager: fonts, row height, grid lines, texts; but no colours.
+    void TakeOver(const CXTPReportPaintManager& former);
     /// Width of a text in one line, pixels.
     int GetTextWidth(const CString& strText, BOOL bBold = FALSE) const;
 
@@ -61,7 +63,8 @@ public:
     virtual void FillRowMetrics(CXTPReportRow* pRow, XTP_REPORTRECORDITEM_METRICS* pMetrics);
     /// The lines at the right and lower edge of a cell, inside `rcCell`.
     virtual void DrawGridLines(CDC* pDC, const CRect& rcCell);
-    /// One line of text, vertically centred, with an ellipsis when it does not fit.
+    /// One line of text in the colour that `pDC` has, vertically centred, with an ellipsis when it does not fit; stretches
+    /// that are hyperlinks are marked as such and told where they stand.
     virtual void DrawItemText(XTP_REPORTRECORDITEM_DRAWARGS* pDrawArgs, XTP_REPORTRECORDITEM_METRICS* pMetrics);
     virtual void DrawFocusedRow(CDC* pDC, const CRect& rcRow);
 
@@ -90,11 +93,13 @@ protected:
     XTPReportColumnStyle m_columnStyle;
     CFont m_fontText, m_fontBold;
     int m_nRowHeight = 0, m_nTextRowHeight = 0, m_nHeaderHeight = 0;
-    int m_nDpi = 96, m_nTextHeight = 0, m_nCellPadding = 0;
+    int m_nDpi = 96, m_nTextHeight = 0, m_nTextAscent = 0, m_nCellPadding = 0;
     XTPReportGridStyle m_gridVertical = xtpReportGridSolid, m_gridHorizontal = xtpReportGridSolid;
     CString m_strNoItems;
 
 private:
+    void DrawLinkedText(CDC* pDC, CXTPReportRecordItem* pItem, const CString& strText, const CRect& rcText,
+                        int nAlignment) const;
     void ApplyColors();
     void MeasureFont();
     void DrawGridLine(CDC* pDC, const CRect& rcLine, XTPReportGridStyle style, const CRect& rcCell) const;

@@ -1,9 +1,8 @@
 // The looks of a report control as data: which colour each role has in each theme and column style.
 #pragma once
 
+#include "../common/LookColor.h"
 #include "../common/XTPThemes.h"
-
-#include <windows.h>
 
 #include <array>
 #include <cstddef>
@@ -41,23 +40,6 @@ enum class Role {
 };
 constexpr std::size_t BodyRoles = static_cast<std::size_t>(Role::Header);
 constexpr std::size_t HeaderRoles = static_cast<std::size_t>(Role::Count) - BodyRoles;
-
-/// A fixed colour or one of the user's system colours.
-class LookColor {
-public:
-    static constexpr LookColor Rgb(int hex) {
-        return LookColor(RGB((hex >> 16) & 0xFF, (hex >> 8) & 0xFF, hex & 0xFF), -1);
-    }
-    static constexpr LookColor System(int index) { return LookColor(0, index); }
-    static constexpr LookColor None() { return LookColor(0xFFFFFFFF, -1); }
-    /// The COLORREF now; CXTPPaintManagerColor::Unset for none.
-    COLORREF Resolve() const { return m_systemIndex >= 0 ? ::GetSysColor(m_systemIndex) : m_color; }
-
-private:
-    constexpr LookColor(COLORREF color, int systemIndex) : m_color(color), m_systemIndex(systemIndex) {}
-    COLORREF m_color;
-    int m_systemIndex;
-};
 
 using BodyColors = std::array<LookColor, BodyRoles>;
 using HeaderColors = std::array<LookColor, HeaderRoles>;

@@ -1,0 +1,266 @@
+// The report control: its parts, its content, its look, and what it tells its owner.
+#include "CXTPReportControl.h"
+
+#include "CXTPReportColumn.h"
+#include "CXTPReportRecord.h"
+#include "ReportControlImpl.h"
+#include "ReportSort.h"
+
+#include <algorithm>
+
+IMPLEMENT_DYNCREATE(CXTPReportControl, CWnd)
+
+BEGIN_MESSAGE_MAP(CXTPReportControl, CWnd)
+    ON_WM_CREATE()
+    ON_WM_DESTROY()
+    ON_WM_PAINT()
+    ON_WM_PRINTCLIENT()
+    ON_WM_ERASEBKGND()
+    ON_WM_SIZE()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONUP()
+    ON_WM_LBUTTONDBLCLK()
+    ON_WM_RBUTTONDOWN()
+    ON_WM_RBUTTONUP()
+    ON_WM_CONTEXTMENU()
+    ON_WM_MOUSEMOVE()
+    ON_WM_MOUSELEAVE()
+    ON_WM_MOUSEWHEEL()
+    ON_WM_MOUSEHWHEEL()
+    ON_WM_SETCURSOR()
+    ON_WM_CAPTURECHANGED()
+    ON_WM_CANCELMODE()
+    ON_WM_KEYDOWN()
+    ON_WM_CHAR()
+    ON_WM_GETDLGCODE()
+    ON_WM_HSCROLL()
+    ON_WM_VSCROLL()
+    ON_WM_TIMER()
+    ON_WM_SETFOCUS()
+    ON_WM_KILLFOCUS()
+    ON_WM_ENABLE()
+    ON_WM_SYSCOLORCHANGE()
+    ON_WM_SETTINGCHANGE()
+    ON_MESSAGE(WM_SETFONT, &CXTPReportControl::OnSetFont)
+    ON_MESSAGE(WM_GETFONT, &CXTPReportControl::OnGetFont)
+END_MESSAGE_MAP()
+
+namespace {
+
+constexpr LPCTSTR WindowClassName = _T("XTPReport");
+
+/// Registers the window class with the first control.
+bool RegisterWindowClass() {
+    WNDCLASS windowClass = {};
+    const HINSTANCE module = AfxGetInstanceHandle();
+    if (::GetClassInfo(module, WindowClassName, &windowClass))
+        return true;
+    windowClass = {};
+    windowClass.style = CS_DBLCLKS;
+    windowClass.lpfnWndProc = ::DefWindowProc;
+    windowClass.hInstance = module;
+    windowClass.hCursor = ::LoadCursor(nullptr, IDC_ARROW);
+    windowClass.lpszClassName = WindowClassName;
+    return AfxRegisterClass(&windowClass);
+}
+
+} // namespace
+
+// --- Lifetime -------------------------------------------------------------------------------------------------------
+
+CXTPReportControl::Impl::Impl(CXTPReportControl& owner)
+    : control(owner), paintManager(std::make_unique<CXTPReportPaintManager>()),
+      columns(std::make_unique<CXTPReportColumns>(&owner)), rows(std::make_unique<CXTPReportRows>(&owner)),
+      selectedRows(std::make_unique<CXTPReportSelectedRows>(&owner)),
+      records(std::make_unique<CXTPReportRecords>(&owner)),
+      header(std::make_unique<CXTPReportHeader>(&owner, columns.get())) {}
+
+CXTPReportControl::Impl::~Impl() = default;
+
+CXTPReportControl::CXTPReportControl() : m_impl(std::make_unique<Impl>(*this)) {}
+
+CXTPReportControl::~CXTPReportControl() {
+    if (m_hWnd)
+        DestroyWindow();
+    // Emptied while everything still stands, because records and columns tell the control when they go.
+    m_impl->records->RemoveAll();
+    m_impl->records->SetVirtualMode(nullptr, 0);
+    m_impl->rows->Clear();
+    m_impl->columns->Clear();
+}
+
+BOOL CXTPReportControl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
+    return RegisterWindowClass() && CWnd::Create(WindowClassName, nullptr, dwStyle, rect, pParentWnd, nID);
+}
+
+int CXTPReportControl::OnCreate(LPCREATESTRUCT lpCreateStruct) {
+    if (CWnd::OnCreate(lpCreateStruct) == -1)
+        return -1;
+    AdjustLayout();
+    return 0;
+}
+
+void CXTPReportControl::OnDestroy() {
+    m_impl->toolTips.CancelToolTips();
+    m_impl->CancelGesture();
+    m_impl->buffer.Release();
+    m_impl->barV = m_impl->barH = BarState();
+    m_impl->isTrackingLeave = false;
+    CWnd::OnDestroy();
+}
+
+// --- Content --------------------------------------------------------------------------------------------------------
+
+void CXTPReportControl::AddColumn(CXTPReportColumn* pColumn) { m_impl->columns->Add(pColumn); }
+
+CXTPReportRecord* CXTPReportControl::AddRecord(CXTPReportRecord* pRecord) { return m_impl->records->Add(pRecord); }
+
+void CXTPReportControl::Populate() {
+    reportsort::RowStateKeeper keeper(*m_impl->rows, *m_impl->selectedRows, m_impl->focusedRow);
+    if (IsVirtualMode())
+        m_impl->rows->RebuildVirtual(m_impl->records->GetVirtualRecord(), m_impl->records->GetVirtualCount());
+    else
+        m_impl->rows->Rebuild(reportsort::SortedVisibleRecords(*m_impl->records, *m_impl->columns));
+    m_impl->focusedRow = keeper.Restore();
+    AdjustLayout();
+}
+
+void CXTPReportControl::ResetContent() {
+    m_impl->CancelGesture();
+    m_impl->records->RemoveAll();
+    m_impl->records->SetVirtualMode(nullptr, 0);
+    m_impl->rows->Clear();
+    m_impl->selectedRows->Clear();
+    OnRowsCleared();
+}
+
+void CXTPReportControl::SetVirtualMode(CXTPReportRecord* pVirtualRecord, int nCount) {
+    m_impl->records->SetVirtualMode(pVirtualRecord, nCount);
+}
+
+BOOL CXTPReportControl::IsVirtualMode() const { return m_impl->records->IsVirtualMode(); }
+
+void CXTPReportControl::OnRowRemoved(int nRowIndex) {
+    // A removed row hands the focus to the one that takes its place, so that the keyboard goes on from there.
+    int& focused = m_impl->focusedRow;
+    if (focused > nRowIndex)
+        --focused;
+    focused = std::min(focused, m_impl->rows->GetCount() - 1);
+    if (m_impl->topRow > nRowIndex)
+        --m_impl->topRow;
+    AdjustLayout();
+}
+
+void CXTPReportControl::OnRowsCleared() {
+    m_impl->focusedRow = -1;
+    m_impl->topRow = 0;
+    AdjustLayout();
+}
+
+void CXTPReportControl::OnColumnRemoved(CXTPReportColumn* pColumn) { m_impl->header->OnColumnRemoved(pColumn); }
+
+// --- Parts ----------------------------------------------------------------------------------------------------------
+
+CXTPReportColumns* CXTPReportControl::GetColumns() const { return m_impl->columns.get(); }
+CXTPReportRecords* CXTPReportControl::GetRecords() const { return m_impl->records.get(); }
+CXTPReportRows* CXTPReportControl::GetRows() const { return m_impl->rows.get(); }
+CXTPReportSelectedRows* CXTPReportControl::GetSelectedRows() const { return m_impl->selectedRows.get(); }
+CXTPReportHeader* CXTPReportControl::GetReportHeader() const { return m_impl->header.get(); }
+CXTPReportPaintManager* CXTPReportControl::GetPaintManager() const { return m_impl->paintManager.get(); }
+CXTPToolTipContext* CXTPReportControl::GetToolTipContext() const { return &m_impl->toolTips; }
+
+void CXTPReportControl::SetReportHeader(CXTPReportHeader* pHeader) {
+    if (!pHeader || pHeader == m_impl->header.get())
+        return;
+    m_impl->CancelGesture();
+    m_impl->header.reset(pHeader);
+    AdjustLayout();
+}
+
+void CXTPReportControl::SetPaintManager(CXTPReportPaintManager* pPaintManager) {
+    if (!pPaintManager || pPaintManager == m_impl->paintManager.get())
+        return;
+    m_impl->paintManager.reset(pPaintManager);
+    AdjustLayout();
+}
+
+void CXTPReportControl::SetTheme(XTPReportPaintTheme theme, BOOL bRedraw) {
+    auto paintManager = std::make_unique<CXTPReportPaintManager>(theme);
+    paintManager->TakeOver(*m_impl->paintManager);
+    m_impl->paintManager = std::move(paintManager);
+    m_impl->LayOut();
+    if (bRedraw)
+        RedrawControl();
+}
+
+// --- What the system changes ----------------------------------------------------------------------------------------
+
+void CXTPReportControl::OnSysColorChange() {
+    CWnd::OnSysColorChange();
+    m_impl->paintManager->RefreshMetrics();
+    AdjustLayout();
+}
+
+void CXTPReportControl::OnSettingChange(UINT uFlags, LPCTSTR lpszSection) {
+    CWnd::OnSettingChange(uFlags, lpszSection);
+    m_impl->paintManager->RefreshMetrics();
+    AdjustLayout();
+}
+
+void CXTPReportControl::OnEnable(BOOL bEnable) {
+    CWnd::OnEnable(bEnable);
+    m_impl->CancelGesture();
+    RedrawControl();
+}
+
+LRESULT CXTPReportControl::OnSetFont(WPARAM wParam, LPARAM lParam) {
+    LOGFONT font = {};
+    if (::GetObject(reinterpret_cast<HFONT>(wParam), sizeof(font), &font) == sizeof(font)) {
+        m_impl->paintManager->SetTextFont(font);
+        m_impl->LayOut();
+        if (LOWORD(lParam))
+            RedrawControl();
+    }
+    return 0;
+}
+
+LRESULT CXTPReportControl::OnGetFont(WPARAM, LPARAM) {
+    return reinterpret_cast<LRESULT>(m_impl->paintManager->GetTextFont()->GetSafeHandle());
+}
+
+// --- Editing commands -----------------------------------------------------------------------------------------------
+
+BOOL CXTPReportControl::CanCut() { return FALSE; }
+
+BOOL CXTPReportControl::CanCopy() { return m_impl->selectedRows->GetCount() > 0; }
+
+BOOL CXTPReportControl::CanPaste() { return FALSE; }
+
+// --- Notifications --------------------------------------------------------------------------------------------------
+
+LRESULT CXTPReportControl::SendItemNotify(UINT nCode, CPoint pt, CXTPReportRow* pRow, CXTPReportRecordItem* pItem,
+                                          CXTPReportColumn* pColumn, int nHyperlink) {
+    XTP_NM_REPORTRECORDITEM notify = {};
+    notify.pRow = pRow;
+    notify.pItem = pItem;
+    notify.pColumn = pColumn;
+    notify.nHyperlink = nHyperlink;
+    notify.pt = pt;
+    return SendNotify(nCode, &notify.hdr);
+}
+
+LRESULT CXTPReportControl::SendColumnNotify(UINT nCode, CXTPReportColumn* pColumn) {
+    XTP_NM_REPORTCOLUMN notify = {};
+    notify.pColumn = pColumn;
+    return SendNotify(nCode, &notify.hdr);
+}
+
+LRESULT CXTPReportControl::SendNotify(UINT nCode, NMHDR* pHeader) {
+    const CWnd* owner = m_hWnd ? GetOwner() : nullptr;
+    if (!owner || !owner->GetSafeHwnd())
+        return 0;
+    pHeader->hwndFrom = m_hWnd;
+    pHeader->idFrom = static_cast<UINT_PTR>(GetDlgCtrlID());
+    pHeader->code = nCode;
+    return owner->SendMessage(WM_NOTIFY, pHeader->idFrom, reinterpret_cast<LPARAM>(pHeader));
+}

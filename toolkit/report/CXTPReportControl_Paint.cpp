@@ -1,0 +1,145 @@
+// The drawing of a report control: which parts are damaged, and how they come to the screen.
+#include "ReportControlImpl.h"
+
+#include "../../framework/gdi/SelectGuard.h"
+
+#include <vector>
+
+namespace {
+
+/// Beyond this many rectangles the damage is painted as one.
+constexpr DWORD MaxDamageRects = 24;
+
+/// The rectangles that make up the region; its bounds alone when there are very many.
+std::vector<CRect> RectsOf(const CRgn& region) {
+    std::vector<BYTE> bytes(::GetRegionData(region, 0, nullptr));
+    auto* data = reinterpret_cast<RGNDATA*>(bytes.data());
+    if (bytes.empty() || !::GetRegionData(region, static_cast<DWORD>(bytes.size()), data))
+        return {};
+    if (data->rdh.nCount > MaxDamageRects)
+        return {CRect(data->rdh.rcBound)};
+    const RECT* rects = reinterpret_cast<const RECT*>(data->Buffer);
+    return std::vector<CRect>(rects, rects + data->rdh.nCount);
+}
+
+} // namespace
+
+// --- Asking for a redraw --------------------------------------------------------------------------------------------
+
+void CXTPReportControl::RedrawControl() {
+    if (m_hWnd)
+        Invalidate(FALSE);
+}
+
+void CXTPReportControl::RedrawRow(const CXTPReportRow* pRow) {
+    if (pRow && pRow->GetControl() == this)
+        m_impl->InvalidateRows({pRow->GetIndex(), pRow->GetIndex()});
+}
+
+void CXTPReportControl::Impl::InvalidateRows(gridgeometry::IndexRange range) const {
+    if (!control.m_hWnd)
+        return;
+    const CRect rcReport = control.GetReportRectangle();
+    const gridgeometry::UniformRows grid = RowGrid();
+    const gridgeometry::IndexRange visible = grid.VisibleRows(topRow);
+    const int first = std::max(range.first, visible.first);
+    const int last = std::min(range.last, visible.last);
+    if (first > last)
+        return;
+    CRect rcRows(rcReport);
+    rcRows.top = rcReport.top + grid.RowTop(topRow, first);
+    rcRows.bottom = rcReport.top + grid.RowTop(topRow, last) + grid.RowHeight();
+    rcRows.IntersectRect(&rcRows, &rcReport);
+    control.InvalidateRect(&rcRows, FALSE);
+}
+
+void CXTPReportControl::Impl::InvalidateFocusLook() const {
+    InvalidateRows({focusedRow, focusedRow});
+    const gridgeometry::IndexRange visible = RowGrid().VisibleRows(topRow);
+    for (int row = visible.first; row <= visible.last; ++row) {
+        if (selectedRows->Contains(row))
+            InvalidateRows({row, row});
+    }
+}
+
+void CXTPReportControl::Impl::RefreshMovedRow(int rowIndex) {
+    if (rowIndex < 0 || !movedRows.Contains(rowIndex) || !control.m_hWnd)
+        return;
+    InvalidateRows({rowIndex, rowIndex});
+    control.UpdateWindow();
+}
+
+// --- Messages -------------------------------------------------------------------------------------------------------
+
+BOOL CXTPReportControl::OnEraseBkgnd(CDC*) { return TRUE; } // painting leaves no gap
+
+void CXTPReportControl::OnPaint() {
+    CRgn damage;
+    damage.CreateRectRgn(0, 0, 0, 0);
+    GetUpdateRgn(&damage, FALSE);
+    CPaintDC dc(this);
+    for (const CRect& rc : RectsOf(damage))
+        m_impl->PaintRect(dc, rc);
+}
+
+LRESULT CXTPReportControl::OnPrintClient(CDC* pDC, UINT) {
+    if (pDC)
+        DoDraw(pDC, m_impl->ClientRect());
+    return 0;
+}
+
+void CXTPReportControl::Impl::PaintRect(CDC& dc, const CRect& rc) {
+    const CRect rcClient = ClientRect();
+    CDC* memory = buffer.Prepare(rcClient.Size());
+    if (!memory) {
+        control.DoDraw(&dc, rc);
+        return;
+    }
+    control.DoDraw(memory, rc);
+    buffer.Present(dc, rc);
+    // Rows of which every cell has drawn itself are where their items believe they are.
+    if (rc.left > rcClient.left || rc.right < rcClient.right)
+        return;
+    const CRect rcReport = control.GetReportRectangle();
+    const gridgeometry::IndexRange drawn =
+        RowGrid().RowsInBand(topRow, rc.top - rcReport.top, rc.bottom - rcReport.top);
+    if (!drawn.IsEmpty())
+        movedRows.Remove(drawn.first, drawn.last);
+}
+
+// --- Drawing --------------------------------------------------------------------------------------------------------
+
+void CXTPReportControl::DoDraw(CDC* pDC, const CRect& rcDirty) {
+    CRect rcDraw;
+    if (!rcDraw.IntersectRect(&rcDirty, m_impl->ClientRect()))
+        return;
+    const SaveDCGuard saved(*pDC);
+    pDC->IntersectClipRect(&rcDraw);
+    m_impl->DrawRows(pDC, rcDraw);
+    const CRect rcHeader = GetHeaderRect();
+    if (rcHeader.top < rcDraw.bottom && rcHeader.bottom > rcDraw.top)
+        m_impl->header->Draw(pDC, rcHeader);
+    m_impl->header->DrawDrag(pDC);
+}
+
+void CXTPReportControl::Impl::DrawRows(CDC* dc, const CRect& rcDirty) {
+    const CRect rcReport = control.GetReportRectangle();
+    CRect rcDraw;
+    if (!rcDraw.IntersectRect(&rcDirty, &rcReport))
+        return;
+    const gridgeometry::UniformRows grid = RowGrid();
+    const gridgeometry::IndexRange dirty =
+        grid.RowsInBand(topRow, rcDraw.top - rcReport.top, rcDraw.bottom - rcReport.top);
+    for (int index = dirty.first; index <= dirty.last; ++index) {
+        const int top = rcReport.top + grid.RowTop(topRow, index);
+        const CRect rcRow(rcReport.left, top, rcReport.right, top + grid.RowHeight());
+        if (CXTPReportRow* row = rows->GetAt(index))
+            row->Draw(dc, rcRow, rcDraw);
+    }
+    CRect rcBelow(rcReport);
+    rcBelow.top += grid.RowTop(topRow, grid.Count());
+    if (rcBelow.IntersectRect(&rcBelow, &rcDraw))
+        paintManager->FillBackground(dc, rcBelow);
+    if (grid.Count() == 0)
+        paintManager->DrawNoItemText(dc, rcReport);
+}

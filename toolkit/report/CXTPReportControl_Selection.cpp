@@ -1,0 +1,92 @@
+// Selection and focus of a report control, as the host and the user change them.
+#include "ReportControlImpl.h"
+
+void CXTPReportControl::SetMultipleSelection(BOOL bMultiple) {
+    m_impl->isMultipleSelection = bMultiple != FALSE;
+    if (bMultiple || m_impl->selectedRows->GetCount() <= 1)
+        return;
+    m_impl->ChangeSelection([this] {
+        CXTPReportRow* focused = GetFocusedRow();
+        m_impl->selectedRows->Select(focused ? focused : m_impl->selectedRows->GetAt(0));
+    });
+}
+
+BOOL CXTPReportControl::IsMultipleSelection() const { return m_impl->isMultipleSelection; }
+
+BOOL CXTPReportControl::HasFocus() const {
+    const HWND focus = m_hWnd ? ::GetFocus() : nullptr;
+    return focus && (focus == m_hWnd || ::IsChild(m_hWnd, focus));
+}
+
+CXTPReportRow* CXTPReportControl::GetFocusedRow() const { return m_impl->rows->GetAt(m_impl->focusedRow); }
+
+void CXTPReportControl::SetFocusedRow(CXTPReportRow* pRow, BOOL bSelect) {
+    if (pRow && pRow->GetControl() != this)
+        return;
+    const WindowGuard guard(*this);
+    const int index = pRow ? pRow->GetIndex() : -1;
+    m_impl->SetFocus(index);
+    if (guard.IsGone() || index < 0)
+        return;
+    m_impl->ScrollRowsTo(m_impl->RowGrid().TopRowToShow(m_impl->topRow, index));
+    if (bSelect)
+        m_impl->SelectByClick(index, 0);
+}
+
+void CXTPReportControl::OnSelectionChanged() {
+    SendItemNotify(XTP_NM_REPORT_SELCHANGED, CPoint(0, 0), GetFocusedRow(), nullptr, nullptr);
+}
+
+void CXTPReportControl::Impl::SetFocus(int rowIndex) {
+    if (rowIndex == focusedRow)
+        return;
+    InvalidateRows({focusedRow, focusedRow});
+    focusedRow = rowIndex;
+    InvalidateRows({focusedRow, focusedRow});
+    control.SendItemNotify(XTP_NM_REPORT_FOCUSCHANGED, CPoint(0, 0), control.GetFocusedRow(), nullptr, nullptr);
+}
+
+void CXTPReportControl::Impl::SelectByClick(int rowIndex, UINT mouseFlags) {
+    const bool extends = isMultipleSelection && (mouseFlags & MK_SHIFT) != 0;
+    const bool keeps = isMultipleSelection && (mouseFlags & MK_CONTROL) != 0;
+    ChangeSelection([&] {
+        if (extends) {
+            if (selectedRows->GetAnchor() < 0)
+                selectedRows->SetAnchor(rowIndex);
+            selectedRows->SelectBlock(selectedRows->GetAnchor(), rowIndex, !keeps);
+            return;
+        }
+        if (keeps)
+            selectedRows->Invert(rows->GetAt(rowIndex));
+        else
+            selectedRows->Select(rows->GetAt(rowIndex));
+        selectedRows->SetAnchor(rowIndex);
+    });
+}
+
+void CXTPReportControl::Impl::MoveFocusTo(int rowIndex, bool extends, bool keepsSelection) {
+    const WindowGuard guard(control);
+    const int formerFocus = focusedRow;
+    SetFocus(rowIndex);
+    if (guard.IsGone() || rowIndex >= rows->GetCount())
+        return;
+    ScrollRowsTo(RowGrid().TopRowToShow(topRow, rowIndex));
+    if (extends && isMultipleSelection) {
+        if (selectedRows->GetAnchor() < 0)
+            selectedRows->SetAnchor(formerFocus >= 0 ? formerFocus : rowIndex);
+        SelectByClick(rowIndex, keepsSelection ? MK_SHIFT | MK_CONTROL : MK_SHIFT);
+    } else if (!keepsSelection || !isMultipleSelection) {
+        SelectByClick(rowIndex, 0);
+    }
+}
+
+void CXTPReportControl::OnSetFocus(CWnd* pOldWnd) {
+    CWnd::OnSetFocus(pOldWnd);
+    m_impl->InvalidateFocusLook();
+}
+
+void CXTPReportControl::OnKillFocus(CWnd* pNewWnd) {
+    CWnd::OnKillFocus(pNewWnd);
+    m_impl->toolTips.CancelToolTips();
+    m_impl->InvalidateFocusLook();
+}

@@ -1,0 +1,81 @@
+// The tool tips of a report control: of headers, of cells, and of texts that are cut off.
+#include "ReportControlImpl.h"
+
+#include "CXTPReportColumn.h"
+#include "CXTPReportRecord.h"
+#include "CXTPReportRecordItem.h"
+
+namespace {
+
+/// Tool numbers of header columns; those of cells begin above.
+constexpr INT_PTR FirstHeaderTool = 1;
+constexpr INT_PTR FirstCellTool = INT_PTR{1} << 24;
+
+INT_PTR FillTool(TOOLINFO* tool, const CWnd& window, INT_PTR id, const CRect& rc, const CString& text) {
+    if (tool) {
+        tool->hwnd = window.m_hWnd;
+        tool->uId = static_cast<UINT_PTR>(id);
+        tool->rect = rc;
+        tool->lpszText = _tcsdup(text);
+    }
+    return id;
+}
+
+/// The text of a cell that does not fit into it; empty when there is nothing to add to what one sees.
+CString CutOffText(CXTPReportControl& control, const CellHit& hit) {
+    CXTPReportPaintManager* paintManager = control.GetPaintManager();
+    XTP_REPORTRECORDITEM_DRAWARGS args;
+    args.pControl = &control;
+    args.pRow = hit.row;
+    args.rcItem = hit.rcItem;
+    args.pColumn = hit.column;
+    args.pItem = hit.item;
+    XTP_REPORTRECORDITEM_METRICS metrics;
+    paintManager->FillRowMetrics(hit.row, &metrics);
+    if (CXTPReportRecord* record = hit.row->GetRecord())
+        record->GetItemMetrics(&args, &metrics);
+    hit.item->GetItemMetrics(&args, &metrics);
+    const BOOL bold = metrics.pFont == paintManager->GetTextBoldFont();
+    const int room = hit.rcItem.Width() - 2 * paintManager->GetCellPadding();
+    return paintManager->GetTextWidth(metrics.strText, bold) > room ? metrics.strText : CString();
+}
+
+} // namespace
+
+INT_PTR CXTPReportControl::OnToolHitTest(CPoint point, TOOLINFO* pTI) const {
+    if (const CXTPReportColumn* column = m_impl->header->HitTest(point)) {
+        CXTPReportPaintManager* paintManager = GetPaintManager();
+        CString text = column->GetTooltip();
+        const int room = column->GetWidth() - 2 * paintManager->GetCellPadding() -
+                         (column->IsSorted() ? paintManager->GetSortArrowSpace() : 0);
+        if (text.IsEmpty() && paintManager->GetTextWidth(column->GetCaption()) > room)
+            text = column->GetCaption();
+        if (text.IsEmpty())
+            return -1;
+        return FillTool(pTI, *this, FirstHeaderTool + column->GetIndex(), column->GetRect(), text);
+    }
+    m_impl->RefreshMovedRow(m_impl->RowAt(point));
+    const CellHit hit = m_impl->HitCell(point);
+    if (!hit.item)
+        return -1;
+    // A number of the cell's own choice would not tell one cell from the next.
+    const INT_PTR id = FirstCellTool + ((INT_PTR{hit.rowIndex} << 20) | hit.column->GetIndex());
+    const INT_PTR ofItem = hit.item->OnToolHitTest(point, pTI);
+    if (ofItem != -1) {
+        if (pTI)
+            pTI->uId = static_cast<UINT_PTR>(id);
+        return id;
+    }
+    const CString text = CutOffText(m_impl->control, hit);
+    return text.IsEmpty() ? -1 : FillTool(pTI, *this, id, hit.rcItem, text);
+}
+
+BOOL CXTPReportControl::PreTranslateMessage(MSG* pMsg) {
+    if (pMsg->hwnd == m_hWnd) {
+        const WindowGuard guard(*this);
+        m_impl->toolTips.FilterToolTipMessage(this, pMsg->message, pMsg->wParam, pMsg->lParam);
+        if (guard.IsGone())
+            return TRUE;
+    }
+    return CWnd::PreTranslateMessage(pMsg);
+}

@@ -1,0 +1,163 @@
+// The inside of a report control: its parts and its state. Only the control's own sources include this.
+//
+// The operations stand in the source of their concern: CXTPReportControl_Paint, _Scroll, _Selection, _Mouse, _Keyboard
+// and _Tips. Callbacks to items, to the owner and to overrides may do anything, even destroy the control: whoever makes
+// one holds a WindowGuard and returns at once when the window is gone, and finds rows and items anew afterwards.
+#pragma once
+
+#include "CXTPReportColumns.h"
+#include "CXTPReportControl.h"
+#include "CXTPReportHeader.h"
+#include "CXTPReportPaintManager.h"
+#include "CXTPReportRecords.h"
+#include "CXTPReportRow.h"
+#include "CXTPReportRows.h"
+#include "CXTPReportSelectedRows.h"
+#include "GridGeometry.h"
+#include "RowSelection.h"
+
+#include "../common/BackBuffer.h"
+
+/// Tells whether a window that was there has been destroyed since, without touching the object that had it.
+class WindowGuard {
+public:
+    explicit WindowGuard(const CWnd& window) : m_hWnd(window.m_hWnd) {}
+    bool IsGone() const { return m_hWnd && !::IsWindow(m_hWnd); }
+
+private:
+    HWND m_hWnd;
+};
+
+/// Which cell a point means; all null and −1 where there is none.
+struct CellHit {
+    CXTPReportRow* row = nullptr;
+    int rowIndex = -1;
+    CXTPReportRecordItem* item = nullptr;
+    CXTPReportColumn* column = nullptr;
+    CRect rcItem;
+
+    bool IsSameCell(const CellHit& other) const { return rowIndex == other.rowIndex && item == other.item; }
+};
+
+/// A press of the left button over the rows, from button down to button up.
+struct RowPress {
+    CellHit cell;            ///< compared only; rows and items may be gone
+    bool maySelect = false;  ///< leaving the row with the button down selects rows
+    bool isClick = false;    ///< the release over the same cell is a click
+    bool hasCapture = false; ///< the press captured the mouse
+    bool keepsOthers = false;
+    CPoint lastPoint;
+    RowSelection selected; ///< right after the press
+};
+
+/// What a scroll bar was told last.
+struct BarState {
+    bool isShown = false;
+    int last = 0; ///< the range is 0…last
+    int page = 0;
+    int pos = 0;
+    bool isThumbStale = false; ///< the position is set, but the bar was not redrawn
+};
+
+struct CXTPReportControl::Impl {
+    explicit Impl(CXTPReportControl& owner);
+    ~Impl();
+
+    CXTPReportControl& control;
+    std::unique_ptr<CXTPReportPaintManager> paintManager;
+    std::unique_ptr<CXTPReportColumns> columns;
+    std::unique_ptr<CXTPReportRows> rows;
+    std::unique_ptr<CXTPReportSelectedRows> selectedRows;
+    std::unique_ptr<CXTPReportRecords> records;
+    std::unique_ptr<CXTPReportHeader> header;
+    CXTPToolTipContext toolTips;
+
+    // --- Layout and scrolling ---------------------------------------------------------------------------------------
+    int topRow = 0;
+    int leftOffset = 0;
+    bool isLayingOut = false;
+    BarState barV, barH;
+    int barScaleV = 0; ///< the vertical bar counts in 2^barScaleV rows
+    gridgeometry::WheelAccumulator wheelV, wheelH;
+    /// Rows whose pixels were moved by scrolling since their items drew them: see RefreshMovedRow.
+    RowSelection movedRows;
+
+    CRect ClientRect() const; ///< empty without a window
+    gridgeometry::UniformRows RowGrid() const;
+    int RowAt(CPoint point) const;
+    void LayOut();
+    void FitBars();
+    void UpdateBar(int bar, BarState& state, const BarState& wanted);
+    void UpdateThumbs();
+    void RedrawStaleThumbs();
+    void ScrollRowsTo(std::int64_t top);
+    void MoveRowPixels(int formerTop);
+    void ScrollSidewaysTo(int offset);
+    int ScrollTarget(int bar, UINT code, UINT pos, int current, int line, int page, int maximum) const;
+    int SidewaysStep() const;
+
+    // --- Drawing ----------------------------------------------------------------------------------------------------
+    BackBuffer buffer;
+
+    void InvalidateRows(gridgeometry::IndexRange range) const;
+    void InvalidateFocusLook() const;
+    void PaintRect(CDC& dc, const CRect& rc);
+    void DrawRows(CDC* dc, const CRect& rcDirty);
+    /// Items may keep the place where they drew last and compare points with it. Scrolling moves the pixels of rows
+    /// without asking the items to draw, so a row that was moved is drawn again before the mouse meets it.
+    void RefreshMovedRow(int rowIndex);
+
+    // --- Selection and focus ----------------------------------------------------------------------------------------
+    bool isMultipleSelection = true;
+    int focusedRow = -1;
+
+    /// Runs `change` and tells listeners when the selection is another one afterwards.
+    template <class Change>
+    void ChangeSelection(Change change) {
+        const RowSelection former = selectedRows->GetRanges();
+        change();
+        if (former != selectedRows->GetRanges())
+            control.OnSelectionChanged();
+    }
+    void SetFocus(int rowIndex);
+    void SelectByClick(int rowIndex, UINT mouseFlags);
+    void MoveFocusTo(int rowIndex, bool extends, bool keepsSelection);
+
+    // --- Mouse ------------------------------------------------------------------------------------------------------
+    XTPReportMouseMode mouseMode = xtpReportMouseNothing;
+    RowPress press;
+    bool isTrackingLeave = false;
+
+    CellHit HitCell(CPoint point) const;
+    XTP_REPORTRECORDITEM_CLICKARGS ClickArgs(const CellHit& hit, CPoint point) const;
+    bool IsHeaderGesture() const;
+    void TrackLeave();
+    void StopTrackingLeave();
+    void PressRow(UINT flags, CPoint point);
+    void ReleaseRow(CPoint point);
+    void Click(const CellHit& pressed, CPoint point);
+    void CaptureForPress();
+    void EndPress();
+    void TrackRowSelection(CPoint point);
+    void SelectDraggedRows(CPoint point);
+    void AutoScroll();
+    void HoverHeader(UINT flags, CPoint point);
+    void RouteMouseMove(UINT flags, CPoint point);
+    /// The one way in which a gesture ends without effect.
+    void CancelGesture();
+
+    // --- Keyboard ---------------------------------------------------------------------------------------------------
+    CString searchText; ///< typed so far; the rows that begin with it are looked for
+    DWORD searchTime = 0;
+
+    bool MoveByKey(UINT key);
+    bool ScrollByKey(UINT key);
+    bool SelectByKey(UINT key);
+    void BestFitAll();
+    bool IsTyping() const;
+    void FindTyped(wchar_t character);
+};
+
+/// The control's timers; numbers of its own, because derived classes have theirs in the same window.
+constexpr UINT_PTR ReportTimerAutoScroll = 0x7E51;
+constexpr UINT_PTR ReportTimerThumbs = 0x7E52;

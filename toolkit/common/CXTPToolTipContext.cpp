@@ -39,8 +39,8 @@ struct CXTPToolTipContext::Impl : ToolTipWindow::Timers {
     explicit Impl(CXTPToolTipContext& owner) : context(owner) {}
 
     enum class Phase {
-        Idle,     ///< no tool under the pointer
-        Waiting,  ///< the pointer has to rest for a while
+        Idle,    ///< no tool under the pointer
+        Waiting, ///< the pointer has to rest for a while
         Shown,
         Dismissed ///< the tip was ended while the pointer was on its tool, and does not come back there
     };
@@ -56,7 +56,9 @@ struct CXTPToolTipContext::Impl : ToolTipWindow::Timers {
     // The system derives its tip times from the double click's.
     int InitialDelay() const { return initialDelay >= 0 ? initialDelay : static_cast<int>(::GetDoubleClickTime()); }
     int ReshowDelay() const { return reshowDelay >= 0 ? reshowDelay : static_cast<int>(::GetDoubleClickTime() / 5); }
-    int AutoPopDelay() const { return autoPopDelay >= 0 ? autoPopDelay : static_cast<int>(::GetDoubleClickTime() * 10); }
+    int AutoPopDelay() const {
+        return autoPopDelay >= 0 ? autoPopDelay : static_cast<int>(::GetDoubleClickTime() * 10);
+    }
 
     TipAppearance Appearance() const { return {context.m_style, context.m_nMaxTipWidth, context.m_rcMargin}; }
 

@@ -162,8 +162,12 @@ void ToolTipWindow::Draw(CDC& dc) {
     const TipLook& look = LookOf(m_appearance.style);
     const COLORREF top = look.top.Resolve(), bottom = look.bottom.Resolve();
     const auto vertex = [](LONG x, LONG y, COLORREF color) {
-        return TRIVERTEX{x, y, static_cast<COLOR16>(GetRValue(color) << 8), static_cast<COLOR16>(GetGValue(color) << 8),
-                         static_cast<COLOR16>(GetBValue(color) << 8), 0};
+        return TRIVERTEX{x,
+                         y,
+                         static_cast<COLOR16>(GetRValue(color) << 8),
+                         static_cast<COLOR16>(GetGValue(color) << 8),
+                         static_cast<COLOR16>(GetBValue(color) << 8),
+                         0};
     };
     TRIVERTEX corners[] = {vertex(rc.left, rc.top, top), vertex(rc.right, rc.bottom, bottom)};
     GRADIENT_RECT whole = {0, 1};

@@ -95,7 +95,8 @@ public:
 
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
-    // --- Called by the model as it changes ----------------------------------------------------------------------------
+    // --- Called by the model as it changes
+    // ----------------------------------------------------------------------------
     /// The row at that index was taken out, because its record is being deleted: focus, top row and scroll bars follow.
     /// The selection has already lost it. The rows below have moved up by one.
     void OnRowRemoved(int nRowIndex);

@@ -1,9 +1,10 @@
 // The mouse in a report control: presses and clicks on rows, selection by dragging, hovering, cursors. What happens in
 // the header is the header's affair.
 //
-// A press over the rows is described by Impl::press, a gesture by the mouse mode; both end in EndPress or CancelGesture.
-// A derived control may capture the mouse after our handler of the press and move points into the cell that it drags:
-// as long as the points stay in the pressed row, nothing is selected here, and moves go to the cell under the point.
+// A press over the rows is described by Impl::press, a gesture by the mouse mode; both end in EndPress or
+// CancelGesture. A derived control may capture the mouse after our handler of the press and move points into the cell
+// that it drags: as long as the points stay in the pressed row, nothing is selected here, and moves go to the cell
+// under the point.
 #include "ReportControlImpl.h"
 
 #include "CXTPReportColumn.h"
@@ -18,7 +19,8 @@ constexpr UINT AutoScrollInterval = 50;
 
 } // namespace
 
-// --- What is under the pointer ----------------------------------------------------------------------------------------
+// --- What is under the pointer
+// ----------------------------------------------------------------------------------------
 
 CellHit CXTPReportControl::Impl::HitCell(CPoint point) const {
     CellHit hit;
@@ -169,8 +171,8 @@ void CXTPReportControl::OnLButtonDblClk(UINT nFlags, CPoint point) {
     if (!hit.row || !hit.IsSameCell(pressed))
         return;
     SendItemNotify(NM_DBLCLK, point, hit.row, hit.item, hit.column);
-    // A cell that is dragged wants the press, however soon it follows the last one. Unless an answer to the double click
-    // has outlasted the button.
+    // A cell that is dragged wants the press, however soon it follows the last one. Unless an answer to the double
+    // click has outlasted the button.
     if (guard.IsGone() || ::GetKeyState(VK_LBUTTON) >= 0)
         return;
     SendMessage(WM_LBUTTONDOWN, nFlags & ~static_cast<UINT>(MK_CONTROL | MK_SHIFT), MAKELPARAM(point.x, point.y));
@@ -178,7 +180,8 @@ void CXTPReportControl::OnLButtonDblClk(UINT nFlags, CPoint point) {
         m_impl->press.isClick = false;
 }
 
-// --- Selecting by dragging --------------------------------------------------------------------------------------------
+// --- Selecting by dragging
+// --------------------------------------------------------------------------------------------
 
 void CXTPReportControl::Impl::TrackRowSelection(CPoint point) {
     press.lastPoint = point;

@@ -166,8 +166,8 @@ void CXTPReportControl::Impl::MoveRowPixels(int formerTop) {
     const gridgeometry::IndexRange now = grid.VisibleRows(topRow);
     const int first = std::max(before.first, now.first);
     const int last = std::min(before.last, now.last);
-    // While the mouse is captured a cell may be dragged, which needs to know its place at once; the picture of a dragged
-    // column must not be moved along with the rows.
+    // While the mouse is captured a cell may be dragged, which needs to know its place at once; the picture of a
+    // dragged column must not be moved along with the rows.
     const bool isCaptured = ::GetCapture() == control.m_hWnd;
     if (first > last || isCaptured) {
         control.InvalidateRect(&rcReport, FALSE);
@@ -238,8 +238,8 @@ void CXTPReportControl::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBa
         return;
     }
     const gridgeometry::UniformRows grid = m_impl->RowGrid();
-    m_impl->ScrollRowsTo(m_impl->ScrollTarget(SB_VERT, nSBCode, nPos, m_impl->topRow, 1, grid.FullyVisibleCount(),
-                                              grid.MaxTopRow()));
+    m_impl->ScrollRowsTo(
+        m_impl->ScrollTarget(SB_VERT, nSBCode, nPos, m_impl->topRow, 1, grid.FullyVisibleCount(), grid.MaxTopRow()));
 }
 
 void CXTPReportControl::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar) {

@@ -4,6 +4,7 @@
 #include "CXTPReportColumn.h"
 #include "CXTPReportRecord.h"
 #include "CXTPReportRecordItem.h"
+#include "CellText.h"
 
 namespace {
 
@@ -23,21 +24,9 @@ INT_PTR FillTool(TOOLINFO* tool, const CWnd& window, INT_PTR id, const CRect& rc
 
 /// The text of a cell that does not fit into it; empty when there is nothing to add to what one sees.
 CString CutOffText(CXTPReportControl& control, const CellHit& hit) {
-    CXTPReportPaintManager* paintManager = control.GetPaintManager();
-    XTP_REPORTRECORDITEM_DRAWARGS args;
-    args.pControl = &control;
-    args.pRow = hit.row;
-    args.rcItem = hit.rcItem;
-    args.pColumn = hit.column;
-    args.pItem = hit.item;
-    XTP_REPORTRECORDITEM_METRICS metrics;
-    paintManager->FillRowMetrics(hit.row, &metrics);
-    if (CXTPReportRecord* record = hit.row->GetRecord())
-        record->GetItemMetrics(&args, &metrics);
-    hit.item->GetItemMetrics(&args, &metrics);
-    const BOOL bold = metrics.pFont == paintManager->GetTextBoldFont();
-    const int room = hit.rcItem.Width() - 2 * paintManager->GetCellPadding();
-    return paintManager->GetTextWidth(metrics.strText, bold) > room ? metrics.strText : CString();
+    const XTP_REPORTRECORDITEM_METRICS metrics = CellMetrics(control, hit.row, hit.column, hit.item);
+    const int room = hit.rcItem.Width() - 2 * control.GetPaintManager()->GetCellPadding();
+    return CellTextWidth(metrics) > room ? metrics.strText : CString();
 }
 
 } // namespace

@@ -213,14 +213,13 @@ void CXTPReportPaintManager::DrawGridLine(CDC* pDC, const CRect& rcLine, XTPRepo
     const int end = isVertical ? rcLine.bottom : rcLine.right;
     for (int pos = isVertical ? rcCell.top : rcCell.left; pos < end; pos += pattern.dash + pattern.gap) {
         const int stop = std::min(pos + pattern.dash, end);
-        const CRect rcDash = isVertical ? CRect(rcLine.left, pos, rcLine.right, stop)
-                                        : CRect(pos, rcLine.top, stop, rcLine.bottom);
+        const CRect rcDash =
+            isVertical ? CRect(rcLine.left, pos, rcLine.right, stop) : CRect(pos, rcLine.top, stop, rcLine.bottom);
         pDC->FillSolidRect(&rcDash, m_clrGridLine);
     }
 }
 
-void CXTPReportPaintManager::DrawTextLine(CDC* pDC, const CString& strText, const CRect& rcText,
-                                          int nAlignment) const {
+void CXTPReportPaintManager::DrawTextLine(CDC* pDC, const CString& strText, const CRect& rcText, int nAlignment) const {
     if (strText.IsEmpty() || rcText.Width() <= 0)
         return;
     // What stands beyond the right edge is cut off anyway; a character is at least a pixel wide.

@@ -11,7 +11,8 @@
 /// is not drawn.
 class KY_TOOLKIT_API CXTPReportPaintManager : public CCmdTarget {
 public:
-    /// Themes without a look of their own get that of xtpReportThemeDefault; the column style begins as the theme's own.
+    /// Themes without a look of their own get that of xtpReportThemeDefault; the column style begins as the theme's
+    /// own.
     explicit CXTPReportPaintManager(XTPReportPaintTheme theme = xtpReportThemeDefault);
     ~CXTPReportPaintManager() override;
 
@@ -26,7 +27,7 @@ public:
     // --- Metrics ------------------------------------------------------------------------------------------------
     /// From one row's upper edge to the next one's, the grid line included.
     virtual int GetRowHeight() const;
-    void SetRowHeight(int nHeight); ///< 0: from the font
+    void SetRowHeight(int nHeight);      ///< 0: from the font
     virtual int GetHeaderHeight() const; ///< the line under the header included
     /// Space between the edge of a cell or header column and its text.
     int GetCellPadding() const { return m_nCellPadding; }
@@ -63,8 +64,8 @@ public:
     virtual void FillRowMetrics(CXTPReportRow* pRow, XTP_REPORTRECORDITEM_METRICS* pMetrics);
     /// The lines at the right and lower edge of a cell, inside `rcCell`.
     virtual void DrawGridLines(CDC* pDC, const CRect& rcCell);
-    /// One line of text in the colour that `pDC` has, vertically centred, with an ellipsis when it does not fit; stretches
-    /// that are hyperlinks are marked as such and told where they stand.
+    /// One line of text in the colour that `pDC` has, vertically centred, with an ellipsis when it does not fit;
+    /// stretches that are hyperlinks are marked as such and told where they stand.
     virtual void DrawItemText(XTP_REPORTRECORDITEM_DRAWARGS* pDrawArgs, XTP_REPORTRECORDITEM_METRICS* pMetrics);
     virtual void DrawFocusedRow(CDC* pDC, const CRect& rcRow);
 

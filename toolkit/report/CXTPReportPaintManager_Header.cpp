@@ -2,6 +2,7 @@
 #include "CXTPReportPaintManager.h"
 
 #include "CXTPReportColumn.h"
+#include "CXTPReportControl.h"
 #include "ReportLook.h"
 
 #include "../../framework/gdi/SelectGuard.h"
@@ -25,8 +26,12 @@ void FillVertical(CDC* pDC, const CRect& rc, COLORREF top, COLORREF bottom) {
         return;
     }
     const auto vertex = [](LONG x, LONG y, COLORREF color) {
-        return TRIVERTEX{x, y, static_cast<COLOR16>(GetRValue(color) << 8), static_cast<COLOR16>(GetGValue(color) << 8),
-                         static_cast<COLOR16>(GetBValue(color) << 8), 0};
+        return TRIVERTEX{x,
+                         y,
+                         static_cast<COLOR16>(GetRValue(color) << 8),
+                         static_cast<COLOR16>(GetGValue(color) << 8),
+                         static_cast<COLOR16>(GetBValue(color) << 8),
+                         0};
     };
     TRIVERTEX corners[] = {vertex(rc.left, rc.top, top), vertex(rc.right, rc.bottom, bottom)};
     GRADIENT_RECT whole = {0, 1};

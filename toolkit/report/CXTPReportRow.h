@@ -19,12 +19,12 @@ public:
 
     /// The row in client coordinates, over the full width of the report area; may lie outside the visible part.
     CRect GetRect() const;
-    /// The rectangle of the item in client coordinates; empty when its column is hidden. It is the cell without the grid
-    /// lines, which are the last pixel column and the last pixel row of the cell: exactly what `HitTest` tells for the
-    /// item, and what the item is given to draw in.
+    /// The rectangle of the item in client coordinates; empty when its column is hidden. It is the cell without the
+    /// grid lines, which are the last pixel column and the last pixel row of the cell: exactly what `HitTest` tells for
+    /// the item, and what the item is given to draw in.
     CRect GetItemRect(CXTPReportRecordItem* pItem) const;
-    /// The item under the point (client coordinates) with its rectangle as `GetItemRect` has it, and its column; null if
-    /// none, and then the two are left alone. A point on a grid line belongs to the cell left of or above it.
+    /// The item under the point (client coordinates) with its rectangle as `GetItemRect` has it, and its column; null
+    /// if none, and then the two are left alone. A point on a grid line belongs to the cell left of or above it.
     CXTPReportRecordItem* HitTest(CPoint ptPoint, CRect* pRectItem = nullptr,
                                   CXTPReportColumn** ppColumn = nullptr) const;
     BOOL IsItemsVisible() const { return m_pRecord != nullptr; }

@@ -15,3 +15,19 @@ list(APPEND kytoolkit_report_SOURCES
     report/RecordItemHeap.cpp
     report/RecordSequence.cpp
     report/ReportSort.cpp)
+# Then the view: control, header, rows, and the look of it all.
+list(APPEND kytoolkit_report_SOURCES
+    report/CellText.cpp
+    report/CXTPReportControl.cpp
+    report/CXTPReportControl_Keyboard.cpp
+    report/CXTPReportControl_Mouse.cpp
+    report/CXTPReportControl_Paint.cpp
+    report/CXTPReportControl_Scroll.cpp
+    report/CXTPReportControl_Selection.cpp
+    report/CXTPReportControl_Tips.cpp
+    report/CXTPReportHeader.cpp
+    report/CXTPReportHeader_Mouse.cpp
+    report/CXTPReportPaintManager.cpp
+    report/CXTPReportPaintManager_Header.cpp
+    report/CXTPReportRow.cpp
+    report/ReportLook.cpp)

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # What the setup scripts say and do when the machine does not give them what they need. Stand-ins earlier on PATH play
 # the machine: an apt-get without a network, a full disk, a user without rights.
+# shellcheck disable=SC2016 # The stand-ins are scripts, expanded when they run.
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 root=$(cd "$here/../.." && pwd)
@@ -13,8 +14,6 @@ trap 'rm -rf "$work"' EXIT
 mkdir -p "$work/checkout"
 cp -r "$root/tools" "$root/cmake" "$work/checkout"
 setup=$work/checkout/tools/setup
-
-# shellcheck disable=SC2016 # The stand-ins are scripts, expanded when they run.
 
 # stand_in NAME: a program from standard input, in a folder that comes first on PATH.
 stand_in() {

@@ -85,7 +85,7 @@ for package in "${missing[@]}"; do
 done
 
 # apt itself tells how much it is going to need, dependencies included.
-plan=$(LC_ALL=C apt-get -q --assume-no --no-install-recommends install "${missing[@]}" 2>/dev/null || true)
+plan=$("${as_root[@]}" env LC_ALL=C apt-get -q --assume-no --no-install-recommends install "${missing[@]}" 2>/dev/null || true)
 # megabytes SED-PATTERN: the number of MB that apt's plan gives, rounded up; 0 when it says nothing.
 megabytes() {
     sed -nE "s/.*$1.*/\1 \2/p" <<<"$plan" | tr -d , | awk '{

@@ -10,7 +10,6 @@ public:
     CDialog() = default;
     explicit CDialog(LPCTSTR lpszTemplateName, CWnd* pParentWnd = nullptr);
     explicit CDialog(UINT nIDTemplate, CWnd* pParentWnd = nullptr);
-    ~CDialog() override;
 
     using CWnd::Create;
     /// Without a mode. The template is a resource of the program or of an added resource module.
@@ -43,8 +42,6 @@ protected:
     /// IDOK: saves the data and, when that succeeds, ends with IDOK. IDCANCEL: ends with it.
     virtual void OnOK();
     virtual void OnCancel();
-    void PreSubclassWindow() override;
-    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
 
     afx_msg LRESULT HandleInitDialog(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()

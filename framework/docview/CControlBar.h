@@ -35,8 +35,6 @@ struct AFX_SIZEPARENTPARAMS {
 class KY_FRAMEWORK_API CControlBar : public CWnd {
     DECLARE_DYNAMIC(CControlBar)
 public:
-    ~CControlBar() override;
-
     BOOL m_bAutoDelete = FALSE; ///< The object is deleted with its window.
 
     DWORD GetBarStyle() const { return m_dwStyle; }

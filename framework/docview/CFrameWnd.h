@@ -86,7 +86,6 @@ protected:
     /// wParam a string id or 0, lParam a text or 0: shows it in the message bar; returns the id shown before.
     afx_msg LRESULT OnSetMessageString(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnPopMessageString(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnIdleUpdateCmdUI(WPARAM wParam, LPARAM lParam);
     afx_msg void OnUpdateControlBarMenu(CCmdUI* pCmdUI);
     afx_msg BOOL OnBarCheck(UINT nID);
     afx_msg void OnUpdateKeyIndicator(CCmdUI* pCmdUI);
@@ -94,8 +93,7 @@ protected:
 
     CString m_strTitle;
     CRect m_rectBorder{0, 0, 0, 0}; ///< Space that the layout leaves free at each side.
-    UINT m_nIDTracking = 0;         ///< The command whose message shows.
-    UINT m_nIDLastMessage = 0;
+    UINT m_nIDLastMessage = 0; ///< The string whose message shows.
     CView* m_pViewActive = nullptr;
     BOOL m_bInRecalcLayout = FALSE;
 

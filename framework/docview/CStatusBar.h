@@ -53,7 +53,6 @@ public:
     void OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler) override;
 
 protected:
-    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
     /// Draws a pane of the style SBPS_OWNERDRAW.
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);

@@ -24,7 +24,7 @@ struct AFX_MESSAGE {
     void* extra = nullptr; ///< CCmdUI* of update commands, AFX_NOTIFY* of WM_NOTIFY.
 };
 
-/// Calls one handler. False: the handler passes the message on, and the search continues in the table.
+/// Calls one handler. False: the handler passes the command or notification on along its route.
 using AFX_THUNK = bool (*)(CCmdTarget* target, AFX_MESSAGE& message);
 
 struct AFX_MSGMAP_ENTRY {

@@ -16,7 +16,8 @@ public:
     CMenu() = default;
     ~CMenu() override;
 
-    HMENU GetSafeHmenu() const { return this ? m_hMenu : nullptr; }
+    /// Also answers, with null, when called through a null pointer.
+    HMENU GetSafeHmenu() const;
     operator HMENU() const { return m_hMenu; }
 
     /// Each of them replaces nothing: the object must not hold a menu yet.

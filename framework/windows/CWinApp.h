@@ -68,11 +68,6 @@ protected:
     /// Closes the main window as its close button would.
     afx_msg void OnAppExit();
     DECLARE_MESSAGE_MAP()
-
-private:
-    void WriteIniBinary(LPCTSTR section, LPCTSTR entry, const BYTE* data, UINT bytes, BOOL& written);
-
-    friend KY_FRAMEWORK_API BOOL AfxWinInit(HINSTANCE, HINSTANCE, LPTSTR, int);
 };
 
 /// What a command line asks for.

@@ -22,6 +22,11 @@ class CScrollBar;
 struct CCreateContext;
 struct AFX_SIZEPARENTPARAMS;
 
+constexpr DWORD MLF_SHOWONIDLE = 0x0004;
+
+/// Hands one message to an object: the one place where an exception that leaves a handler ends.
+KY_FRAMEWORK_API LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam);
+
 class KY_FRAMEWORK_API CWnd : public CCmdTarget {
     DECLARE_DYNCREATE(CWnd)
 public:
@@ -92,7 +97,6 @@ public:
     virtual BOOL PreTranslateMessage(MSG* pMsg);
     /// Hands the message being handled back to the control whose parent this is not: see OnChildNotify.
     BOOL SendChildNotifyLastMsg(LRESULT* pResult = nullptr);
-    BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
 
     // Text, style, state ------------------------------------------------------------------------------------------
 
@@ -274,7 +278,7 @@ public:
     void CheckDlgButton(int nIDButton, UINT nCheck) { ::CheckDlgButton(m_hWnd, nIDButton, nCheck); }
     UINT IsDlgButtonChecked(int nIDButton) const { return ::IsDlgButtonChecked(m_hWnd, nIDButton); }
     CWnd* GetNextDlgTabItem(CWnd* pWndCtl, BOOL bPrevious = FALSE) const;
-    /// The outermost window by way of parents and owners; and the same by way of parents alone.
+    /// The outermost window by way of parents and owners. GetTopLevelOwner heeds SetOwner, GetTopLevelParent does not.
     CWnd* GetTopLevelOwner() const;
     CWnd* GetTopLevelParent() const;
     /// The nearest frame above this window, not itself; null when there is none.
@@ -292,6 +296,7 @@ public:
     // Modal loops -------------------------------------------------------------------------------------------------
 
     /// Dispatches messages, with idle processing, until EndModalLoop; returns what it was given.
+    /// `dwFlags`: MLF_SHOWONIDLE shows the window once the queue is empty.
     int RunModalLoop(DWORD dwFlags = 0);
     virtual BOOL ContinueModal() { return m_modalRunning; }
     virtual void EndModalLoop(int nResult);
@@ -350,7 +355,6 @@ protected:
     afx_msg LRESULT OnNcHitTest(CPoint point) { return Default(); }
     afx_msg BOOL OnNcActivate(BOOL bActive) { return static_cast<BOOL>(Default()); }
     afx_msg LRESULT OnThemeChanged() { return Default(); }
-    afx_msg void OnSettingChange(UINT uFlags, LPCTSTR lpszSection) { Default(); }
     afx_msg HCURSOR OnQueryDragIcon() { return reinterpret_cast<HCURSOR>(Default()); }
     afx_msg void OnMouseMove(UINT nFlags, CPoint point) { Default(); }
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt) { return static_cast<BOOL>(Default()); }
@@ -396,6 +400,7 @@ protected:
     afx_msg void OnNcDestroy();
     afx_msg void OnParentNotify(UINT message, LPARAM lParam);
     afx_msg void OnSysColorChange();
+    afx_msg void OnSettingChange(UINT uFlags, LPCTSTR lpszSection);
     afx_msg HBRUSH OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor);
     afx_msg void OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct);
     afx_msg void OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct);
@@ -406,6 +411,8 @@ protected:
 
     HWND m_hWndOwner = nullptr;
     WNDPROC m_pfnSuper = nullptr;
+    BOOL m_modalRunning = FALSE; ///< Between the start of a modal loop and EndModalLoop.
+    int m_modalResult = -1;
 
     DECLARE_MESSAGE_MAP()
 
@@ -413,10 +420,7 @@ private:
     explicit CWnd(HWND hWnd) : m_hWnd(hWnd) {}
     BOOL DispatchToMap(AFX_MESSAGE& message);
 
-    BOOL m_modalRunning = FALSE;
-    int m_modalResult = 0;
 
     friend struct WindowState;
-    friend class CWinThread;
-    friend class CCmdUI;
+    friend KY_FRAMEWORK_API LRESULT AfxCallWndProc(CWnd*, HWND, UINT, WPARAM, LPARAM);
 };

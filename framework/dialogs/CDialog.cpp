@@ -6,9 +6,9 @@
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
 
 BEGIN_MESSAGE_MAP(CDialog, CWnd)
-ON_MESSAGE(WM_INITDIALOG, &CDialog::HandleInitDialog)
-ON_COMMAND(IDOK, &CDialog::OnOK)
-ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
+    ON_MESSAGE(WM_INITDIALOG, &CDialog::HandleInitDialog)
+    ON_COMMAND(IDOK, &CDialog::OnOK)
+    ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
 END_MESSAGE_MAP()
 
 CDialog::CDialog(LPCTSTR lpszTemplateName, CWnd* pParentWnd)
@@ -35,7 +35,8 @@ BOOL CDialog::CreateFromTemplate(LPCDLGTEMPLATE dialogTemplate, CWnd* parent, HI
     if (dialogTemplate == nullptr)
         return FALSE;
     AfxHookWindowCreate(this);
-    const HWND created = ::CreateDialogIndirectParam(module, dialogTemplate, parent->GetSafeHwnd(), &DialogProcedure, 0);
+    const HWND created =
+        ::CreateDialogIndirectParam(module, dialogTemplate, parent->GetSafeHwnd(), &DialogProcedure, 0);
     if (!AfxUnhookWindowCreate())
         PostNcDestroy();
     return created != nullptr;
@@ -93,8 +94,7 @@ INT_PTR CDialog::DoModal() {
     m_modalRunning = FALSE;
 
     if (m_hWnd != nullptr)
-        SetWindowPos(nullptr, 0, 0, 0, 0,
-                     SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
+        SetWindowPos(nullptr, 0, 0, 0, 0, SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
     // The owner must be enabled before the dialog goes, or another program would be activated.
     if (disabled != nullptr) {
         ::EnableWindow(disabled, TRUE);

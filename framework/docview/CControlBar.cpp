@@ -5,9 +5,9 @@
 IMPLEMENT_DYNAMIC(CControlBar, CWnd)
 
 BEGIN_MESSAGE_MAP(CControlBar, CWnd)
-ON_MESSAGE(WM_SIZEPARENT, &CControlBar::OnSizeParent)
-ON_MESSAGE(WM_IDLEUPDATECMDUI, &CControlBar::OnIdleUpdateCmdUI)
-ON_MESSAGE(WM_INITIALUPDATE, &CControlBar::OnInitialUpdate)
+    ON_MESSAGE(WM_SIZEPARENT, &CControlBar::OnSizeParent)
+    ON_MESSAGE(WM_IDLEUPDATECMDUI, &CControlBar::OnIdleUpdateCmdUI)
+    ON_MESSAGE(WM_INITIALUPDATE, &CControlBar::OnInitialUpdate)
 END_MESSAGE_MAP()
 
 void CControlBar::PostNcDestroy() {

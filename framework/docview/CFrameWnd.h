@@ -93,7 +93,7 @@ protected:
 
     CString m_strTitle;
     CRect m_rectBorder{0, 0, 0, 0}; ///< Space that the layout leaves free at each side.
-    UINT m_nIDLastMessage = 0; ///< The string whose message shows.
+    UINT m_nIDLastMessage = 0;      ///< The string whose message shows.
     CView* m_pViewActive = nullptr;
     BOOL m_bInRecalcLayout = FALSE;
 

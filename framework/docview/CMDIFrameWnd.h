@@ -24,8 +24,8 @@ public:
     void MDIPrev() { ::SendMessage(m_hWndMDIClient, WM_MDINEXT, 0, TRUE); }
     void MDITile(int nType) { ::SendMessage(m_hWndMDIClient, WM_MDITILE, static_cast<WPARAM>(nType), 0); }
     void MDICascade() { ::SendMessage(m_hWndMDIClient, WM_MDICASCADE, 0, 0); }
-    /// Shows another menu in the frame; the list of open children goes to the end of `pWindowMenu`. Null menus leave what
-    /// is there. Returns the menu shown before.
+    /// Shows another menu in the frame; the list of open children goes to the end of `pWindowMenu`. Null menus leave
+    /// what is there. Returns the menu shown before.
     CMenu* MDISetMenu(CMenu* pFrameMenu, CMenu* pWindowMenu);
 
     CFrameWnd* GetActiveFrame() override;

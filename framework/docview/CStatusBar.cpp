@@ -7,10 +7,10 @@
 IMPLEMENT_DYNAMIC(CStatusBar, CControlBar)
 
 BEGIN_MESSAGE_MAP(CStatusBar, CControlBar)
-ON_WM_SIZE()
-ON_MESSAGE(WM_SETTEXT, &CStatusBar::OnSetText)
-ON_MESSAGE(WM_GETTEXT, &CStatusBar::OnGetText)
-ON_MESSAGE(WM_GETTEXTLENGTH, &CStatusBar::OnGetTextLength)
+    ON_WM_SIZE()
+    ON_MESSAGE(WM_SETTEXT, &CStatusBar::OnSetText)
+    ON_MESSAGE(WM_GETTEXT, &CStatusBar::OnGetText)
+    ON_MESSAGE(WM_GETTEXTLENGTH, &CStatusBar::OnGetTextLength)
 END_MESSAGE_MAP()
 
 namespace {

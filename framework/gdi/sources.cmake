@@ -9,4 +9,5 @@ list(APPEND kyframework_gdi_SOURCES
     gdi/CPalette.cpp
     gdi/CPen.cpp
     gdi/CRgn.cpp
-    gdi/SelectGuard.cpp)
+    gdi/SelectGuard.cpp
+    gdi/WindowDCs.cpp)

@@ -111,8 +111,8 @@ private:
         if (::RegCreateKeyEx(HKEY_CURRENT_USER, PathOf(section), 0, nullptr, 0, KEY_SET_VALUE, nullptr, &key,
                              nullptr) != ERROR_SUCCESS)
             return false;
-        const LSTATUS status = ::RegSetValueEx(key, entry, 0, type, static_cast<const BYTE*>(data),
-                                               static_cast<DWORD>(size));
+        const LSTATUS status =
+            ::RegSetValueEx(key, entry, 0, type, static_cast<const BYTE*>(data), static_cast<DWORD>(size));
         ::RegCloseKey(key);
         return status == ERROR_SUCCESS;
     }

@@ -57,7 +57,8 @@ LRESULT EndException(CException* exception, const MSG& message) {
 // The creation hook sees every window of the thread; the input method makes windows of its own in between.
 bool IsInputMethodWindow(HWND handle) {
     TCHAR name[16];
-    return ::GetClassName(handle, name, 16) != 0 && (::lstrcmpi(name, _T("IME")) == 0 || _tcsnicmp(name, _T("MSCTFIME"), 8) == 0);
+    return ::GetClassName(handle, name, 16) != 0 &&
+           (::lstrcmpi(name, _T("IME")) == 0 || _tcsnicmp(name, _T("MSCTFIME"), 8) == 0);
 }
 
 LRESULT CALLBACK CreationHook(int code, WPARAM wParam, LPARAM lParam) {
@@ -74,7 +75,7 @@ LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM l
     const MSG message{hWnd, nMsg, wParam, lParam, 0, {}};
     const CurrentMessage current(WindowState::Current(), message);
     try {
-        return pWnd->WindowProc(nMsg, wParam, lParam);
+        return WindowState::Deliver(*pWnd, nMsg, wParam, lParam);
     } catch (CException* exception) {
         return EndException(exception, message);
     } catch (const std::exception& exception) {

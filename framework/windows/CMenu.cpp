@@ -22,7 +22,7 @@ BOOL CMenu::Attach(HMENU hMenu) {
 HMENU CMenu::Detach() {
     WindowState& state = WindowState::Current();
     if (m_hMenu != nullptr && state.menus.FindPermanent(m_hMenu) == this) {
-        state.menus.RemovePermanent(m_hMenu);
+        state.menus.RemovePermanent(m_hMenu, this);
         handlecounts::Remove(handlecounts::Kind::Menu);
     }
     return std::exchange(m_hMenu, nullptr);

@@ -6,7 +6,7 @@
 IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
 
 BEGIN_MESSAGE_MAP(CWinApp, CWinThread)
-ON_COMMAND(ID_APP_EXIT, &CWinApp::OnAppExit)
+    ON_COMMAND(ID_APP_EXIT, &CWinApp::OnAppExit)
 END_MESSAGE_MAP()
 
 namespace {
@@ -30,8 +30,7 @@ void Free(LPCTSTR& text) {
 
 } // namespace
 
-CWinApp::CWinApp(LPCTSTR lpszAppName)
-    : m_hInstance(AfxGetInstanceHandle()), m_lpCmdLine(const_cast<LPTSTR>(_T(""))) {
+CWinApp::CWinApp(LPCTSTR lpszAppName) : m_hInstance(AfxGetInstanceHandle()), m_lpCmdLine(const_cast<LPTSTR>(_T(""))) {
     const CString program = ProgramName();
     CString title;
     if (lpszAppName == nullptr && !title.LoadString(AFX_IDS_APP_TITLE))

@@ -45,7 +45,7 @@ BOOL CWnd::Attach(HWND hWndNew) {
 
 HWND CWnd::Detach() {
     if (m_hWnd != nullptr && FromHandlePermanent(m_hWnd) == this) {
-        WindowState::Current().windows.RemovePermanent(m_hWnd);
+        WindowState::Current().windows.RemovePermanent(m_hWnd, this);
         handlecounts::Remove(handlecounts::Kind::Window);
     }
     return std::exchange(m_hWnd, nullptr);
@@ -110,10 +110,9 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowNa
     }
 
     AfxHookWindowCreate(this);
-    const HWND created =
-        ::CreateWindowEx(create.dwExStyle, create.lpszClass, create.lpszName, static_cast<DWORD>(create.style),
-                         create.x, create.y, create.cx, create.cy, create.hwndParent, create.hMenu, create.hInstance,
-                         create.lpCreateParams);
+    const HWND created = ::CreateWindowEx(create.dwExStyle, create.lpszClass, create.lpszName,
+                                          static_cast<DWORD>(create.style), create.x, create.y, create.cx, create.cy,
+                                          create.hwndParent, create.hMenu, create.hInstance, create.lpCreateParams);
     // A window that failed after it was hooked has ended in OnNcDestroy, which has called PostNcDestroy; the object may
     // be gone by now.
     const BOOL hooked = AfxUnhookWindowCreate();

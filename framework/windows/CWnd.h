@@ -258,8 +258,9 @@ public:
     static CWnd* PASCAL FindWindow(LPCTSTR lpszClassName, LPCTSTR lpszWindowName) {
         return FromHandle(::FindWindow(lpszClassName, lpszWindowName));
     }
-    /// The tool of the window at a point in client coordinates, for tool tips: an identifier that is unique in the window,
-    /// with its rectangle and text (allocated with malloc, freed by the caller) in `pTI`; −1 where there is none.
+    /// The tool of the window at a point in client coordinates, for tool tips: an identifier that is unique in the
+    /// window, with its rectangle and text (allocated with malloc, freed by the caller) in `pTI`; −1 where there is
+    /// none.
     virtual INT_PTR OnToolHitTest(CPoint point, TOOLINFO* pTI) const { return -1; }
     static CWnd* PASCAL WindowFromPoint(POINT point) { return FromHandle(::WindowFromPoint(point)); }
     CWnd* ChildWindowFromPoint(POINT point) const { return FromHandle(::ChildWindowFromPoint(m_hWnd, point)); }
@@ -420,7 +421,5 @@ private:
     explicit CWnd(HWND hWnd) : m_hWnd(hWnd) {}
     BOOL DispatchToMap(AFX_MESSAGE& message);
 
-
     friend struct WindowState;
-    friend KY_FRAMEWORK_API LRESULT AfxCallWndProc(CWnd*, HWND, UINT, WPARAM, LPARAM);
 };

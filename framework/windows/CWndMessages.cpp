@@ -4,18 +4,18 @@
 #include "WindowState.h"
 
 BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
-ON_WM_DESTROY()
-ON_WM_NCDESTROY()
-ON_WM_PARENTNOTIFY()
-ON_WM_SYSCOLORCHANGE()
-ON_WM_SETTINGCHANGE()
-ON_WM_CTLCOLOR()
-ON_WM_DRAWITEM()
-ON_WM_MEASUREITEM()
-ON_WM_DELETEITEM()
-ON_WM_COMPAREITEM()
-ON_WM_HSCROLL()
-ON_WM_VSCROLL()
+    ON_WM_DESTROY()
+    ON_WM_NCDESTROY()
+    ON_WM_PARENTNOTIFY()
+    ON_WM_SYSCOLORCHANGE()
+    ON_WM_SETTINGCHANGE()
+    ON_WM_CTLCOLOR()
+    ON_WM_DRAWITEM()
+    ON_WM_MEASUREITEM()
+    ON_WM_DELETEITEM()
+    ON_WM_COMPAREITEM()
+    ON_WM_HSCROLL()
+    ON_WM_VSCROLL()
 END_MESSAGE_MAP()
 
 // Messages ------------------------------------------------------------------------------------------------------------
@@ -273,8 +273,7 @@ void CWnd::SendMessageToDescendants(UINT message, WPARAM wParam, LPARAM lParam, 
     SendMessageToDescendants(m_hWnd, message, wParam, lParam, bDeep, bOnlyPerm);
 }
 
-void CWnd::SendMessageToDescendants(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam, BOOL bDeep,
-                                    BOOL bOnlyPerm) {
+void CWnd::SendMessageToDescendants(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam, BOOL bDeep, BOOL bOnlyPerm) {
     for (HWND child = ::GetTopWindow(hWnd); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT)) {
         if (!bOnlyPerm)
             ::SendMessage(child, message, wParam, lParam);

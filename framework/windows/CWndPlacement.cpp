@@ -245,7 +245,8 @@ CWnd* CWnd::GetTopLevelOwner() const {
     HWND top = m_hWnd;
     for (;;) {
         const CWnd* const object = FromHandlePermanent(top);
-        const HWND next = object != nullptr && object->m_hWndOwner != nullptr ? object->m_hWndOwner : ParentOrOwner(top);
+        const HWND next =
+            object != nullptr && object->m_hWndOwner != nullptr ? object->m_hWndOwner : ParentOrOwner(top);
         if (next == nullptr)
             return FromHandle(top);
         top = next;

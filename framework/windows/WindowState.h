@@ -14,7 +14,7 @@ struct WindowState {
     HandleMap<HMENU, CMenu> menus;
     CWnd* beingCreated = nullptr; ///< Becomes the object of the next window that the thread creates.
     HHOOK creationHook = nullptr;
-    MSG lastMessage{};            ///< The message being handled, for Default.
+    MSG lastMessage{}; ///< The message being handled, for Default.
     CWinThread* thread = nullptr;
     int waitCursors = 0;
     HCURSOR cursorBeforeWait = nullptr;
@@ -28,6 +28,10 @@ struct WindowState {
 
     /// Puts the framework's procedure before the window's own, which `window` remembers.
     static void TakeOverProcedure(CWnd& window);
+    /// Calls the object's WindowProc.
+    static LRESULT Deliver(CWnd& window, UINT message, WPARAM wParam, LPARAM lParam) {
+        return window.WindowProc(message, wParam, lParam);
+    }
     /// Gives the object being created the window that is coming into being.
     void AdoptCreatedWindow(HWND handle);
 };

@@ -1,0 +1,4 @@
+# The standard controls.
+list(APPEND kyframework_controls_SOURCES
+    controls/CToolTipCtrl.cpp
+    controls/Controls.cpp)

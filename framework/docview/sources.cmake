@@ -1,0 +1,6 @@
+# Frames, views and control bars.
+list(APPEND kyframework_docview_SOURCES
+    docview/CControlBar.cpp
+    docview/CFrameWnd.cpp
+    docview/CStatusBar.cpp
+    docview/CView.cpp)

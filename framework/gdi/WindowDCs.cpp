@@ -1,0 +1,35 @@
+// WindowDCs.cpp - the device contexts of windows.
+#include "WindowDCs.h"
+
+#include "../core/CException.h"
+#include "../windows/CWnd.h"
+
+IMPLEMENT_DYNAMIC(CClientDC, CDC)
+IMPLEMENT_DYNAMIC(CWindowDC, CDC)
+IMPLEMENT_DYNAMIC(CPaintDC, CDC)
+
+CClientDC::CClientDC(CWnd* window) : m_hWnd(window->GetSafeHwnd()) {
+    if (!Attach(::GetDC(m_hWnd)))
+        AfxThrowResourceException();
+}
+
+CClientDC::~CClientDC() { ::ReleaseDC(m_hWnd, Detach()); }
+
+CWindowDC::CWindowDC(CWnd* window) : m_hWnd(window->GetSafeHwnd()) {
+    if (!Attach(::GetWindowDC(m_hWnd)))
+        AfxThrowResourceException();
+}
+
+CWindowDC::~CWindowDC() { ::ReleaseDC(m_hWnd, Detach()); }
+
+CPaintDC::CPaintDC(CWnd* window) : m_hWnd(window->GetSafeHwnd()) {
+    if (!Attach(::BeginPaint(m_hWnd, &m_ps)))
+        AfxThrowResourceException();
+}
+
+CPaintDC::~CPaintDC() {
+    Detach();
+    ::EndPaint(m_hWnd, &m_ps);
+}
+
+CWnd* CDC::GetWindow() const { return CWnd::FromHandle(::WindowFromDC(m_hDC)); }

@@ -3,6 +3,8 @@
 #include <limits>
 #include <random>
 
+#include <psapi.h>
+
 namespace {
 
 std::vector<int> Stored(const std::function<void(CArchive&)>& write, int bufferSize = 4096) {
@@ -41,6 +43,13 @@ int CauseOf(const std::function<void()>& action) {
         return cause;
     }
     return CArchiveException::none;
+}
+
+/// The most memory that the process has used so far, in bytes.
+SIZE_T PeakMemory() {
+    PROCESS_MEMORY_COUNTERS counters{};
+    K32GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof(counters));
+    return counters.PeakWorkingSetSize;
 }
 
 } // namespace
@@ -164,8 +173,11 @@ TEST(Archive, ABrokenLengthCostsNoMemory) {
     // 0x7FFFFFFF wide characters are said to follow, four gigabytes.
     Loader loader({0xFF, 0xFE, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0x7F, 'a', 0});
     CString text(L"before");
+    const SIZE_T peakBefore = PeakMemory();
+    ASSERT_GT(peakBefore, 0u);
     EXPECT_EQ(CauseOf([&] { *loader >> text; }), CArchiveException::endOfFile);
     EXPECT_EQ(text, L"before");
+    EXPECT_LT(PeakMemory() - peakBefore, SIZE_T(16) << 20);
 }
 
 TEST(Archive, ALengthBeyondAllTextsIsBadData) {

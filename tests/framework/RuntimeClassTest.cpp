@@ -91,11 +91,16 @@ TEST(RuntimeClass, DynamicDowncastGivesNullForAnotherClass) {
 }
 
 TEST(RuntimeClass, AClassLeavesTheListWithItsRegistration) {
-    static CRuntimeClass description = {"Passing", 8, 0xFFFF, nullptr, &CObject::GetThisClass, nullptr};
+    static CRuntimeClass first = {"PassingFirst", 8, 0xFFFF, nullptr, &CObject::GetThisClass, nullptr};
+    static CRuntimeClass second = {"PassingSecond", 8, 0xFFFF, nullptr, &CObject::GetThisClass, nullptr};
     {
-        const AFX_CLASSINIT registration(&description);
-        EXPECT_EQ(CRuntimeClass::FromName("Passing"), &description);
+        auto registration = std::make_unique<AFX_CLASSINIT>(&first);
+        const AFX_CLASSINIT later(&second);
+        EXPECT_EQ(CRuntimeClass::FromName("PassingFirst"), &first);
+        registration.reset();
+        EXPECT_EQ(CRuntimeClass::FromName("PassingFirst"), nullptr);
+        EXPECT_EQ(CRuntimeClass::FromName("PassingSecond"), &second);
     }
-    EXPECT_EQ(CRuntimeClass::FromName("Passing"), nullptr);
+    EXPECT_EQ(CRuntimeClass::FromName("PassingSecond"), nullptr);
     EXPECT_EQ(CRuntimeClass::FromName("Ring"), RUNTIME_CLASS(Ring));
 }

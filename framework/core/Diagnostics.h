@@ -36,12 +36,3 @@ KY_FRAMEWORK_API BOOL AfxIsValidAddress(const void* p, UINT_PTR bytes, BOOL read
 #define ASSERT_VALID(object) static_cast<void>(0)
 #define TRACE(...) static_cast<void>(0)
 #endif
-#define TRACE0(text) TRACE(text)
-#define ASSERT_POINTER(p, type) ASSERT(AfxIsValidAddress((p), sizeof(type), FALSE))
-#define ENSURE(expression)                                                                                             \
-    do {                                                                                                               \
-        if (!(expression))                                                                                             \
-            AfxThrowInvalidArgException();                                                                             \
-    } while (false)
-
-[[noreturn]] KY_FRAMEWORK_API void AfxThrowInvalidArgException();

@@ -1,12 +1,16 @@
 // WindowDCs.cpp - the device contexts of windows.
-#include "WindowDCs.h"
+#include "gdi/WindowDCs.h"
 
-#include "../core/CException.h"
-#include "../windows/CWnd.h"
+#include "core/CException.h"
+#include "windows/CWnd.h"
 
 IMPLEMENT_DYNAMIC(CClientDC, CDC)
 IMPLEMENT_DYNAMIC(CWindowDC, CDC)
 IMPLEMENT_DYNAMIC(CPaintDC, CDC)
+
+CWnd* CDC::GetWindow() const { return CWnd::FromHandle(::WindowFromDC(m_hDC)); }
+
+int CDC::ExcludeUpdateRgn(CWnd* window) { return ::ExcludeUpdateRgn(m_hDC, window->m_hWnd); }
 
 CClientDC::CClientDC(CWnd* window) : m_hWnd(window->GetSafeHwnd()) {
     if (!Attach(::GetDC(m_hWnd)))
@@ -22,14 +26,13 @@ CWindowDC::CWindowDC(CWnd* window) : m_hWnd(window->GetSafeHwnd()) {
 
 CWindowDC::~CWindowDC() { ::ReleaseDC(m_hWnd, Detach()); }
 
-CPaintDC::CPaintDC(CWnd* window) : m_hWnd(window->GetSafeHwnd()) {
+CPaintDC::CPaintDC(CWnd* window) : m_ps{}, m_hWnd(window->m_hWnd) {
     if (!Attach(::BeginPaint(m_hWnd, &m_ps)))
         AfxThrowResourceException();
 }
 
 CPaintDC::~CPaintDC() {
+    // The context is the system's again before it ends the painting.
     Detach();
     ::EndPaint(m_hWnd, &m_ps);
 }
-
-CWnd* CDC::GetWindow() const { return CWnd::FromHandle(::WindowFromDC(m_hDC)); }

@@ -1,0 +1,16 @@
+// Resource and command identifiers of Column Profiler. Only preprocessor constants, for the resource script.
+#ifndef PROFILER_RESOURCE_H
+#define PROFILER_RESOURCE_H
+
+#define IDR_MAINFRAME 128
+
+#define ID_FILE_RELOAD 32771
+#define ID_VIEW_MESSAGES 32772
+#define ID_HELP_KEYS 32773
+#define ID_VIEW_THEME_FIRST 32780
+#define ID_VIEW_THEME_LAST 32791
+
+#define ID_PANE_SIZE 32800
+#define ID_PANE_MESSAGES 32801
+
+#endif

@@ -1,0 +1,86 @@
+// The menu bar of the frame, in the user's language.
+#include "window/MainMenu.h"
+
+#include "common/Translation.h"
+#include "resource.h"
+
+#include <array>
+
+namespace {
+
+constexpr std::array<const wchar_t*, ID_VIEW_THEME_LAST - ID_VIEW_THEME_FIRST + 1> kThemeNames{
+    L"Office 2000",       L"Office XP",          L"Office 2003",        L"Office 2007 Aqua",
+    L"Office 2007 Black", L"Office 2007 Blue",   L"Office 2007 Silver", L"Office 2010 Black",
+    L"Office 2010 Blue",  L"Office 2010 Silver", L"Office 2013",        L"Windows 7",
+};
+
+/// Hands a popup over to the bar.
+void AppendPopup(CMenu& bar, CMenu& popup, const CString& text) {
+    bar.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(popup.Detach()), text);
+}
+
+void AppendFileMenu(CMenu& bar) {
+    CMenu file;
+    file.CreatePopupMenu();
+    file.AppendMenu(MF_STRING, ID_FILE_OPEN, Translate("Menu", "&Open...\tCtrl+O"));
+    file.AppendMenu(MF_STRING, ID_FILE_RELOAD, Translate("Menu", "&Reload\tF5"));
+    file.AppendMenu(MF_SEPARATOR);
+    file.AppendMenu(MF_STRING, ID_APP_EXIT, Translate("Menu", "E&xit\tAlt+F4"));
+    AppendPopup(bar, file, Translate("Menu", "&File"));
+}
+
+void AppendViewMenu(CMenu& bar) {
+    CMenu themes;
+    themes.CreatePopupMenu();
+    for (std::size_t i = 0; i < kThemeNames.size(); ++i)
+        themes.AppendMenu(MF_STRING, ID_VIEW_THEME_FIRST + i, kThemeNames[i]);
+    CMenu view;
+    view.CreatePopupMenu();
+    view.AppendMenu(MF_STRING, ID_VIEW_MESSAGES, Translate("Menu", "&Messages\tCtrl+M"));
+    view.AppendMenu(MF_SEPARATOR);
+    AppendPopup(view, themes, Translate("Menu", "&Theme"));
+    AppendPopup(bar, view, Translate("Menu", "&View"));
+}
+
+void AppendHelpMenu(CMenu& bar) {
+    CMenu help;
+    help.CreatePopupMenu();
+    help.AppendMenu(MF_STRING, ID_HELP_KEYS, Translate("Menu", "&Keys and mouse\tF1"));
+    help.AppendMenu(MF_SEPARATOR);
+    help.AppendMenu(MF_STRING, ID_APP_ABOUT, Translate("Menu", "&About Column Profiler"));
+    AppendPopup(bar, help, Translate("Menu", "&Help"));
+}
+
+} // namespace
+
+void MakeMainMenu(CMenu& bar) {
+    bar.CreateMenu();
+    AppendFileMenu(bar);
+    AppendViewMenu(bar);
+    AppendHelpMenu(bar);
+}
+
+CString CommandDescription(UINT command) {
+    if (command >= ID_VIEW_THEME_FIRST && command <= ID_VIEW_THEME_LAST)
+        return Translate("Shows the grid in this theme.");
+    switch (command) {
+    case ID_FILE_OPEN:
+        return Translate("Opens a CSV file in place of this one.");
+    case ID_FILE_RELOAD:
+        return Translate("Reads the file again. Dragged limits go back to where they began.");
+    case ID_APP_EXIT:
+        return Translate("Ends the program and keeps the layout of the grid.");
+    case ID_VIEW_MESSAGES:
+        return Translate("Shows or hides the list of what was odd about the file.");
+    case ID_HELP_KEYS:
+        return Translate("Tells what keys and mouse do.");
+    case ID_APP_ABOUT:
+        return Translate("Tells the version of the program.");
+    default:
+        return CString();
+    }
+}
+
+CString ThemeName(int theme) {
+    return theme >= 0 && theme < static_cast<int>(kThemeNames.size()) ? CString(kThemeNames[theme]) : CString();
+}

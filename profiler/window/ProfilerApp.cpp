@@ -1,0 +1,89 @@
+// The application object: command line, profile, language, main window.
+#include "window/ProfilerApp.h"
+
+#include "common/Translation.h"
+#include "window/ProfilerFrame.h"
+
+#include <filesystem>
+
+namespace {
+
+ProfilerApp theApplication;
+
+/// The options of the command line. An option is told by its leading dash, its value is the next word.
+class CommandLine : public CCommandLineInfo {
+public:
+    CString m_iniFile;
+    CString m_language;
+
+    void ParseParam(LPCTSTR word, BOOL flag, BOOL last) override {
+        if (m_awaited != nullptr) {
+            *m_awaited = word;
+            m_awaited = nullptr;
+            return;
+        }
+        // One dash has been taken off already.
+        const CString option = flag ? word : L"";
+        if (option == L"-ini")
+            m_awaited = &m_iniFile;
+        else if (option == L"-language")
+            m_awaited = &m_language;
+        else
+            CCommandLineInfo::ParseParam(word, flag, last);
+    }
+
+private:
+    CString* m_awaited = nullptr;
+};
+
+/// The folder of the program.
+std::filesystem::path ProgramFolder() {
+    std::wstring path(32768, L'\0');
+    path.resize(::GetModuleFileName(nullptr, path.data(), static_cast<DWORD>(path.size())));
+    return std::filesystem::path(path).parent_path();
+}
+
+CString UserLanguage() {
+    wchar_t code[16] = L"";
+    ::GetLocaleInfo(MAKELCID(::GetUserDefaultUILanguage(), SORT_DEFAULT), LOCALE_SISO639LANGNAME, code,
+                    static_cast<int>(std::size(code)));
+    return code;
+}
+
+} // namespace
+
+ProfilerApp::ProfilerApp() : CWinApp(L"Column Profiler") {}
+
+BOOL ProfilerApp::InitInstance() {
+    CommandLine commandLine;
+    ParseCommandLine(commandLine);
+    if (commandLine.m_iniFile.IsEmpty())
+        SetRegistryKey(L"Ky Controls");
+    else
+        UseIniFile(commandLine.m_iniFile);
+    ChooseLanguage(commandLine.m_language);
+
+    auto* frame = new ProfilerFrame; // deleted with its window
+    m_pMainWnd = frame;
+    if (!frame->CreateFrame())
+        return FALSE;
+    frame->ShowWindow(m_nCmdShow);
+    frame->UpdateWindow();
+    if (!commandLine.m_strFileName.IsEmpty())
+        frame->OpenPath(commandLine.m_strFileName);
+    return TRUE;
+}
+
+void ProfilerApp::UseIniFile(const CString& path) {
+    // The system looks for a relative name in its own folder, not in the current one.
+    std::error_code error;
+    const std::filesystem::path absolute = std::filesystem::absolute(path.GetString(), error);
+    std::free(const_cast<LPTSTR>(m_pszProfileName));
+    m_pszProfileName = _wcsdup(error ? path.GetString() : absolute.c_str());
+}
+
+void ProfilerApp::ChooseLanguage(CString code) {
+    if (code.IsEmpty())
+        code = UserLanguage();
+    SetLanguage(code == L"en" ? nullptr : code.GetString(), (ProgramFolder() / L"locale").c_str());
+}

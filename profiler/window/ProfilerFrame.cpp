@@ -1,0 +1,275 @@
+// The main window: commands, status bar, opening of files.
+#include "window/ProfilerFrame.h"
+
+#include "common/Translation.h"
+#include "resource.h"
+#include "themes/Themes.h"
+#include "window/MainMenu.h"
+#include "window/WideText.h"
+
+#include <afxdlgs.h>
+
+namespace {
+
+constexpr wchar_t kTitle[] = L"Column Profiler";
+constexpr wchar_t kVersion[] = L"0.1.0";
+constexpr wchar_t kWindowSection[] = L"Window";
+constexpr CSize kInitialSize(1210, 720);
+
+constexpr UINT kPanes[] = {ID_SEPARATOR, ID_PANE_SIZE, ID_PANE_MESSAGES};
+
+/// Whether the user pressed Escape since the last call. Other input waits.
+bool EscapeWasPressed() {
+    MSG message;
+    bool escape = false;
+    while (::PeekMessage(&message, nullptr, WM_KEYDOWN, WM_KEYDOWN, PM_REMOVE))
+        escape = escape || message.wParam == VK_ESCAPE;
+    return escape;
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(ProfilerFrame, CFrameWnd)
+    ON_WM_CREATE()
+    ON_WM_CLOSE()
+    ON_WM_SETFOCUS()
+    ON_WM_DROPFILES()
+    ON_COMMAND(ID_FILE_OPEN, &ProfilerFrame::OnFileOpen)
+    ON_COMMAND(ID_FILE_RELOAD, &ProfilerFrame::OnFileReload)
+    ON_COMMAND(ID_VIEW_MESSAGES, &ProfilerFrame::OnViewMessages)
+    ON_COMMAND_RANGE(ID_VIEW_THEME_FIRST, ID_VIEW_THEME_LAST, &ProfilerFrame::OnViewTheme)
+    ON_COMMAND(ID_HELP_KEYS, &ProfilerFrame::OnHelpKeys)
+    ON_COMMAND(ID_APP_ABOUT, &ProfilerFrame::OnAppAbout)
+    ON_UPDATE_COMMAND_UI(ID_FILE_RELOAD, &ProfilerFrame::OnUpdateFileReload)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_MESSAGES, &ProfilerFrame::OnUpdateViewMessages)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_THEME_FIRST, ID_VIEW_THEME_LAST, &ProfilerFrame::OnUpdateViewTheme)
+END_MESSAGE_MAP()
+
+ProfilerFrame::ProfilerFrame() : m_theme(static_cast<int>(Themes::GetProfileTheme())) {}
+
+BOOL ProfilerFrame::CreateFrame() {
+    HICON icon = AfxGetApp()->LoadIcon(IDR_MAINFRAME);
+    const CString windowClass = AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW), nullptr, icon);
+    const CRect place(CPoint(CW_USEDEFAULT, CW_USEDEFAULT), kInitialSize);
+    if (!Create(windowClass, kTitle, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, place))
+        return FALSE;
+    LoadAccelTable(MAKEINTRESOURCE(IDR_MAINFRAME));
+    RestorePlacement();
+    return TRUE;
+}
+
+int ProfilerFrame::OnCreate(LPCREATESTRUCT create) {
+    if (CFrameWnd::OnCreate(create) == -1)
+        return -1;
+    CMenu menu;
+    MakeMainMenu(menu);
+    SetMenu(&menu);
+    menu.Detach(); // the window destroys it
+    if (!CreateStatusBar() || !m_grid.CreateGrid(this, AFX_IDW_PANE_FIRST) || !m_messages.CreateFor(this))
+        return -1;
+    m_grid.SetStatusListener([this](const CString& text) { ShowStatus(text); });
+    DragAcceptFiles();
+    ShowFilePanes();
+    ShowStatus(Translate("Ready"));
+    return 0;
+}
+
+bool ProfilerFrame::CreateStatusBar() {
+    constexpr int kPaneWidth = 170;
+    if (!m_statusBar.Create(this) || !m_statusBar.SetIndicators(kPanes, static_cast<int>(std::size(kPanes))))
+        return false;
+    for (int i = 1; i < static_cast<int>(std::size(kPanes)); ++i)
+        m_statusBar.SetPaneInfo(i, kPanes[i], SBPS_NORMAL, kPaneWidth);
+    return true;
+}
+
+void ProfilerFrame::RestorePlacement() {
+    LPBYTE data = nullptr;
+    UINT size = 0;
+    if (!AfxGetApp()->GetProfileBinary(kWindowSection, L"Placement", &data, &size))
+        return;
+    const std::unique_ptr<BYTE[]> owner(data);
+    WINDOWPLACEMENT placement{};
+    if (size != sizeof placement)
+        return;
+    std::copy_n(data, sizeof placement, reinterpret_cast<BYTE*>(&placement));
+    // A monitor may be gone since: what would be out of sight stays where the system puts new windows.
+    if (placement.length != sizeof placement || ::MonitorFromRect(&placement.rcNormalPosition, 0) == nullptr)
+        return;
+    AfxGetApp()->m_nCmdShow = placement.showCmd == SW_SHOWMAXIMIZED ? SW_SHOWMAXIMIZED : AfxGetApp()->m_nCmdShow;
+    placement.showCmd = SW_HIDE;
+    SetWindowPlacement(&placement);
+}
+
+void ProfilerFrame::SavePlacement() {
+    WINDOWPLACEMENT placement{};
+    placement.length = sizeof placement;
+    if (GetWindowPlacement(&placement))
+        AfxGetApp()->WriteProfileBinary(kWindowSection, L"Placement", reinterpret_cast<LPBYTE>(&placement),
+                                        sizeof placement);
+}
+
+void ProfilerFrame::OnClose() {
+    if (m_reading)
+        return;
+    SavePlacement();
+    CFrameWnd::OnClose();
+}
+
+void ProfilerFrame::OnSetFocus(CWnd*) { m_grid.SetFocus(); }
+
+// --- Opening files ---------------------------------------------------------------------------------------------------
+
+void ProfilerFrame::OpenPath(const CString& path) {
+    if (m_reading)
+        return;
+    ColumnFileResult result = ReadWithProgress(path);
+    if (result.file != nullptr) {
+        TakeFile(std::move(result.file));
+        return;
+    }
+    if (result.error.IsEmpty()) {
+        ShowStatus(Translate("Cancelled: the file was not opened."));
+        return;
+    }
+    ShowStatus(result.error);
+    MessageBox(result.error, kTitle, MB_OK | MB_ICONWARNING);
+}
+
+ColumnFileResult ProfilerFrame::ReadWithProgress(const CString& path) {
+    constexpr ULONGLONG kQuiet = 300;   // ms; a file that is read sooner needs no progress
+    constexpr ULONGLONG kInterval = 60; // ms between two looks at progress and keyboard
+    const CWaitCursor wait;
+    const ULONGLONG start = ::GetTickCount64();
+    ULONGLONG next = start + kQuiet;
+    m_reading = true;
+    ColumnFileResult result = ReadColumnFile(path, [&](double fraction) {
+        if (::GetTickCount64() < next)
+            return true;
+        next = ::GetTickCount64() + kInterval;
+        ShowStatus(
+            TranslateFormat("Status bar", "Reading: %1% %% done. Escape cancels.", static_cast<int>(fraction * 100)));
+        m_statusBar.UpdateWindow();
+        return !EscapeWasPressed();
+    });
+    m_reading = false;
+    return result;
+}
+
+void ProfilerFrame::TakeFile(std::unique_ptr<ColumnFile> file) {
+    m_grid.Show(file.get());
+    m_file = std::move(file); // the grid no longer needs the former file
+    SetWindowText(m_file->Name() + L" \u2013 " + kTitle);
+
+    std::vector<CString> sentences;
+    for (const csv::Message& warning : m_file->warnings)
+        sentences.push_back(Sentence(warning));
+    m_messages.SetMessages(m_file->Name(), sentences);
+    ShowFilePanes();
+    ShowStatus(sentences.empty() ? TranslateFormat("Status bar", "%1% is open.", m_file->Name().GetString())
+                                 : sentences.front());
+}
+
+void ProfilerFrame::OnDropFiles(HDROP drop) {
+    const UINT count = ::DragQueryFile(drop, 0xFFFFFFFF, nullptr, 0);
+    CString path;
+    if (count > 0) {
+        const UINT length = ::DragQueryFile(drop, 0, nullptr, 0);
+        ::DragQueryFile(drop, 0, path.GetBuffer(static_cast<int>(length) + 1), length + 1);
+        path.ReleaseBuffer();
+    }
+    ::DragFinish(drop);
+    SetForegroundWindow();
+    if (!path.IsEmpty())
+        OpenPath(path);
+    if (count > 1)
+        ShowStatus(Translate("Only the first of the dropped files was opened: the program shows one at a time."));
+}
+
+void ProfilerFrame::OnFileOpen() {
+    const CString filter =
+        Translate("CSV files") + L" (*.csv;*.tsv;*.txt)|*.csv;*.tsv;*.txt|" + Translate("All files") + L" (*.*)|*.*||";
+    CFileDialog dialog(TRUE, L"csv", nullptr, OFN_HIDEREADONLY | OFN_FILEMUSTEXIST, filter, this);
+    if (dialog.DoModal() == IDOK)
+        OpenPath(dialog.GetPathName());
+}
+
+void ProfilerFrame::OnFileReload() {
+    if (m_file != nullptr)
+        OpenPath(CString(m_file->path));
+}
+
+// --- Status bar ------------------------------------------------------------------------------------------------------
+
+void ProfilerFrame::ShowFilePanes() {
+    CString size;
+    CString messages;
+    if (m_file != nullptr) {
+        size = TranslateFormat("Status bar", "%1% rows, %2% columns", m_file->table.rows, m_file->table.columns.size());
+        const std::size_t count = m_file->warnings.size();
+        messages = count == 0   ? Translate("No messages")
+                   : count == 1 ? Translate("1 message (Ctrl+M)")
+                                : TranslateFormat("Status bar", "%1% messages (Ctrl+M)", count);
+    }
+    SetPane(ID_PANE_SIZE, size);
+    SetPane(ID_PANE_MESSAGES, messages);
+}
+
+void ProfilerFrame::SetPane(UINT id, const CString& text) {
+    m_statusBar.SetPaneText(m_statusBar.CommandToIndex(id), text);
+}
+
+void ProfilerFrame::ShowStatus(const CString& text) {
+    m_status = text;
+    m_statusBar.SetPaneText(0, text);
+}
+
+void ProfilerFrame::GetMessageString(UINT id, CString& message) const {
+    message = id == AFX_IDS_IDLEMESSAGE ? m_status : CommandDescription(id);
+}
+
+// --- View and help ---------------------------------------------------------------------------------------------------
+
+void ProfilerFrame::OnViewMessages() {
+    if (m_messages.IsWindowVisible())
+        m_messages.SendMessage(WM_CLOSE);
+    else
+        m_messages.Open();
+}
+
+void ProfilerFrame::OnViewTheme(UINT id) {
+    m_theme = static_cast<int>(id - ID_VIEW_THEME_FIRST);
+    m_grid.ApplyTheme(m_theme);
+    ShowStatus(TranslateFormat("Status bar", "Theme: %1%", ThemeName(m_theme).GetString()));
+}
+
+void ProfilerFrame::OnHelpKeys() {
+    const CString text = Translate(
+        "Drag the ends of a bar or its gold mark: the status bar tells the value, and \"Inside\" the share of the "
+        "column's values between the ends.\n"
+        "Esc: while dragging, puts the mark back; while reading, gives up\n\n"
+        "Click a header: sort; with Shift: sort within the former order\n"
+        "Drag a header: move the column; drag its edge: change the width; double-click its edge: best width\n"
+        "Right-click a header: choose columns, restore the default layout\n\n"
+        "Up, Down, Page Up, Page Down, Home, End: move through the rows\n"
+        "Ctrl+O: open a file\n"
+        "F5: read the file again\n"
+        "Ctrl+M: messages about the file\n"
+        "F1: this text");
+    MessageBox(text, Translate("Keys and mouse"), MB_OK);
+}
+
+void ProfilerFrame::OnAppAbout() {
+    const CString text = TranslateFormat(
+        "About box", "Column Profiler %1%\n\nShows what is in the columns of a CSV file.\nBuilt with Ky Controls.",
+        kVersion);
+    MessageBox(text, Translate("About Column Profiler"), MB_OK);
+}
+
+void ProfilerFrame::OnUpdateFileReload(CCmdUI* item) { item->Enable(m_file != nullptr); }
+
+void ProfilerFrame::OnUpdateViewMessages(CCmdUI* item) { item->SetCheck(m_messages.IsWindowVisible() ? 1 : 0); }
+
+void ProfilerFrame::OnUpdateViewTheme(CCmdUI* item) {
+    item->SetRadio(static_cast<int>(item->m_nID - ID_VIEW_THEME_FIRST) == m_theme);
+}

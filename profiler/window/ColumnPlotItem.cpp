@@ -31,6 +31,8 @@ ColumnPlotItem::ColumnPlotItem(const statistics::Summary& numbers) {
              KyMissingValueF);
     // Free ends: mean and median differ, so a bar kept symmetric about the median would jump.
     SetDistribution(DistributionTarget, true);
+    // Light enough for the black whisker on it, dark enough for the bar's ends to be found with the mouse.
+    SetColors(RGB(38, 84, 168), RGB(168, 200, 240));
 }
 
 ColumnPlotItem::Mark ColumnPlotItem::DraggedMark() const {
@@ -59,14 +61,15 @@ void ColumnPlotItem::EndDrag(CPoint point, CRect cell, bool apply) {
 
 INT_PTR ColumnPlotItem::OnToolHitTest(CPoint point, TOOLINFO* tool) {
     if (DraggedMark() != Mark::None)
-        return -1; // the status bar tells the value then; a tip would hide the plot
+        return -1; // the status bar tells the value then, and a tip would hide the plot
     // The tip is asked for before the move reaches the cell, and its text is that of the last move.
     KyBarChartRecordItem::OnMouseMove(0, point, nullptr);
     const CString text = GetInfoTip();
     if (text.IsEmpty())
         return -1;
-    // Each place has a value of its own, and so a tool of its own.
-    tool->rect = CRect(point.x, m_itemRect.top, point.x + 1, m_itemRect.bottom);
-    tool->lpszText = _wcsdup(text);
-    return point.x + 1;
+    if (tool != nullptr) {
+        tool->rect = m_itemRect;
+        tool->lpszText = _wcsdup(text);
+    }
+    return 0; // the grid numbers its cells
 }

@@ -18,7 +18,7 @@ public:
 
     void ParseParam(LPCTSTR word, BOOL flag, BOOL last) override {
         if (m_awaited != nullptr) {
-            *m_awaited = word;
+            *m_awaited = flag ? L"/" + CString(word) : CString(word); // a path may begin like an option
             m_awaited = nullptr;
             return;
         }

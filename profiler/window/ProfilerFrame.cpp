@@ -14,9 +14,18 @@ namespace {
 constexpr wchar_t kTitle[] = L"Column Profiler";
 constexpr wchar_t kVersion[] = L"0.1.0";
 constexpr wchar_t kWindowSection[] = L"Window";
-constexpr CSize kInitialSize(1210, 720);
+constexpr CSize kInitialSize(1200, 720);
 
-constexpr UINT kPanes[] = {ID_SEPARATOR, ID_PANE_SIZE, ID_PANE_MESSAGES};
+/// The panes of the status bar from left to right.
+enum Pane { StatusPane, SizePane, MessagesPane, PaneCount };
+
+/// Where the first window opens: in the middle of the work area, and never larger than that.
+CRect InitialPlace() {
+    CRect area;
+    ::SystemParametersInfo(SPI_GETWORKAREA, 0, &area, 0);
+    const CSize size(std::min(kInitialSize.cx, LONG(area.Width())), std::min(kInitialSize.cy, LONG(area.Height())));
+    return CRect(area.CenterPoint() - CSize(size.cx / 2, size.cy / 2), size);
+}
 
 /// Whether the user pressed Escape since the last call. Other input waits.
 bool EscapeWasPressed() {
@@ -50,8 +59,7 @@ ProfilerFrame::ProfilerFrame() : m_theme(static_cast<int>(Themes::GetProfileThem
 BOOL ProfilerFrame::CreateFrame() {
     HICON icon = AfxGetApp()->LoadIcon(IDR_MAINFRAME);
     const CString windowClass = AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW), nullptr, icon);
-    const CRect place(CPoint(CW_USEDEFAULT, CW_USEDEFAULT), kInitialSize);
-    if (!Create(windowClass, kTitle, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, place))
+    if (!Create(windowClass, kTitle, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, InitialPlace()))
         return FALSE;
     LoadAccelTable(MAKEINTRESOURCE(IDR_MAINFRAME));
     RestorePlacement();
@@ -75,11 +83,13 @@ int ProfilerFrame::OnCreate(LPCREATESTRUCT create) {
 }
 
 bool ProfilerFrame::CreateStatusBar() {
-    constexpr int kPaneWidth = 170;
-    if (!m_statusBar.Create(this) || !m_statusBar.SetIndicators(kPanes, static_cast<int>(std::size(kPanes))))
+    constexpr int kPaneWidth = 150;
+    // No pane follows a command: their texts are set where they change.
+    const UINT panes[PaneCount] = {};
+    if (!m_statusBar.Create(this) || !m_statusBar.SetIndicators(panes, PaneCount))
         return false;
-    for (int i = 1; i < static_cast<int>(std::size(kPanes)); ++i)
-        m_statusBar.SetPaneInfo(i, kPanes[i], SBPS_NORMAL, kPaneWidth);
+    for (const int pane : {SizePane, MessagesPane})
+        m_statusBar.SetPaneInfo(pane, ID_SEPARATOR, SBPS_NORMAL, kPaneWidth);
     return true;
 }
 
@@ -211,17 +221,13 @@ void ProfilerFrame::ShowFilePanes() {
                    : count == 1 ? Translate("1 message (Ctrl+M)")
                                 : TranslateFormat("Status bar", "%1% messages (Ctrl+M)", count);
     }
-    SetPane(ID_PANE_SIZE, size);
-    SetPane(ID_PANE_MESSAGES, messages);
-}
-
-void ProfilerFrame::SetPane(UINT id, const CString& text) {
-    m_statusBar.SetPaneText(m_statusBar.CommandToIndex(id), text);
+    m_statusBar.SetPaneText(SizePane, size);
+    m_statusBar.SetPaneText(MessagesPane, messages);
 }
 
 void ProfilerFrame::ShowStatus(const CString& text) {
     m_status = text;
-    m_statusBar.SetPaneText(0, text);
+    m_statusBar.SetPaneText(StatusPane, text);
 }
 
 void ProfilerFrame::GetMessageString(UINT id, CString& message) const {

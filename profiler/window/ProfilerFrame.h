@@ -47,7 +47,6 @@ private:
     void TakeFile(std::unique_ptr<ColumnFile> file);
     void ShowFilePanes();
     void ShowStatus(const CString& text);
-    void SetPane(UINT id, const CString& text);
 
     ProfileGrid m_grid;
     CStatusBar m_statusBar;

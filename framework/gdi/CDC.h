@@ -28,7 +28,8 @@ public:
     BOOL m_bPrinting = FALSE;
 
     operator HDC() const { return m_hDC; }
-    HDC GetSafeHdc() const { return m_hDC; }
+    /// May be asked of a null pointer, too, and then gives null.
+    HDC GetSafeHdc() const { return this == nullptr ? nullptr : m_hDC; }
     /// The object that owns the context, else a temporary one, valid until the thread is idle next. Null for null.
     static CDC* PASCAL FromHandle(HDC dc);
     static void PASCAL DeleteTempMap();

@@ -12,7 +12,8 @@ public:
     ~CGdiObject() override;
 
     operator HGDIOBJ() const { return m_hObject; }
-    HGDIOBJ GetSafeHandle() const { return m_hObject; }
+    /// May be asked of a null pointer, too, and then gives null.
+    HGDIOBJ GetSafeHandle() const { return this == nullptr ? nullptr : m_hObject; }
     bool operator==(const CGdiObject& other) const { return m_hObject == other.m_hObject; }
     bool operator!=(const CGdiObject& other) const { return m_hObject != other.m_hObject; }
 

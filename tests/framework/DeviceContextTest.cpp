@@ -173,3 +173,87 @@ TEST(DeviceContext, QuestionsGoToTheAttributeContext) {
     EXPECT_NE(attributes.GetCurrentFont(), &font);
     dc.SetAttribDC(own);
 }
+
+TEST(DeviceContext, BothContextsAreSavedAndRestoredTogether) {
+    DibCanvas output(4, 4);
+    CDC attributes;
+    ASSERT_TRUE(attributes.CreateCompatibleDC(nullptr));
+    CDC& dc = output.Dc();
+    HDC own = dc.m_hAttribDC;
+    dc.SetAttribDC(attributes);
+    const int saved = dc.SaveDC();
+    dc.SetBkColor(RGB(9, 9, 9));
+    EXPECT_TRUE(dc.RestoreDC(saved));
+    EXPECT_EQ(::GetBkColor(dc.m_hDC), static_cast<COLORREF>(RGB(255, 255, 255)));
+    EXPECT_EQ(attributes.GetBkColor(), static_cast<COLORREF>(RGB(255, 255, 255)));
+    dc.SetAttribDC(own);
+}
+
+TEST(DeviceContext, IsMadeForADeviceByName) {
+    CDC dc;
+    ASSERT_TRUE(dc.CreateDC(L"DISPLAY", nullptr, nullptr, nullptr));
+    EXPECT_EQ(dc.GetDeviceCaps(TECHNOLOGY), DT_RASDISPLAY);
+    CDC information;
+    ASSERT_TRUE(information.CreateIC(L"DISPLAY", nullptr, nullptr, nullptr));
+    EXPECT_EQ(information.GetDeviceCaps(HORZRES), dc.GetDeviceCaps(HORZRES));
+}
+
+TEST(DeviceContext, ABitmapIsSelectedAndTakenOutAgain) {
+    CDC dc;
+    ASSERT_TRUE(dc.CreateCompatibleDC(nullptr));
+    CBitmap bitmap;
+    ASSERT_TRUE(bitmap.CreateBitmap(2, 2, 1, 1, nullptr));
+    CBitmap* former = dc.SelectObject(&bitmap);
+    ASSERT_NE(former, nullptr);
+    EXPECT_EQ(dc.GetCurrentBitmap(), &bitmap);
+    // A monochrome picture has only these two colours.
+    EXPECT_EQ(dc.GetNearestColor(RGB(240, 250, 240)), static_cast<COLORREF>(RGB(255, 255, 255)));
+    EXPECT_EQ(dc.SelectObject(former), &bitmap);
+}
+
+TEST(DeviceContext, SelectingAPaletteGivesBackTheFormerOne) {
+    DibCanvas canvas(4, 4);
+    LOGPALETTE one{0x300, 1, {{1, 2, 3, 0}}};
+    CPalette palette;
+    ASSERT_TRUE(palette.CreatePalette(&one));
+    CPalette* former = canvas.Dc().SelectPalette(&palette, FALSE);
+    EXPECT_EQ(former->GetSafeHandle(), GetStockObject(DEFAULT_PALETTE));
+    EXPECT_EQ(canvas.Dc().GetCurrentPalette(), &palette);
+    EXPECT_NE(canvas.Dc().RealizePalette(), GDI_ERROR);
+    EXPECT_EQ(canvas.Dc().SelectPalette(former, TRUE), &palette);
+}
+
+TEST(DeviceContext, ClipRegionsCombineAndMove) {
+    DibCanvas canvas(20, 20);
+    CDC& dc = canvas.Dc();
+    CRgn left;
+    CRgn right;
+    left.CreateRectRgn(0, 0, 4, 4);
+    right.CreateRectRgn(10, 0, 14, 4);
+    EXPECT_EQ(dc.SelectObject(&left), SIMPLEREGION);
+    EXPECT_EQ(dc.SelectClipRgn(&right, RGN_OR), COMPLEXREGION);
+    EXPECT_TRUE(dc.PtVisible(12, 1));
+    EXPECT_FALSE(dc.PtVisible(6, 1));
+    dc.OffsetClipRgn(CSize(0, 10));
+    EXPECT_FALSE(dc.PtVisible(12, 1));
+    EXPECT_TRUE(dc.PtVisible(12, 11));
+}
+
+TEST(DeviceContext, MapsRectangles) {
+    DibCanvas canvas(10, 10);
+    canvas.Dc().SetViewportOrg(CPoint(5, 7));
+    CRect rect(1, 1, 3, 3);
+    canvas.Dc().LPtoDP(rect);
+    EXPECT_EQ(rect, CRect(6, 8, 8, 10));
+    canvas.Dc().DPtoLP(rect);
+    EXPECT_EQ(rect, CRect(1, 1, 3, 3));
+    EXPECT_EQ(canvas.Dc().OffsetWindowOrg(2, 3), CPoint(0, 0));
+    EXPECT_EQ(canvas.Dc().GetWindowOrg(), CPoint(2, 3));
+}
+
+TEST(DeviceContext, ANullPointerHasNoHandle) {
+    CDC* volatile dc = nullptr;
+    CPen* volatile pen = nullptr;
+    EXPECT_EQ(dc->GetSafeHdc(), nullptr);
+    EXPECT_EQ(pen->GetSafeHandle(), nullptr);
+}

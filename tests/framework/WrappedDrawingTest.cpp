@@ -91,6 +91,17 @@ const Case cases[] = {
          ::DrawStateW(dc, nullptr, nullptr, reinterpret_cast<LPARAM>(Shared().icon), 0, 4, 2, 20, 24,
                       DST_ICON | DSS_DISABLED);
      }},
+    {"DrawStateBitmap",
+     [](CDC& dc) {
+         CBitmap bitmap;
+         bitmap.CreateCompatibleBitmap(&dc, 12, 9);
+         dc.DrawState(CPoint(4, 2), CSize(12, 9), bitmap, DSS_NORMAL);
+     },
+     [](HDC dc) {
+         HBITMAP bitmap = ::CreateCompatibleBitmap(dc, 12, 9);
+         ::DrawStateW(dc, nullptr, nullptr, reinterpret_cast<LPARAM>(bitmap), 0, 4, 2, 12, 9, DST_BITMAP | DSS_NORMAL);
+         ::DeleteObject(bitmap);
+     }},
     {"TransparentBlt",
      [](CDC& dc) { dc.TransparentBlt(4, 6, 24, 16, &Shared().source.Dc(), 0, 1, 8, 6, RGB(255, 0, 255)); },
      [](HDC dc) { ::TransparentBlt(dc, 4, 6, 24, 16, Shared().source.Dc(), 0, 1, 8, 6, RGB(255, 0, 255)); }},

@@ -87,7 +87,8 @@ private:
     CXTPReportColumns* m_pColumns = nullptr;
     CString m_strCaption, m_strInternalName, m_strTooltip;
     int m_nItemIndex;
-    int m_nWidth, m_nMinWidth = 10, m_nMaxWidth = 32000;
+    int m_nMinWidth = 10, m_nMaxWidth = 32000; // in front of the width, which is clamped to them from the start
+    int m_nWidth;
     int m_nAlignment = DT_LEFT;
     int m_nHeaderAlignment = -1;
     int m_nIconID;

@@ -154,6 +154,7 @@ void CXTPReportControl::OnRowRemoved(int nRowIndex) {
 void CXTPReportControl::OnRowsCleared() {
     m_impl->focusedRow = -1;
     m_impl->topRow = 0;
+    m_impl->wantedRow = -1;
     AdjustLayout();
 }
 

@@ -145,7 +145,14 @@ void CXTPReportControl::SetLeftOffset(int nOffset) { m_impl->ScrollSidewaysTo(nO
 
 void CXTPReportControl::EnsureVisible(CXTPReportRow* pRow) {
     if (pRow && pRow->GetControl() == this)
-        m_impl->ScrollRowsTo(m_impl->RowGrid().TopRowToShow(m_impl->topRow, pRow->GetIndex()));
+        m_impl->ShowRow(pRow->GetIndex());
+}
+
+void CXTPReportControl::Impl::ShowRow(int rowIndex) {
+    if (control.GetReportRectangle().Height() == 0)
+        wantedRow = rowIndex;
+    else
+        ScrollRowsTo(RowGrid().TopRowToShow(topRow, rowIndex));
 }
 
 void CXTPReportControl::Impl::ScrollRowsTo(std::int64_t top) {
@@ -279,8 +286,14 @@ void CXTPReportControl::OnMouseHWheel(UINT, short zDelta, CPoint) {
 
 void CXTPReportControl::OnSize(UINT nType, int cx, int cy) {
     CWnd::OnSize(nType, cx, cy);
-    if (nType != SIZE_MINIMIZED)
-        AdjustLayout();
+    if (nType == SIZE_MINIMIZED)
+        return;
+    AdjustLayout();
+    // A row that was shown before there was room for any comes into view now.
+    if (m_impl->wantedRow >= 0 && GetReportRectangle().Height() > 0) {
+        m_impl->ShowRow(m_impl->wantedRow);
+        m_impl->wantedRow = -1;
+    }
 }
 
 void CXTPReportControl::OnTimer(UINT_PTR nIDEvent) {

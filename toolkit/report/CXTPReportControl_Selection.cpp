@@ -28,7 +28,7 @@ void CXTPReportControl::SetFocusedRow(CXTPReportRow* pRow, BOOL bSelect) {
     m_impl->SetFocus(index);
     if (guard.IsGone() || index < 0)
         return;
-    m_impl->ScrollRowsTo(m_impl->RowGrid().TopRowToShow(m_impl->topRow, index));
+    m_impl->ShowRow(index);
     if (bSelect)
         m_impl->SelectByClick(index, 0);
 }
@@ -70,7 +70,7 @@ void CXTPReportControl::Impl::MoveFocusTo(int rowIndex, bool extends, bool keeps
     SetFocus(rowIndex);
     if (guard.IsGone() || rowIndex >= rows->GetCount())
         return;
-    ScrollRowsTo(RowGrid().TopRowToShow(topRow, rowIndex));
+    ShowRow(rowIndex);
     if (extends && isMultipleSelection) {
         if (selectedRows->GetAnchor() < 0)
             selectedRows->SetAnchor(formerFocus >= 0 ? formerFocus : rowIndex);

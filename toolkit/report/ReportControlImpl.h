@@ -75,6 +75,7 @@ struct CXTPReportControl::Impl {
     // --- Layout and scrolling ---------------------------------------------------------------------------------------
     int topRow = 0;
     int leftOffset = 0;
+    int wantedRow = -1; ///< to be scrolled into view as soon as there is a view
     bool isLayingOut = false;
     BarState barV, barH;
     int barScaleV = 0; ///< the vertical bar counts in 2^barScaleV rows
@@ -91,6 +92,7 @@ struct CXTPReportControl::Impl {
     void UpdateThumbs();
     void RedrawStaleThumbs();
     void ScrollRowsTo(std::int64_t top);
+    void ShowRow(int rowIndex);
     void MoveRowPixels(int formerTop);
     void ScrollSidewaysTo(int offset);
     int ScrollTarget(int bar, UINT code, UINT pos, int current, int line, int page, int maximum) const;

@@ -62,6 +62,10 @@ LOGFONT SystemTextFont(int dpi) {
     return font;
 }
 
+bool IsDisabled(const CXTPReportControl* control) {
+    return control && control->GetSafeHwnd() && !control->IsWindowEnabled();
+}
+
 } // namespace
 
 CXTPReportPaintManager::CXTPReportPaintManager(XTPReportPaintTheme theme)
@@ -173,7 +177,7 @@ void CXTPReportPaintManager::FillRowMetrics(CXTPReportRow* pRow, XTP_REPORTRECOR
         pMetrics->clrForeground = isActive ? m_clrHighlightText : m_clrInactiveHighlightText;
         pMetrics->clrBackground = isActive ? m_clrHighlight : m_clrInactiveHighlight;
     }
-    if (control && control->GetSafeHwnd() && !control->IsWindowEnabled())
+    if (IsDisabled(control))
         pMetrics->clrForeground = m_clrDisabledText;
 }
 
@@ -248,13 +252,15 @@ void CXTPReportPaintManager::DrawItemText(XTP_REPORTRECORDITEM_DRAWARGS* pDrawAr
     const SelectGuard select(*pDC, pMetrics->pFont);
     pDC->SetBkMode(TRANSPARENT);
     if (pDrawArgs->pItem && pDrawArgs->pItem->GetHyperlinksCount() > 0)
-        DrawLinkedText(pDC, pDrawArgs->pItem, pMetrics->strText, rcText, pMetrics->nColumnAlignment);
+        DrawLinkedText(pDC, *pDrawArgs, pMetrics->strText, rcText, pMetrics->nColumnAlignment);
     else
         DrawTextLine(pDC, pMetrics->strText, rcText, pMetrics->nColumnAlignment);
 }
 
-void CXTPReportPaintManager::DrawLinkedText(CDC* pDC, CXTPReportRecordItem* pItem, const CString& strText,
+void CXTPReportPaintManager::DrawLinkedText(CDC* pDC, const XTP_REPORTRECORDITEM_DRAWARGS& args, const CString& strText,
                                             const CRect& rcText, int nAlignment) const {
+    CXTPReportRecordItem* pItem = args.pItem;
+    const COLORREF color = IsDisabled(args.pControl) ? m_clrDisabledText : m_clrHyperlink;
     const CSize extent = pDC->GetTextExtent(strText);
     const int slack = std::max<int>(rcText.Width() - extent.cx, 0);
     const int x = rcText.left + (nAlignment & DT_RIGHT ? slack : nAlignment & DT_CENTER ? slack / 2 : 0);
@@ -275,9 +281,9 @@ void CXTPReportPaintManager::DrawLinkedText(CDC* pDC, CXTPReportRecordItem* pIte
             continue;
         const SaveDCGuard linkText(*pDC);
         pDC->IntersectClipRect(link->m_rcHyperSpot);
-        pDC->SetTextColor(m_clrHyperlink);
+        pDC->SetTextColor(color);
         DrawTextLine(pDC, strText, rcText, nAlignment);
-        pDC->FillSolidRect(left, y + m_nTextAscent + 1, right - left, 1, m_clrHyperlink);
+        pDC->FillSolidRect(left, y + m_nTextAscent + 1, right - left, 1, color);
     }
     for (int i = 0; i < pItem->GetHyperlinksCount(); ++i)
         pDC->ExcludeClipRect(pItem->GetHyperlinkAt(i)->m_rcHyperSpot);

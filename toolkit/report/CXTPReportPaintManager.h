@@ -99,8 +99,8 @@ protected:
     CString m_strNoItems;
 
 private:
-    void DrawLinkedText(CDC* pDC, CXTPReportRecordItem* pItem, const CString& strText, const CRect& rcText,
-                        int nAlignment) const;
+    void DrawLinkedText(CDC* pDC, const XTP_REPORTRECORDITEM_DRAWARGS& args, const CString& strText,
+                        const CRect& rcText, int nAlignment) const;
     void ApplyColors();
     void MeasureFont();
     void DrawGridLine(CDC* pDC, const CRect& rcLine, XTPReportGridStyle style, const CRect& rcCell) const;

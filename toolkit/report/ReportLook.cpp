@@ -84,10 +84,21 @@ constexpr BodyColors ClassicBody = {
     Rgb(0xC00000),       // drop mark
 };
 
+constexpr BodyColors OfficeXPBody = {
+    Sys(COLOR_WINDOW),   Sys(COLOR_WINDOWTEXT), //
+    Rgb(0xC1D2EE),       Rgb(0x000000),         //
+    Rgb(0xD5DCE9),       Rgb(0x000000),         //
+    Rgb(0x316AC5),                              //
+    Sys(COLOR_BTNFACE),                         //
+    Sys(COLOR_HOTLIGHT),                        //
+    Sys(COLOR_GRAYTEXT),                        //
+    Rgb(0xC00000),                              //
+};
+
 constexpr BodyColors Office2013Body = {
     Rgb(0xFFFFFF), Rgb(0x262626), //
     Rgb(0xCDE6F7), Rgb(0x262626), //
-    Rgb(0xE8EBEE), Rgb(0x262626), //
+    Rgb(0xDEE7EE), Rgb(0x262626), //
     Rgb(0x92C0E0),                //
     Rgb(0xE1E1E1),                //
     Rgb(0x0072C6),                //
@@ -98,7 +109,7 @@ constexpr BodyColors Office2013Body = {
 constexpr BodyColors Windows7Body = {
     Rgb(0xFFFFFF), Rgb(0x000000), //
     Rgb(0xCFE8FC), Rgb(0x000000), //
-    Rgb(0xE6ECF2), Rgb(0x000000), //
+    Rgb(0xDDE7F0), Rgb(0x000000), //
     Rgb(0x84ACDD),                //
     Rgb(0xE3E8EE),                //
     Rgb(0x0066CC),                //
@@ -109,7 +120,7 @@ constexpr BodyColors Windows7Body = {
 constexpr BodyColors ResourceBody = {
     Rgb(0xFFFFFF), Rgb(0x000000), //
     Rgb(0xC9DDF6), Rgb(0x000000), //
-    Rgb(0xE4EAF2), Rgb(0x000000), //
+    Rgb(0xDAE2EE), Rgb(0x000000), //
     Rgb(0x8DB2E3),                //
     Rgb(0xD0D7E5),                //
     Rgb(0x1E5AA8),                //
@@ -119,7 +130,7 @@ constexpr BodyColors ResourceBody = {
 
 constexpr ThemeLook ThemeLooks[] = {
     {xtpReportThemeDefault, xtpReportColumnShaded, ClassicBody, nullptr},
-    {xtpReportThemeOfficeXP, xtpReportColumnFlat, ClassicBody, nullptr},
+    {xtpReportThemeOfficeXP, xtpReportColumnFlat, OfficeXPBody, nullptr},
     {xtpReportThemeOffice2013, xtpReportColumnFlat, Office2013Body, &Office2013Header},
     {xtpReportThemeWindows7, xtpReportColumnExplorer, Windows7Body, nullptr},
     {xtpReportThemeResource, xtpReportColumnResource, ResourceBody, nullptr},

@@ -10,8 +10,6 @@ class CMDIChildWnd;
 class KY_FRAMEWORK_API CMDIFrameWnd : public CFrameWnd {
     DECLARE_DYNCREATE(CMDIFrameWnd)
 public:
-    CMDIFrameWnd();
-
     HWND m_hWndMDIClient = nullptr; ///< Null until the frame is created.
 
     /// The active child and, when asked for, whether it is maximized; null when there is none.
@@ -41,12 +39,11 @@ protected:
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     afx_msg void OnSize(UINT nType, int cx, int cy);
-    afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized);
     DECLARE_MESSAGE_MAP()
 
 private:
     void SendToClient(UINT message, const CWnd* pWnd) {
-        ::SendMessage(m_hWndMDIClient, message, reinterpret_cast<WPARAM>(pWnd->GetSafeHwnd()), 0);
+        ::SendMessage(m_hWndMDIClient, message, reinterpret_cast<WPARAM>(pWnd != nullptr ? pWnd->m_hWnd : nullptr), 0);
     }
 };
 
@@ -54,27 +51,25 @@ private:
 class KY_FRAMEWORK_API CMDIChildWnd : public CFrameWnd {
     DECLARE_DYNCREATE(CMDIChildWnd)
 public:
-    CMDIChildWnd();
-
-    /// A child of `pParentWnd`, of the main window when that is null. It comes up active.
+    using CWnd::Create;
+    /// A child of `pParentWnd`, of the main window when that is null. It comes up active. FALSE when that is no MDI
+    /// frame.
     virtual BOOL Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName,
                         DWORD dwStyle = WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW, const RECT& rect = rectDefault,
                         CMDIFrameWnd* pParentWnd = nullptr, CCreateContext* pContext = nullptr);
 
     CMDIFrameWnd* GetMDIFrame() const;
-    void MDIDestroy();
+    void MDIDestroy() { DestroyWindow(); }
+    BOOL DestroyWindow() override;
     void MDIActivate() { GetMDIFrame()->MDIActivate(this); }
     void MDIMaximize() { GetMDIFrame()->MDIMaximize(this); }
     void MDIRestore() { GetMDIFrame()->MDIRestore(this); }
     void ActivateFrame(int nCmdShow = -1) override;
 
-    BOOL PreTranslateMessage(MSG* pMsg) override;
-
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    afx_msg void OnMDIActivate(BOOL bActivate, CWnd* pActivateWnd, CWnd* pDeactivateWnd);
-    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     DECLARE_MESSAGE_MAP()
 };

@@ -80,6 +80,8 @@
 #define ID_WINDOW_TILE_VERT 0xE134
 #define ID_WINDOW_SPLIT 0xE135
 
+#define AFX_IDM_FIRST_MDICHILD 0xFF00 // and on: the open children of an MDI frame in its window menu
+
 #define ID_APP_ABOUT 0xE140
 #define ID_APP_EXIT 0xE141
 

@@ -27,7 +27,7 @@ public:
     /// Takes the visible records in the given order; every earlier row object is detached.
     void Rebuild(std::vector<CXTPReportRecord*> records);
     void RebuildVirtual(CXTPReportRecord* pVirtualRecord, int nCount);
-    BOOL IsVirtual() const { return m_pVirtualRecord != nullptr; }
+    bool IsVirtual() const { return m_pVirtualRecord != nullptr; }
     /// Takes out the row of a record that is about to be deleted, out of the selection as well, and tells the control.
     void RecordRemoved(CXTPReportRecord* pRecord);
     void Clear();

@@ -179,7 +179,12 @@ RowStateKeeper::RowStateKeeper(CXTPReportRows& rows, CXTPReportSelectedRows& sel
 
 int RowStateKeeper::Restore() {
     const int nCount = m_rows.GetCount();
-    if (m_bVirtual && m_rows.IsVirtual()) {
+    if (m_bVirtual != m_rows.IsVirtual()) {
+        m_selection.SetRanges(RowSelection());
+        m_selection.SetAnchor(-1);
+        return -1;
+    }
+    if (m_bVirtual) {
         m_selection.SetRanges(RowSelection(m_selection.GetRanges()));
         if (m_selection.GetAnchor() >= nCount)
             m_selection.SetAnchor(-1);

@@ -14,7 +14,7 @@ std::vector<CXTPReportRecord*> SortedVisibleRecords(const CXTPReportRecords& rec
 
 /// Carries selection, anchor and focus over a rebuild of the rows: they stay with their records. Take it before the
 /// rebuild, with the rows' old order still there; no record may be deleted until `Restore`. In virtual mode, which has
-/// one record for all rows, they stay with the row indices.
+/// one record for all rows, they stay with the row indices; when virtual mode begins or ends nothing is carried over.
 class RowStateKeeper {
 public:
     /// `nFocusedRow` is the index of the focused row, -1 for none.

@@ -1,12 +1,10 @@
 // A theme colour that a host may override: a standard value set by the theme and an optional custom value.
 #pragma once
 
-#include "Export.h"
-
 #include <windows.h>
 
 /// Converts to the custom value when one is set, else to the standard value (both COLORREF 0x00BBGGRR).
-class KY_TOOLKIT_API CXTPPaintManagerColor {
+class CXTPPaintManagerColor {
 public:
     /// The value of a colour that is not set.
     static constexpr COLORREF Unset = 0xFFFFFFFF;

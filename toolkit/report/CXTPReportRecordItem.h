@@ -100,8 +100,13 @@ public:
     DWORD_PTR GetItemData() const;
     void SetItemData(DWORD_PTR dwData);
 
+private:
+    // In this order the members leave no gaps: millions of items are ordinary.
+    short m_nAlignment = -1;
+    bool m_bBold = false;
+
 protected:
-    /// As `m_formatString`, for the texts that many items have in common.
+    /// Sets the format; items with the same one share its text.
     void InternFormatString(LPCTSTR strFormat) { m_formatString = CompactText::Interned(strFormat); }
     LPCTSTR FormatString() const { return m_formatString.GetString(); }
 
@@ -112,9 +117,6 @@ private:
     struct Extras; ///< what few cells have: tip, links, data
     Extras& EnsureExtras();
 
-    // In this order the members leave no gaps: millions of items are ordinary.
-    short m_nAlignment = -1;
-    bool m_bBold = false;
     CXTPReportRecord* m_pRecord = nullptr;
     COLORREF m_clrText = CXTPPaintManagerColor::Unset;
     COLORREF m_clrBackground = CXTPPaintManagerColor::Unset;

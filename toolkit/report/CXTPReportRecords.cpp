@@ -18,6 +18,14 @@ CXTPReportRecords::~CXTPReportRecords() {
 
 CXTPReportRows* CXTPReportRecords::GetRows() const { return m_pControl ? m_pControl->GetRows() : nullptr; }
 
+int CXTPReportRecords::GetCount() const { return m_records.Count(); }
+
+CXTPReportRecord* CXTPReportRecords::GetAt(int nIndex) const { return m_records.At(nIndex); }
+
+int CXTPReportRecords::IndexOf(const CXTPReportRecord* pRecord) const { return m_records.IndexOf(pRecord); }
+
+const std::vector<CXTPReportRecord*>& CXTPReportRecords::GetRecords() const { return m_records.Records(); }
+
 CXTPReportRecord* CXTPReportRecords::Add(CXTPReportRecord* pRecord) {
     InsertAt(GetCount(), pRecord);
     return pRecord;

@@ -24,9 +24,9 @@ public:
     void RemoveAll();
 
     /// Records there are; 0 in virtual mode.
-    int GetCount() const { return m_records.Count(); }
-    CXTPReportRecord* GetAt(int nIndex) const { return m_records.At(nIndex); } ///< null when out of range
-    int IndexOf(const CXTPReportRecord* pRecord) const { return m_records.IndexOf(pRecord); } ///< −1 when absent
+    int GetCount() const;
+    CXTPReportRecord* GetAt(int nIndex) const; ///< null when out of range
+    int IndexOf(const CXTPReportRecord* pRecord) const; ///< −1 when absent
     CXTPReportControl* GetControl() const { return m_pControl; }
 
     /// One record for `nCount` rows, shown after `Populate`; it takes the place of all records that are there. Null and
@@ -36,7 +36,7 @@ public:
     CXTPReportRecord* GetVirtualRecord() const { return m_pVirtualRecord; }
     int GetVirtualCount() const { return m_nVirtualCount; }
 
-    const std::vector<CXTPReportRecord*>& GetRecords() const { return m_records.Records(); }
+    const std::vector<CXTPReportRecord*>& GetRecords() const;
 
 private:
     CXTPReportRows* GetRows() const;

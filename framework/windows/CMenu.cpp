@@ -8,8 +8,6 @@ IMPLEMENT_DYNCREATE(CMenu, CObject)
 
 CMenu::~CMenu() { DestroyMenu(); }
 
-HMENU CMenu::GetSafeHmenu() const { return this == nullptr ? nullptr : m_hMenu; }
-
 BOOL CMenu::Attach(HMENU hMenu) {
     if (hMenu == nullptr || m_hMenu != nullptr)
         return FALSE;

@@ -17,7 +17,7 @@ public:
     ~CMenu() override;
 
     /// Also answers, with null, when called through a null pointer.
-    HMENU GetSafeHmenu() const;
+    HMENU GetSafeHmenu() const { return this == nullptr ? nullptr : m_hMenu; }
     operator HMENU() const { return m_hMenu; }
 
     /// Each of them replaces nothing: the object must not hold a menu yet.

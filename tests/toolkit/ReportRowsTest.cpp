@@ -172,8 +172,7 @@ TEST_F(ReportModelTest, ResetContentLeavesNoRowAndNoRecord) {
     EXPECT_EQ(recorditemheap::LiveRecords(), before);
 }
 
-// --- Sorting
-// ----------------------------------------------------------------------------------------------------------
+// --- Sorting ---------------------------------------------------------------------------------------------------------
 
 TEST_F(ReportModelTest, RowsAreSortedByTheSortColumn) {
     for (const wchar_t* text : {L"pear", L"Apple", L"fig", L"apple", L"Ärger", L"zoo"})
@@ -268,8 +267,17 @@ TEST_F(ReportModelTest, TextsSortLikeTheirComparison) {
     }
 }
 
-// --- Selection
-// --------------------------------------------------------------------------------------------------------
+TEST_F(ReportModelTest, TextsOfAnyLengthAreSorted) {
+    const std::wstring longText(5000, L'm');
+    for (const std::wstring& text :
+         {longText + L"b", std::wstring(L"n"), longText + L"a", std::wstring(L"l"), std::wstring()})
+        AddTexts(m_control, {text.c_str()});
+    m_control.GetColumns()->SetSortColumn(m_columnA, TRUE);
+    m_control.Populate();
+    EXPECT_EQ(RowTexts(m_control), (Texts{L"", L"l", longText + L"a", longText + L"b", L"n"}));
+}
+
+// --- Selection -------------------------------------------------------------------------------------------------------
 
 class SelectionTest : public ReportModelTest {
 protected:
@@ -378,8 +386,7 @@ TEST_F(SelectionTest, DeletingEveryRecordOneByOneLeavesNothingBehind) {
     EXPECT_EQ(m_control.GetFocusedRow(), nullptr);
 }
 
-// --- Virtual mode
-// -------------------------------------------------------------------------------------------------------
+// --- Virtual mode ----------------------------------------------------------------------------------------------------
 
 /// Shows the index of the row that is drawn.
 class RowNumberItem : public CXTPReportRecordItem {

@@ -13,10 +13,12 @@
 #include "ItemCompare.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <cstring>
 #include <memory>
 #include <numeric>
+#include <span>
 #include <string>
 #include <typeinfo>
 
@@ -76,8 +78,11 @@ public:
             AppendSortKey(item->GetCaption(column));
         }
         m_begins.push_back(m_bytes.size());
+        MakeHeads();
     }
     int Compare(std::uint32_t left, std::uint32_t right) const override {
+        if (m_heads[left] != m_heads[right])
+            return m_heads[left] < m_heads[right] ? -1 : 1;
         // Sort keys end with a zero byte, so that none begins with another.
         return std::memcmp(&m_bytes[m_begins[left]], &m_bytes[m_begins[right]], std::min(Length(left), Length(right)));
     }
@@ -85,19 +90,17 @@ public:
 private:
     std::size_t Length(std::uint32_t index) const { return m_begins[index + 1] - m_begins[index]; }
     void AppendSortKey(const CString& text) {
-        const std::size_t begin = m_bytes.size();
-        // Large enough for most texts; the others are measured.
-        int room = text.GetLength() * 8 + 32;
-        for (;;) {
-            m_bytes.resize(begin + room);
-            const int length = text.IsEmpty() ? 0 : MakeSortKey(text, &m_bytes[begin], room);
-            if (length > 0 || text.IsEmpty()) {
-                m_bytes.resize(begin + length);
-                break;
-            }
-            room = std::max(MakeSortKey(text, nullptr, 0), room * 2);
+        std::array<std::uint8_t, 512> most; // enough for most texts; the others are measured
+        std::vector<std::uint8_t> rest;
+        std::span<std::uint8_t> key = most;
+        int length = text.IsEmpty() ? 0 : MakeSortKey(text, key.data(), static_cast<int>(key.size()));
+        if (length == 0 && !text.IsEmpty()) {
+            rest.resize(std::max(MakeSortKey(text, nullptr, 0), 0));
+            key = rest;
+            length = MakeSortKey(text, key.data(), static_cast<int>(key.size()));
         }
-        if (m_bytes.size() == begin || m_bytes.back() != 0)
+        m_bytes.insert(m_bytes.end(), key.begin(), key.begin() + length);
+        if (length == 0 || m_bytes.back() != 0)
             m_bytes.push_back(0);
     }
     static int MakeSortKey(const CString& text, std::uint8_t* buffer, int size) {
@@ -105,8 +108,32 @@ private:
                                reinterpret_cast<LPWSTR>(buffer), size, nullptr, nullptr, 0);
     }
 
+    /// The first bytes in which the keys differ, as a number: they decide most comparisons without a look at the keys,
+    /// which lie scattered over memory.
+    void MakeHeads() {
+        const std::size_t common = CommonLength();
+        m_heads.reserve(m_begins.size() - 1);
+        for (std::uint32_t i = 0; i + 1 < m_begins.size(); ++i) {
+            std::uint64_t head = 0;
+            for (std::size_t at = common; at < common + sizeof(head); ++at)
+                head = head << 8 | (at < Length(i) ? m_bytes[m_begins[i] + at] : 0);
+            m_heads.push_back(head);
+        }
+    }
+    std::size_t CommonLength() const {
+        std::size_t common = m_begins.size() > 1 ? Length(0) : 0;
+        for (std::uint32_t i = 1; i + 1 < m_begins.size(); ++i) {
+            const std::size_t most = std::min(common, Length(i));
+            const auto begin = m_bytes.begin() + static_cast<std::ptrdiff_t>(m_begins[i]);
+            common = static_cast<std::size_t>(
+                std::mismatch(begin, begin + static_cast<std::ptrdiff_t>(most), m_bytes.begin()).first - begin);
+        }
+        return common;
+    }
+
     std::vector<std::uint8_t> m_bytes;
     std::vector<std::size_t> m_begins;
+    std::vector<std::uint64_t> m_heads;
 };
 
 template <class Item>
@@ -163,8 +190,7 @@ std::vector<CXTPReportRecord*> SortedVisibleRecords(const CXTPReportRecords& rec
     return sorted;
 }
 
-// --- RowStateKeeper
-// ---------------------------------------------------------------------------------------------------
+// --- RowStateKeeper --------------------------------------------------------------------------------------------------
 
 RowStateKeeper::RowStateKeeper(CXTPReportRows& rows, CXTPReportSelectedRows& selection, int nFocusedRow)
     : m_rows(rows), m_selection(selection), m_nFocusedRow(nFocusedRow), m_bVirtual(rows.IsVirtual()) {

@@ -13,9 +13,16 @@ CXTPReportSelectedRows::CXTPReportSelectedRows(CXTPReportControl* pControl) : m_
 
 int CXTPReportSelectedRows::GetRowCount() const { return m_pControl ? m_pControl->GetRows()->GetCount() : 0; }
 
-void CXTPReportSelectedRows::Changed() {
-    if (m_pControl)
-        m_pControl->RedrawControl();
+void CXTPReportSelectedRows::Assign(RowSelection ranges) {
+    const RowSelection former = std::exchange(m_ranges, std::move(ranges));
+    if (!m_pControl || former == m_ranges)
+        return;
+    // Only rows in view can look different now; the last of them may be cut off.
+    const int nFirst = m_pControl->GetTopRowIndex();
+    const std::int64_t nEnd = std::int64_t{nFirst} + m_pControl->GetFullyVisibleRowCount() + 1;
+    for (int nRow = nFirst; nRow < nEnd && nRow < GetRowCount(); ++nRow)
+        if (former.Contains(nRow) != m_ranges.Contains(nRow))
+            m_pControl->RedrawRow(m_pControl->GetRows()->GetAt(nRow));
 }
 
 int CXTPReportSelectedRows::GetCount() const {
@@ -32,12 +39,7 @@ BOOL CXTPReportSelectedRows::Contains(const CXTPReportRow* pRow) const {
 
 BOOL CXTPReportSelectedRows::Contains(int nRowIndex) const { return m_ranges.Contains(nRowIndex); }
 
-void CXTPReportSelectedRows::Clear() {
-    if (m_ranges.IsEmpty())
-        return;
-    m_ranges.Clear();
-    Changed();
-}
+void CXTPReportSelectedRows::Clear() { Assign(RowSelection()); }
 
 void CXTPReportSelectedRows::Add(CXTPReportRow* pRow) {
     if (pRow)
@@ -47,8 +49,9 @@ void CXTPReportSelectedRows::Add(CXTPReportRow* pRow) {
 void CXTPReportSelectedRows::Remove(CXTPReportRow* pRow) {
     if (!Contains(pRow))
         return;
-    m_ranges.Remove(pRow->GetIndex(), pRow->GetIndex());
-    Changed();
+    RowSelection ranges = m_ranges;
+    ranges.Remove(pRow->GetIndex(), pRow->GetIndex());
+    Assign(std::move(ranges));
 }
 
 void CXTPReportSelectedRows::Invert(CXTPReportRow* pRow) {
@@ -82,10 +85,7 @@ void CXTPReportSelectedRows::SelectBlock(int nBegin, int nEnd, BOOL bClear) {
 void CXTPReportSelectedRows::SetRanges(const RowSelection& ranges) {
     RowSelection kept = ranges;
     kept.Truncate(GetRowCount());
-    if (kept == m_ranges)
-        return;
-    m_ranges = std::move(kept);
-    Changed();
+    Assign(std::move(kept));
 }
 
 void CXTPReportSelectedRows::RowRemoved(int nRowIndex) {

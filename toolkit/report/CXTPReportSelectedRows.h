@@ -5,7 +5,8 @@
 #include "XTPReportDefines.h"
 
 /// The selection, held as ranges of row indices: selecting a million rows costs as much as selecting one.
-/// Changes ask for a redraw; they do not raise `OnSelectionChanged`, which is the control's affair.
+/// Changes ask for a redraw of the rows they concern; they do not raise `OnSelectionChanged`, which is the control's
+/// affair.
 class KY_TOOLKIT_API CXTPReportSelectedRows : public CCmdTarget {
 public:
     explicit CXTPReportSelectedRows(CXTPReportControl* pControl);
@@ -40,7 +41,7 @@ public:
 
 private:
     int GetRowCount() const;
-    void Changed();
+    void Assign(RowSelection ranges);
 
     CXTPReportControl* m_pControl;
     RowSelection m_ranges;

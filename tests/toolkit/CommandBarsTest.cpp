@@ -114,8 +114,7 @@ TEST_F(PopupMenuTest, StandsWhereTheSystemPutsAMenuThatKeepsARectangleFree) {
     EXPECT_EQ(ours, systems);
 }
 
-// --- The frame
-// ----------------------------------------------------------------------------------------------------------
+// --- The frame -------------------------------------------------------------------------------------------------------
 
 TEST(MDIFrameWithCommandBars, HasThemOnceTheyAreInitialised) {
     auto* const frame = new CXTPMDIFrameWnd;

@@ -9,8 +9,7 @@ using namespace gridgeometry;
 
 namespace {
 
-// --- Rows
-// -------------------------------------------------------------------------------------------------------------
+// --- Rows ------------------------------------------------------------------------------------------------------------
 
 TEST(UniformRows, AViewOf105PixelsShowsFiveWholeRowsOf20AndOneCutOff) {
     const UniformRows rows(100, 20, 105);
@@ -127,8 +126,7 @@ TEST(UniformRows, WithoutAFocusTheKeysBeginAtTheFirstRow) {
     EXPECT_EQ(UniformRows(0, 20, 105).NextRow(RowMove::Down, -1, 0), -1);
 }
 
-// --- Columns
-// ------------------------------------------------------------------------------------------------------------
+// --- Columns ---------------------------------------------------------------------------------------------------------
 
 TEST(Columns, StandSideBySideFromTheOffset) {
     const auto columns = LayOutColumns({100, 0, 50, -3}, -20);
@@ -229,8 +227,7 @@ TEST(Columns, ShowingAColumnScrollsSidewaysAsLittleAsPossible) {
     EXPECT_EQ(LeftOffsetToShow(100, {380, 900}, 300), 380) << "wider than the view: its left edge";
 }
 
-// --- Scrolling
-// ----------------------------------------------------------------------------------------------------------
+// --- Scrolling -------------------------------------------------------------------------------------------------------
 
 TEST(ScrollBarsOfAView, AreShownWhenTheContentDoesNotFit) {
     EXPECT_EQ(FitScrollBars(100, 100, 100, 100, 17, 16), (ScrollBars{false, false}));

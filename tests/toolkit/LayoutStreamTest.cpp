@@ -34,8 +34,7 @@ std::vector<int> ColumnsOf(const Plan& plan) {
     return columns;
 }
 
-// --- Bytes
-// ------------------------------------------------------------------------------------------------------------
+// --- Bytes -----------------------------------------------------------------------------------------------------------
 
 TEST(LayoutStream, ReadsBackWhatItWrote) {
     const Decoded decoded = Decode(Encode(ThreeColumns()));
@@ -170,8 +169,7 @@ TEST(LayoutStream, TwentyThousandMutationsNeverComeOutWrong) {
     EXPECT_LT(accepted, 19000) << "enough mutations must break the stream";
 }
 
-// --- Applying
-// -----------------------------------------------------------------------------------------------------------
+// --- Applying --------------------------------------------------------------------------------------------------------
 
 TEST(ApplyLayout, PutsColumnsIntoTheSavedOrderWithWidthAndVisibility) {
     const Plan plan = ApplyLayout(ThreeColumns(), LiveThree());

@@ -25,8 +25,7 @@ Owned<CXTPReportRecordItemNumber> Number(double value, const wchar_t* format = L
 
 constexpr double NaN = std::numeric_limits<double>::quiet_NaN();
 
-// --- Texts
-// --------------------------------------------------------------------------------------------------------------
+// --- Texts -----------------------------------------------------------------------------------------------------------
 
 TEST(RecordItem, ATextCellShowsItsText) {
     const auto item = Text(L"Grün");
@@ -110,8 +109,7 @@ TEST(RecordItem, CellsAreMadeByTheirRunTimeClass) {
     }
 }
 
-// --- Order
-// --------------------------------------------------------------------------------------------------------------
+// --- Order -----------------------------------------------------------------------------------------------------------
 
 TEST(RecordItem, NumbersCompareByValueWithNaNFirst) {
     EXPECT_LT(Number(2, L"%g")->Compare(nullptr, Number(10, L"%g").get()), 0) << "not as texts";
@@ -139,8 +137,7 @@ TEST(RecordItem, EveryCellSortsBehindAMissingOne) {
     EXPECT_GT(Number(NaN)->Compare(nullptr, nullptr), 0);
 }
 
-// --- Hyperlinks
-// ---------------------------------------------------------------------------------------------------------
+// --- Hyperlinks ------------------------------------------------------------------------------------------------------
 
 TEST(RecordItem, HyperlinksAreHitWhereTheyWereDrawn) {
     const auto item = Text(L"see here and there");
@@ -160,8 +157,7 @@ TEST(RecordItem, HyperlinksAreHitWhereTheyWereDrawn) {
     EXPECT_EQ(item->GetHyperlinkAt(1)->m_nHyperTextBegin, 13);
 }
 
-// --- Life
-// ---------------------------------------------------------------------------------------------------------------
+// --- Life ------------------------------------------------------------------------------------------------------------
 
 TEST_F(ReportModelTest, ItemsKnowTheirPlace) {
     CXTPReportRecord* const record = AddTexts(m_control, {L"a", L"b"});

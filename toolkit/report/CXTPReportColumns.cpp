@@ -6,8 +6,7 @@
 
 #include <algorithm>
 
-// --- CXTPReportColumnOrder
-// --------------------------------------------------------------------------------------------
+// --- CXTPReportColumnOrder -------------------------------------------------------------------------------------------
 
 CXTPReportColumn* CXTPReportColumnOrder::GetAt(int nIndex) const {
     return nIndex >= 0 && nIndex < GetCount() ? m_columns[nIndex] : nullptr;
@@ -34,8 +33,7 @@ int CXTPReportColumnOrder::IndexOf(const CXTPReportColumn* pColumn) const {
 
 void CXTPReportColumnOrder::Remove(CXTPReportColumn* pColumn) { std::erase(m_columns, pColumn); }
 
-// --- CXTPReportColumns
-// ------------------------------------------------------------------------------------------------
+// --- CXTPReportColumns -----------------------------------------------------------------------------------------------
 
 void CXTPReportColumns::Release::operator()(CXTPReportColumn* pColumn) const {
     pColumn->m_pColumns = nullptr;

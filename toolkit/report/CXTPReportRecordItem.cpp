@@ -40,8 +40,7 @@ CXTPReportRecordItem::Extras& CXTPReportRecordItem::EnsureExtras() {
     return *m_pExtras;
 }
 
-// --- Text
-// -------------------------------------------------------------------------------------------------------------
+// --- Text ------------------------------------------------------------------------------------------------------------
 
 CString CXTPReportRecordItem::GetCaption(CXTPReportColumn* /*pColumn*/) { return m_strCaption; }
 
@@ -55,8 +54,7 @@ CString CXTPReportRecordItem::GetTooltip() const { return m_pExtras ? m_pExtras-
 
 void CXTPReportRecordItem::SetTooltip(LPCTSTR strTooltip) { EnsureExtras().strTooltip = strTooltip; }
 
-// --- Look
-// -------------------------------------------------------------------------------------------------------------
+// --- Look ------------------------------------------------------------------------------------------------------------
 
 COLORREF CXTPReportRecordItem::GetTextColor() const { return m_clrText; }
 void CXTPReportRecordItem::SetTextColor(COLORREF clr) { m_clrText = clr; }
@@ -118,15 +116,13 @@ void CXTPReportRecordItem::OnDrawCaption(XTP_REPORTRECORDITEM_DRAWARGS* pDrawArg
     pDrawArgs->pControl->GetPaintManager()->DrawItemText(pDrawArgs, pMetrics);
 }
 
-// --- Order
-// ------------------------------------------------------------------------------------------------------------
+// --- Order -----------------------------------------------------------------------------------------------------------
 
 int CXTPReportRecordItem::Compare(CXTPReportColumn* pColumn, CXTPReportRecordItem* pItem) {
     return pItem ? itemcompare::Texts(GetCaption(pColumn), pItem->GetCaption(pColumn)) : 1;
 }
 
-// --- Hyperlinks
-// -------------------------------------------------------------------------------------------------------
+// --- Hyperlinks ------------------------------------------------------------------------------------------------------
 
 int CXTPReportRecordItem::AddHyperlink(CXTPReportHyperlink* pHyperlink) {
     if (!pHyperlink)
@@ -151,8 +147,7 @@ int CXTPReportRecordItem::HitTestHyperlink(CPoint ptPoint) {
     return -1;
 }
 
-// --- Mouse
-// ------------------------------------------------------------------------------------------------------------
+// --- Mouse -----------------------------------------------------------------------------------------------------------
 
 BOOL CXTPReportRecordItem::OnLButtonDown(XTP_REPORTRECORDITEM_CLICKARGS* /*pClickArgs*/) { return FALSE; }
 
@@ -189,8 +184,7 @@ INT_PTR CXTPReportRecordItem::OnToolHitTest(CPoint point, TOOLINFO* pTI) {
     return nTool;
 }
 
-// --- Place
-// ------------------------------------------------------------------------------------------------------------
+// --- Place -----------------------------------------------------------------------------------------------------------
 
 int CXTPReportRecordItem::GetIndex() const { return m_pRecord ? m_pRecord->IndexOf(this) : -1; }
 

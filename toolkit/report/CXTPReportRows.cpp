@@ -41,8 +41,7 @@ int CXTPReportRows::IndexOf(const CXTPReportRecord* pRecord) const { return m_re
 
 CXTPReportRow* CXTPReportRows::Find(CXTPReportRecord* pRecord) const { return GetAt(IndexOf(pRecord)); }
 
-// --- For the control
-// --------------------------------------------------------------------------------------------------
+// --- For the control -------------------------------------------------------------------------------------------------
 
 void CXTPReportRows::Detach(CXTPReportRow* pRow) {
     pRow->m_pRows = nullptr;

@@ -18,8 +18,7 @@ enum Tag : std::uint16_t { TagColumns = 1, TagSortOrder = 2, TagGroupsOrder = 3 
 constexpr std::uint8_t FlagVisible = 1;
 constexpr std::uint8_t FlagIncreasing = 1;
 
-// --- Writing
-// ----------------------------------------------------------------------------------------------------------
+// --- Writing ---------------------------------------------------------------------------------------------------------
 
 class Writer {
 public:
@@ -76,8 +75,7 @@ Writer WriteKeys(const std::vector<Key>& keys) {
     return section;
 }
 
-// --- Reading
-// ----------------------------------------------------------------------------------------------------------
+// --- Reading ---------------------------------------------------------------------------------------------------------
 
 /// Reads forward through bytes. The first read beyond the end fails, and so do all that follow; they give zeros.
 class Reader {
@@ -164,8 +162,7 @@ bool KeysMeanColumns(const std::vector<Key>& keys, std::size_t columnCount) {
     });
 }
 
-// --- Applying
-// ---------------------------------------------------------------------------------------------------------
+// --- Applying --------------------------------------------------------------------------------------------------------
 
 /// For every saved column the live column that it means, or -1.
 class Matcher {

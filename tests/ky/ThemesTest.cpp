@@ -102,7 +102,7 @@ TEST(ThemeMappings, GetXTPControlThemeFollowsTheGlobalPaintTheme) {
 }
 
 TEST(ThemeMappings, GetXTPListBoxStyleFollowsTheGlobalPaintTheme) {
-    EXPECT_EQ(QueryForPaintThemes(Themes::GetXTPListBoxStyle), (Mapped{0, 0, 0, 1, 0, 0, 2, 2, 0, 0, 0, 0, 2, 3, 0}));
+    EXPECT_EQ(QueryForPaintThemes(Themes::GetXTPListBoxStyle), (Mapped{0, 0, 1, 0, 0, 0, 2, 2, 0, 0, 0, 0, 2, 3, 0}));
 }
 
 TEST_F(ThemesTest, AnEmptyProfileMeansWindows7Blue) {

@@ -86,14 +86,16 @@ void CXTPReportRecordItem::Draw(XTP_REPORTRECORDITEM_DRAWARGS* pDrawArgs) {
     XTP_REPORTRECORDITEM_METRICS metrics;
     CXTPReportPaintManager* const pPaintManager =
         pDrawArgs->pControl ? pDrawArgs->pControl->GetPaintManager() : nullptr;
-    if (pPaintManager && pDrawArgs->pRow)
-        pPaintManager->FillRowMetrics(pDrawArgs->pRow, &metrics);
+    if (pPaintManager) {
+        metrics.pFont = pPaintManager->GetTextFont();
+        metrics.clrForeground = pPaintManager->m_clrWindowText;
+        if (pDrawArgs->pRow)
+            pPaintManager->FillRowMetrics(pDrawArgs->pRow, &metrics);
+    }
     const COLORREF clrRow = metrics.clrBackground;
     if (m_pRecord)
         m_pRecord->GetItemMetrics(pDrawArgs, &metrics);
     GetItemMetrics(pDrawArgs, &metrics);
-    if (metrics.clrForeground == CXTPPaintManagerColor::Unset && pPaintManager)
-        metrics.clrForeground = pPaintManager->m_clrWindowText;
 
     CDC* const pDC = pDrawArgs->pDC;
     const SaveDCGuard saved(*pDC);
@@ -102,7 +104,8 @@ void CXTPReportRecordItem::Draw(XTP_REPORTRECORDITEM_DRAWARGS* pDrawArgs) {
         pDC->FillSolidRect(pDrawArgs->rcItem, metrics.clrBackground);
     if (metrics.pFont)
         pDC->SelectObject(metrics.pFont);
-    pDC->SetTextColor(metrics.clrForeground);
+    if (metrics.clrForeground != CXTPPaintManagerColor::Unset)
+        pDC->SetTextColor(metrics.clrForeground);
     pDC->SetBkMode(TRANSPARENT);
     OnDrawCaption(pDrawArgs, &metrics);
 }

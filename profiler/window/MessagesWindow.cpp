@@ -16,6 +16,7 @@ BEGIN_MESSAGE_MAP(MessagesWindow, CWnd)
     ON_WM_SIZE()
     ON_WM_SETFOCUS()
     ON_WM_CLOSE()
+    ON_WM_CTLCOLOR()
 END_MESSAGE_MAP()
 
 BOOL MessagesWindow::CreateFor(CWnd* owner) {
@@ -89,6 +90,13 @@ void MessagesWindow::OnSize(UINT type, int width, int height) {
 }
 
 void MessagesWindow::OnSetFocus(CWnd*) { m_text.SetFocus(); }
+
+HBRUSH MessagesWindow::OnCtlColor(CDC* dc, CWnd*, UINT) {
+    // Text to read, not a field that is switched off.
+    dc->SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
+    dc->SetBkColor(::GetSysColor(COLOR_WINDOW));
+    return ::GetSysColorBrush(COLOR_WINDOW);
+}
 
 void MessagesWindow::OnClose() {
     // The owner comes to the front before this window goes; otherwise the system may choose another program's.

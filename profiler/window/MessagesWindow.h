@@ -23,6 +23,7 @@ protected:
     void OnSize(UINT type, int width, int height);
     void OnSetFocus(CWnd* old);
     void OnClose();
+    HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT type);
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -27,6 +27,21 @@ CRect InitialPlace() {
     return CRect(area.CenterPoint() - CSize(size.cx / 2, size.cy / 2), size);
 }
 
+CString RowsText(std::size_t rows) {
+    return rows == 1 ? Translate("1 row") : TranslateFormat("Status bar", "%1% rows", rows);
+}
+
+CString ColumnsText(std::size_t columns) {
+    return columns == 1 ? Translate("1 column") : TranslateFormat("Status bar", "%1% columns", columns);
+}
+
+CString MessagesText(std::size_t messages) {
+    if (messages == 0)
+        return Translate("No messages");
+    return messages == 1 ? Translate("1 message (Ctrl+M)")
+                         : TranslateFormat("Status bar", "%1% messages (Ctrl+M)", messages);
+}
+
 /// Whether the user pressed Escape since the last call. Other input waits.
 bool EscapeWasPressed() {
     MSG message;
@@ -143,7 +158,7 @@ void ProfilerFrame::OpenPath(const CString& path) {
         return;
     }
     ShowStatus(result.error);
-    MessageBox(result.error, kTitle, MB_OK | MB_ICONWARNING);
+    AfxMessageBox(result.error, MB_OK | MB_ICONWARNING);
 }
 
 ColumnFileResult ProfilerFrame::ReadWithProgress(const CString& path) {
@@ -215,11 +230,8 @@ void ProfilerFrame::ShowFilePanes() {
     CString size;
     CString messages;
     if (m_file != nullptr) {
-        size = TranslateFormat("Status bar", "%1% rows, %2% columns", m_file->table.rows, m_file->table.columns.size());
-        const std::size_t count = m_file->warnings.size();
-        messages = count == 0   ? Translate("No messages")
-                   : count == 1 ? Translate("1 message (Ctrl+M)")
-                                : TranslateFormat("Status bar", "%1% messages (Ctrl+M)", count);
+        size = RowsText(m_file->table.rows) + L", " + ColumnsText(m_file->table.columns.size());
+        messages = MessagesText(m_file->warnings.size());
     }
     m_statusBar.SetPaneText(SizePane, size);
     m_statusBar.SetPaneText(MessagesPane, messages);
@@ -250,18 +262,19 @@ void ProfilerFrame::OnViewTheme(UINT id) {
 }
 
 void ProfilerFrame::OnHelpKeys() {
-    const CString text = Translate(
-        "Drag the ends of a bar or its gold mark: the status bar tells the value, and \"Inside\" the share of the "
-        "column's values between the ends.\n"
-        "Esc: while dragging, puts the mark back; while reading, gives up\n\n"
-        "Click a header: sort; with Shift: sort within the former order\n"
-        "Drag a header: move the column; drag its edge: change the width; double-click its edge: best width\n"
-        "Right-click a header: choose columns, restore the default layout\n\n"
-        "Up, Down, Page Up, Page Down, Home, End: move through the rows\n"
-        "Ctrl+O: open a file\n"
-        "F5: read the file again\n"
-        "Ctrl+M: messages about the file\n"
-        "F1: this text");
+    const CString text = Translate("Drag an end of a bar: set a limit\n"
+                                   "Drag the gold mark: set the target\n"
+                                   "Esc: put the mark back, or stop reading\n\n"
+                                   "Click a header: sort\n"
+                                   "Shift+click: sort by several columns\n"
+                                   "Drag a header: move the column\n"
+                                   "Drag a header's edge: change the width\n"
+                                   "Double-click the edge: best width\n"
+                                   "Right-click a header: choose columns\n\n"
+                                   "Ctrl+O: open a file\n"
+                                   "F5: read the file again\n"
+                                   "Ctrl+M: messages about the file\n"
+                                   "F1: this list");
     MessageBox(text, Translate("Keys and mouse"), MB_OK);
 }
 

@@ -1,0 +1,287 @@
+#!/usr/bin/env bash
+# The whole program, used with a real mouse and real keys: program_test.sh PROFILER.exe PROGRAM_TEXTS.exe FOLDER
+# FOLDER takes pictures and the INI file. Shares are counted again here, with awk, from the file itself.
+set -euo pipefail
+# shellcheck source=tools/lib/common.sh
+. "$(dirname "${BASH_SOURCE[0]}")/../../tools/lib/common.sh"
+# shellcheck source=tools/lib/x.sh
+. "$ky_root/tools/lib/x.sh"
+# shellcheck source=tools/lib/plots.sh
+. "$ky_root/tools/lib/plots.sh"
+
+program=$1
+texts=$2
+x_out=$3
+data=$ky_root/profiler/data/penguins.csv
+ini=$x_out/program_test.ini
+header_y=53
+failures=0
+
+# --- What is expected -------------------------------------------------------------------------------------------------
+
+fail() {
+    printf 'FAILED: %s\n' "$*" >&2
+    failures=$((failures + 1))
+    x_shot "failure-$failures"
+}
+
+# says WHAT: what the program says now, WHAT being title, status or box.
+says() {
+    wine "$texts" 9>&- | tr -d '\r' | sed -n "s/^$1: //p"
+}
+
+# expect WHAT PATTERN PURPOSE: the text matches the extended regular expression as a whole.
+expect() {
+    local text
+    text=$(says "$1")
+    if [[ $text =~ ^$2$ ]]; then
+        printf 'ok: %s\n' "$3"
+    else
+        fail "$3: the $1 is '$text', expected '$2'"
+    fi
+}
+
+number='-?[0-9.]+(e[-+][0-9]+)?'
+share_pattern="(.*): ([<>]?[0-9.]+) % of the values lie from ($number) to ($number)\\."
+
+# expect_share COLUMN-INDEX PURPOSE: the status bar tells a share; it is the one that the file has. Leaves its limits in
+# lower and upper.
+expect_share() {
+    local text told counted
+    text=$(says status)
+    if ! [[ $text =~ ^$share_pattern$ ]]; then
+        fail "$2: the status bar tells no share but '$text'"
+        return
+    fi
+    told=${BASH_REMATCH[2]}
+    lower=${BASH_REMATCH[3]}
+    upper=${BASH_REMATCH[5]}
+    counted=$(awk -F, -v column="$1" -v lower="$lower" -v upper="$upper" '
+        NR > 1 && $column != "" { count++; inside += $column >= lower + 0 && $column <= upper + 0 }
+        END { printf "%.1f", 100 * inside / count }' "$data")
+    if [ "$told" = "$counted" ]; then
+        printf 'ok: %s (%s %% from %s to %s)\n' "$2" "$told" "$lower" "$upper"
+    else
+        fail "$2: $told % told, $counted % counted from $lower to $upper"
+    fi
+}
+
+# expect_order A B C... PURPOSE: the numbers do not fall.
+expect_order() {
+    local purpose=${*: -1}
+    if printf '%s\n' "${@:1:$#-1}" | sort -gc 2>/dev/null; then
+        printf 'ok: %s\n' "$purpose"
+    else
+        fail "$purpose: ${*:1:$#-1}"
+    fi
+}
+
+# expect_moved FROM TO WANTED PURPOSE: a mark's x moved by WANTED pixels, two more or less: the pointer is not exactly on
+# the mark when it is pressed.
+expect_moved() {
+    local off=$(($2 - $1 - $3))
+    if [ "${off#-}" -le 2 ]; then
+        printf 'ok: %s\n' "$4"
+    else
+        fail "$4: moved from $1 to $2, expected by $3"
+    fi
+}
+
+# point_nowhere: takes the pointer to where no header gets hot and no tip covers a plot.
+point_nowhere() {
+    x_move 400 500
+    sleep 0.3
+}
+
+# grid_picture NAME: the grid alone, without title bar and status bar, with the first row selected.
+grid_picture() {
+    point_nowhere
+    x_key Home
+    "$(ky_imagemagick import)" -window root -crop "1190x600+$((x_left + 5))+$((x_top + 43))" +repage "$x_out/$1.png"
+}
+
+same_picture() {
+    [ "$("$(ky_imagemagick compare)" -metric AE "$x_out/$1.png" "$x_out/$2.png" null: 2>&1)" = 0 ]
+}
+
+# state SECTION: the layout that the INI file holds.
+state() {
+    tr -d '\r' <"$ini" | awk -v section="$1" '/^\[/ { inside = $0 == "[" section "]" } inside && /^State=/'
+}
+
+start() {
+    x_start "$program" --language en --ini "$(ky_windows_path "$ini")" "$@"
+    x_wait_window 'Column Profiler'
+    sleep 0.5
+}
+
+# --- What is done -----------------------------------------------------------------------------------------------------
+
+drag_each_mark() {
+    local y x after
+    y=$(plot_row 3)
+    x=$(plot_find "$y" "$plot_bar" first)
+    x_move "$x" "$y"
+    x_press
+    x_glide "$x" "$y" $((x - 25)) "$y"
+    expect status "Beak Length \\(mm\\): lower limit at $number\\. Escape cancels\\." "a dragged lower limit tells its value"
+    after=$(plot_find "$y" "$plot_bar" first)
+    expect_moved "$x" "$after" -25 "the lower end follows the pointer"
+    x_release
+    expect_share 3 "the share follows the lower limit"
+
+    x=$(plot_find "$y" "$plot_bar" last)
+    x_drag "$x" "$y" $((x + 25)) "$y"
+    expect_share 3 "the share follows the upper limit"
+    after=$(plot_find "$y" "$plot_bar" last)
+    expect_moved "$x" "$after" 25 "the upper end stays where it was dragged"
+
+    x=$(plot_find "$y" "$plot_target" first)
+    x_move "$x" "$y"
+    x_press
+    x_glide "$x" "$y" $((x + 40)) "$y"
+    expect status "Beak Length \\(mm\\): target at $number\\. Escape cancels\\." "a dragged target tells its value"
+    x_release
+    after=$(plot_find "$y" "$plot_target" first)
+    expect_moved "$x" "$after" 40 "the target stays where it was dragged"
+    expect_share 3 "a target between the limits leaves the share"
+}
+
+drag_against_the_wall() {
+    local y target
+    y=$(plot_row 4)
+    target=$(plot_find "$y" "$plot_target" first)
+    x_drag "$(plot_find "$y" "$plot_bar" first)" "$y" $((target + 60)) "$y"
+    expect_share 4 "a lower limit dragged across the target"
+    expect_order "$lower" 17.3 17.3 "it ends at the target"
+    y=$(plot_row 5)
+    x_drag "$(plot_find "$y" "$plot_target" first)" "$y" $(($(plot_find "$y" "$plot_bar" last) + 30)) "$y"
+    expect_share 5 "a target dragged across the upper limit"
+    expect_order 214.977 "$upper" 231 "it pushes the upper limit along"
+}
+
+leave_and_cancel() {
+    local y x after before
+    y=$(plot_row 6)
+    x=$(plot_find "$y" "$plot_bar" last)
+    before=$(plot_find "$y" "$plot_bar" first)
+    x_move "$x" "$y"
+    x_press
+    x_glide "$x" "$y" $((x + 15)) 500
+    expect status "Body Mass \\(g\\): upper limit at $number\\. Escape cancels\\." "the drag goes on below the cell"
+    after=$(plot_find "$y" "$plot_bar" last)
+    expect_moved "$x" "$after" 15 "the mark follows a pointer that left its cell"
+    x_glide $((x + 15)) 500 $((x + 20)) -30
+    after=$(plot_find "$y" "$plot_bar" last)
+    expect_moved "$x" "$after" 20 "the mark follows a pointer that left the window"
+    x_key Escape
+    expect status "Cancelled: the mark is back where it was\\." "Escape cancels"
+    after=$(plot_find "$y" "$plot_bar" last)
+    expect_moved "$x" "$after" 0 "the mark is back"
+    x_release
+    expect status "Cancelled: the mark is back where it was\\." "the release after Escape changes nothing"
+    x_glide $((x + 20)) -30 "$before" 500
+    after=$(plot_find "$y" "$plot_bar" first)
+    expect_moved "$before" "$after" 0 "nothing is dragged any more"
+}
+
+release_elsewhere() {
+    local y x
+    y=$(plot_row 6)
+    x=$(plot_find "$y" "$plot_bar" first)
+    x_drag "$x" "$y" $((x - 12)) "$(plot_row 5)"
+    point_nowhere
+    expect_share 6 "a release over another row applies the drag to its own row"
+    expect_moved "$x" "$(plot_find "$y" "$plot_bar" first)" -12 "at the pointer's place"
+    x=$(plot_find "$y" "$plot_bar" first)
+    x_drag "$x" "$y" $((x - 10)) 500
+    expect_share 6 "so does a release below the last row"
+    expect_moved "$x" "$(plot_find "$y" "$plot_bar" first)" -10 "at the pointer's place"
+    x=$(plot_find "$y" "$plot_bar" last)
+    x_drag "$x" "$y" $((x + 10)) 750
+    expect_share 6 "so does a release outside of the window"
+}
+
+change_the_layout() {
+    grid_picture default
+    x_click 100 "$header_y" 3
+    x_key Down Down Down Return # Type, Count, Missing
+    x_click 100 "$header_y"     # sort by name
+    grid_picture changed
+    if same_picture default changed; then fail "hiding a column and sorting show"; else echo "ok: hiding a column and sorting show"; fi
+    if plot_find "$(plot_row 1)" "$plot_target" first >/dev/null; then
+        echo "ok: Beak Depth comes first by name"
+    else
+        fail "Beak Depth comes first by name"
+    fi
+}
+
+find_the_layout_again() {
+    start "$(ky_windows_path "$data")"
+    x_click 100 "$header_y" 3
+    x_key Escape
+    grid_picture restarted
+    x_click 100 "$header_y" 3
+    x_key Up Return
+    grid_picture restored
+    x_close
+}
+
+# --- The test ---------------------------------------------------------------------------------------------------------
+
+mkdir -p "$x_out"
+rm -f "$ini"
+x_begin
+
+start "$(ky_windows_path "$data")"
+expect title 'penguins\.csv – Column Profiler' "the title names the file"
+expect status 'penguins\.csv is open\.' "the status bar says that the file is open"
+drag_each_mark
+drag_against_the_wall
+leave_and_cancel
+release_elsewhere
+x_key F5
+expect status 'penguins\.csv is open\.' "F5 reads the file again"
+grid_picture fresh
+change_the_layout
+if same_picture fresh default; then echo "ok: limits begin anew"; else fail "limits begin anew"; fi
+x_close
+
+changed_state=$(state Columns)
+default_state=$(state 'Columns\\DefaultLayout')
+if [ -n "$changed_state" ] && [ "$changed_state" != "$default_state" ]; then
+    echo "ok: the INI file holds the layout and the default one"
+else
+    fail "the INI file holds the layout and the default one"
+fi
+find_the_layout_again
+if same_picture changed restarted; then echo "ok: the layout is there after a restart"; else fail "the layout is there after a restart"; fi
+if same_picture default restored; then echo "ok: the default layout can be restored"; else fail "the default layout can be restored"; fi
+if [ "$(state Columns)" = "$default_state" ]; then echo "ok: and is what the INI file holds then"; else fail "and is what the INI file holds then"; fi
+
+printf 'a,b\n1,2\n3\n4,x\n5,6\n7,8\n' >"$x_out/odd.csv"
+start "$(ky_windows_path "$x_out/odd.csv")"
+expect status 'odd\.csv, line 3: 1 field where the header has 2\. The others count as missing\.' "a ragged row is told"
+rm "$x_out/odd.csv"
+x_key F5
+expect box '.*odd\.csv cannot be found\. Check its name and its folder\.' "a file that is gone is told"
+x_key Return
+expect title 'odd\.csv – Column Profiler' "and stays open as it was read"
+x_key ctrl+o
+sleep 1
+x_type "$(ky_windows_path "$ky_root/profiler/data/seattle-weather.csv")"
+x_key Return
+sleep 0.5
+expect title 'seattle-weather\.csv – Column Profiler' "the menu opens another file"
+x_close
+
+start "$(ky_windows_path "$x_out")"
+expect box '.* is a folder\. Choose a CSV file in it\.' "a folder is told"
+x_key Return
+expect status '.* is a folder\. Choose a CSV file in it\.' "and the program goes on"
+x_close
+
+if [ "$failures" -gt 0 ]; then
+    printf '%s expectations failed; pictures are in %s\n' "$failures" "$x_out" >&2
+    exit 1
+fi

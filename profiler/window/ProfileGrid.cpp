@@ -93,6 +93,7 @@ void ProfileGrid::AddColumns() {
         {MeanItem, L"Mean", Translate("Mean"), 88, DT_RIGHT, Translate("The arithmetic mean")},
         {MaximumItem, L"Maximum", Translate("Maximum"), 88, DT_RIGHT, Translate("The largest value")},
         {PlotItem, L"Plot", Translate("Distribution"), 400, DT_LEFT,
+         // xgettext:no-c-format
          Translate("Bar: mean ± standard deviation. Whiskers: 5 % and 95 % quantiles. Gold: median. Red: minimum and "
                    "maximum. Drag the bar's ends and the median.")},
         {InsideItem, L"Inside", Translate("Inside"), 84, DT_RIGHT,

@@ -2,11 +2,14 @@
 #include "window/MessagesWindow.h"
 
 #include "common/Translation.h"
+#include "window/DpiScale.h"
 
 namespace {
 
+// Pixels at 96 DPI.
 constexpr int kWidth = 620;
 constexpr int kHeight = 220;
+constexpr int kGap = 24;
 constexpr UINT kTextId = 1;
 
 } // namespace
@@ -23,7 +26,7 @@ BOOL MessagesWindow::CreateFor(CWnd* owner) {
     const CString windowClass =
         AfxRegisterWndClass(0, ::LoadCursor(nullptr, IDC_ARROW), reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1));
     return CreateEx(WS_EX_TOOLWINDOW, windowClass, Translate("Messages"),
-                    WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_CLIPCHILDREN, 0, 0, kWidth, kHeight,
+                    WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_THICKFRAME | WS_CLIPCHILDREN, 0, 0, 0, 0,
                     owner->GetSafeHwnd(), nullptr);
 }
 
@@ -38,7 +41,7 @@ int MessagesWindow::OnCreate(LPCREATESTRUCT create) {
     ::SystemParametersInfo(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
     m_font.CreateFontIndirect(&metrics.lfMessageFont);
     m_text.SetFont(&m_font);
-    m_text.SetMargins(8, 8);
+    m_text.SetMargins(ScaledToDpi(8), ScaledToDpi(8));
     m_text.LimitText(0); // as much as there is memory
     return 0;
 }
@@ -63,10 +66,12 @@ void MessagesWindow::Open() {
 }
 
 void MessagesWindow::Place() {
-    constexpr int kGap = 24;
     CRect owner;
     GetWindow(GW_OWNER)->GetWindowRect(&owner);
-    SetWindowPos(nullptr, owner.right - kWidth - kGap, owner.bottom - kHeight - 2 * kGap, kWidth, kHeight,
+    const int width = ScaledToDpi(kWidth);
+    const int height = ScaledToDpi(kHeight);
+    const int gap = ScaledToDpi(kGap);
+    SetWindowPos(nullptr, owner.right - width - gap, owner.bottom - height - 2 * gap, width, height,
                  SWP_NOZORDER | SWP_NOACTIVATE);
     m_placed = true;
 }

@@ -4,6 +4,7 @@
 #include "common/KyMessages.h"
 #include "common/Translation.h"
 #include "statistics/DisplayText.h"
+#include "window/DpiScale.h"
 #include "window/ValueItem.h"
 #include "window/WideText.h"
 
@@ -17,7 +18,7 @@ enum Item { NameItem, TypeItem, CountItem, MissingItem, MinimumItem, MeanItem, M
 
 constexpr wchar_t kSection[] = L"Columns";
 constexpr wchar_t kNameColumn[] = L"Name";
-constexpr int kRowHeight = 24;
+constexpr int kRowHeight = 24; // pixels at 96 DPI
 
 CString Number(double number) { return FromUtf8(statistics::NumberText(number)); }
 
@@ -80,7 +81,7 @@ void ProfileGrid::AddColumns() {
         Item item;
         const wchar_t* name; // kept in saved layouts, never shown
         CString caption;
-        int width;
+        int width; // pixels at 96 DPI
         int alignment;
         CString tip;
     };
@@ -100,9 +101,9 @@ void ProfileGrid::AddColumns() {
          Translate("The share of the column's values from the lower to the upper end of the bar")},
     };
     for (const Layout& layout : layouts) {
-        auto* column = new CXTPReportColumn(layout.item, layout.caption, layout.name, layout.width);
+        auto* column = new CXTPReportColumn(layout.item, layout.caption, layout.name, ScaledToDpi(layout.width));
         column->SetAlignment(layout.alignment);
-        column->SetMinWidth(layout.item == PlotItem ? 120 : 40);
+        column->SetMinWidth(ScaledToDpi(layout.item == PlotItem ? 120 : 40));
         column->SetTooltip(layout.tip);
         column->SetSortable(layout.item != PlotItem);
         column->AllowRemove(layout.item != NameItem);
@@ -111,7 +112,7 @@ void ProfileGrid::AddColumns() {
 }
 
 void ProfileGrid::ShowEmptyText() {
-    GetPaintManager()->SetRowHeight(kRowHeight);
+    GetPaintManager()->SetRowHeight(ScaledToDpi(kRowHeight));
     GetPaintManager()->SetNoItemText(Translate("Open a CSV file (Ctrl+O) or drop one here."));
 }
 

@@ -4,6 +4,7 @@
 #include "common/Translation.h"
 #include "resource.h"
 #include "themes/Themes.h"
+#include "window/DpiScale.h"
 #include "window/MainMenu.h"
 #include "window/WideText.h"
 
@@ -14,7 +15,7 @@ namespace {
 constexpr wchar_t kTitle[] = L"Column Profiler";
 constexpr wchar_t kVersion[] = L"0.1.0";
 constexpr wchar_t kWindowSection[] = L"Window";
-constexpr CSize kInitialSize(1200, 720);
+constexpr CSize kInitialSize(1200, 720); // pixels at 96 DPI
 
 /// The panes of the status bar from left to right.
 enum Pane { StatusPane, SizePane, MessagesPane, PaneCount };
@@ -23,7 +24,8 @@ enum Pane { StatusPane, SizePane, MessagesPane, PaneCount };
 CRect InitialPlace() {
     CRect area;
     ::SystemParametersInfo(SPI_GETWORKAREA, 0, &area, 0);
-    const CSize size(std::min(kInitialSize.cx, LONG(area.Width())), std::min(kInitialSize.cy, LONG(area.Height())));
+    const CSize size(std::min(ScaledToDpi(kInitialSize.cx), area.Width()),
+                     std::min(ScaledToDpi(kInitialSize.cy), area.Height()));
     return CRect(area.CenterPoint() - CSize(size.cx / 2, size.cy / 2), size);
 }
 
@@ -98,13 +100,13 @@ int ProfilerFrame::OnCreate(LPCREATESTRUCT create) {
 }
 
 bool ProfilerFrame::CreateStatusBar() {
-    constexpr int kPaneWidth = 150;
+    constexpr int kPaneWidth = 170; // pixels at 96 DPI
     // No pane follows a command: their texts are set where they change.
     const UINT panes[PaneCount] = {};
     if (!m_statusBar.Create(this) || !m_statusBar.SetIndicators(panes, PaneCount))
         return false;
     for (const int pane : {SizePane, MessagesPane})
-        m_statusBar.SetPaneInfo(pane, ID_SEPARATOR, SBPS_NORMAL, kPaneWidth);
+        m_statusBar.SetPaneInfo(pane, ID_SEPARATOR, SBPS_NORMAL, ScaledToDpi(kPaneWidth));
     return true;
 }
 

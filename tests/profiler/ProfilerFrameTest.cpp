@@ -1,0 +1,267 @@
+// The main window: opening files, what it shows and tells, what it keeps.
+#include "ProfilerTestApp.h"
+
+#include "common/Translation.h"
+#include "resource.h"
+#include "window/ColumnPlotItem.h"
+
+#include <gmock/gmock.h>
+
+#include <cstring>
+#include <shlobj.h>
+
+namespace {
+
+using testing::ElementsAre;
+using testing::EndsWith;
+using testing::IsEmpty;
+
+/// Items of a record, as the columns stand from left to right.
+enum Item { NameItem, TypeItem, CountItem, MissingItem, MinimumItem, MeanItem, MaximumItem, PlotItem, InsideItem };
+
+TEST_F(ProfilerFrameTest, WithoutAFileItSaysWhatToDo) {
+    EXPECT_EQ(Title(), L"Column Profiler");
+    EXPECT_EQ(Status(), L"Ready");
+    EXPECT_EQ(Rows(), 0);
+    EXPECT_STREQ(Grid().GetPaintManager()->GetNoItemText(), L"Open a CSV file (Ctrl+O) or drop one here.");
+}
+
+TEST_F(ProfilerFrameTest, ShowsOneRowPerColumn) {
+    OpenShipped(L"penguins.csv");
+    EXPECT_EQ(Title(), L"penguins.csv \u2013 Column Profiler");
+    EXPECT_EQ(Status(), L"penguins.csv is open.");
+    ASSERT_EQ(Rows(), 7);
+    EXPECT_EQ(Cell(2, NameItem), L"Beak Length (mm)");
+    EXPECT_EQ(Cell(2, TypeItem), L"Number");
+    EXPECT_EQ(Cell(2, CountItem), L"342");
+    EXPECT_EQ(Cell(2, MissingItem), L"2");
+    EXPECT_EQ(Cell(2, MinimumItem), L"32.1");
+    EXPECT_EQ(Cell(2, MeanItem), L"43.9219");
+    EXPECT_EQ(Cell(2, MaximumItem), L"59.6");
+    EXPECT_EQ(Cell(2, InsideItem), L"59.6 %"); // 204 of 342
+    EXPECT_EQ(Cell(6, NameItem), L"Sex");
+    EXPECT_EQ(Cell(6, TypeItem), L"Text");
+    EXPECT_EQ(Cell(6, MinimumItem), L"");
+    EXPECT_EQ(Cell(6, PlotItem), L"3 different texts");
+    EXPECT_EQ(Cell(6, InsideItem), L"");
+}
+
+TEST_F(ProfilerFrameTest, ShowsTheFirstAndTheLastDate) {
+    OpenShipped(L"seattle-weather.csv");
+    EXPECT_EQ(Cell(0, TypeItem), L"Date");
+    EXPECT_EQ(Cell(0, MinimumItem), L"2012-01-01");
+    EXPECT_EQ(Cell(0, MeanItem), L"");
+    EXPECT_EQ(Cell(0, MaximumItem), L"2015-12-31");
+    EXPECT_EQ(Cell(0, PlotItem), L"1461 different dates");
+}
+
+TEST_F(ProfilerFrameTest, ColumnsWithoutAScaleSayWhy) {
+    Frame().OpenPath(Write(L"plain.csv", "same,empty,one,date\n5,,x,2024-01-01\n5,,x,2024-01-01\n5,,x,2024-01-01\n"));
+    EXPECT_EQ(Cell(0, PlotItem), L"All values are the same");
+    EXPECT_EQ(Cell(0, MinimumItem), L"5");
+    EXPECT_EQ(Cell(1, TypeItem), L"Empty");
+    EXPECT_EQ(Cell(1, PlotItem), L"No values");
+    EXPECT_EQ(Cell(2, PlotItem), L"1 text");
+    EXPECT_EQ(Cell(3, PlotItem), L"1 date");
+}
+
+TEST_F(ProfilerFrameTest, AFileThatCannotBeOpenedLeavesTheFormerOne) {
+    OpenShipped(L"penguins.csv");
+    Frame().OpenPath(L"Z:\\no\\such.csv");
+    EXPECT_THAT(ProfilerTestApp::Get().m_boxes,
+                ElementsAre(L"Z:\\no\\such.csv cannot be found. Check its name and its folder."));
+    EXPECT_EQ(Status(), ProfilerTestApp::Get().m_boxes[0]);
+    EXPECT_EQ(Title(), L"penguins.csv \u2013 Column Profiler");
+    EXPECT_EQ(Rows(), 7);
+}
+
+TEST_F(ProfilerFrameTest, AnEmptyFileIsToldInABox) {
+    Frame().OpenPath(Write(L"empty.csv", ""));
+    EXPECT_THAT(ProfilerTestApp::Get().m_boxes,
+                ElementsAre(L"empty.csv, line 1: the file is empty. Its first line must name the columns."));
+    EXPECT_EQ(Title(), L"Column Profiler");
+}
+
+TEST_F(ProfilerFrameTest, OddRowsAreToldInTheStatusBarOnly) {
+    Frame().OpenPath(Write(L"odd.csv", "a,b\n1,2\n3\n"));
+    EXPECT_THAT(ProfilerTestApp::Get().m_boxes, IsEmpty());
+    EXPECT_EQ(Status(), L"odd.csv, line 3: 1 field where the header has 2. The others count as missing.");
+    EXPECT_EQ(Rows(), 2);
+}
+
+TEST_F(ProfilerFrameTest, OnlyAHeaderShowsItsColumns) {
+    Frame().OpenPath(Write(L"header.csv", "a,b,c\n"));
+    EXPECT_THAT(ProfilerTestApp::Get().m_boxes, IsEmpty());
+    EXPECT_EQ(Status(), L"header.csv, line 1: only a header, no rows below it. There is nothing to compute.");
+    ASSERT_EQ(Rows(), 3);
+    EXPECT_EQ(Cell(0, CountItem), L"0");
+    EXPECT_EQ(Cell(0, TypeItem), L"Empty");
+}
+
+TEST_F(ProfilerFrameTest, MessagesCanBeLookedAtAndHidden) {
+    Frame().OpenPath(Write(L"odd.csv", "a,b\n1,2\n3\n"));
+    EXPECT_EQ(MenuState(1, ID_VIEW_MESSAGES) & MF_CHECKED, 0u);
+    Command(ID_VIEW_MESSAGES);
+    EXPECT_NE(MenuState(1, ID_VIEW_MESSAGES) & MF_CHECKED, 0u);
+    HWND window = ::FindWindow(nullptr, L"Messages about odd.csv");
+    ASSERT_NE(window, nullptr);
+    CString text;
+    CWnd::FromHandle(::GetWindow(window, GW_CHILD))->GetWindowText(text);
+    EXPECT_STREQ(text, L"odd.csv, line 3: 1 field where the header has 2. The others count as missing.\r\n");
+    Command(ID_VIEW_MESSAGES);
+    EXPECT_FALSE(::IsWindowVisible(window));
+}
+
+TEST_F(ProfilerFrameTest, ReloadingReadsTheFileAgain) {
+    EXPECT_NE(MenuState(0, ID_FILE_RELOAD) & MF_GRAYED, 0u);
+    Frame().OpenPath(Write(L"grows.csv", "a\n1\n2\n"));
+    EXPECT_EQ(MenuState(0, ID_FILE_RELOAD) & MF_GRAYED, 0u);
+    EXPECT_EQ(Cell(0, CountItem), L"2");
+    Write(L"grows.csv", "a\n1\n2\n3\n");
+    Command(ID_FILE_RELOAD);
+    EXPECT_EQ(Cell(0, CountItem), L"3");
+}
+
+/// What the system sends when files are dropped. The receiver frees it.
+HDROP Drop(const std::vector<CString>& paths) {
+    std::wstring names;
+    for (const CString& path : paths)
+        names += std::wstring(path) + L'\0';
+    names += L'\0';
+    const std::size_t bytes = names.size() * sizeof(wchar_t);
+    HGLOBAL memory = ::GlobalAlloc(GHND, sizeof(DROPFILES) + bytes);
+    auto* header = static_cast<DROPFILES*>(::GlobalLock(memory));
+    header->pFiles = sizeof(DROPFILES);
+    header->fWide = TRUE;
+    std::memcpy(header + 1, names.data(), bytes);
+    ::GlobalUnlock(memory);
+    return static_cast<HDROP>(memory);
+}
+
+TEST_F(ProfilerFrameTest, ADroppedFileIsOpened) {
+    const CString path = Write(L"dropped.csv", "a\n1\n2\n");
+    Frame().SendMessage(WM_DROPFILES, reinterpret_cast<WPARAM>(Drop({path})));
+    EXPECT_EQ(Title(), L"dropped.csv \u2013 Column Profiler");
+    EXPECT_EQ(Status(), L"dropped.csv is open.");
+}
+
+TEST_F(ProfilerFrameTest, OfSeveralDroppedFilesTheFirstIsOpened) {
+    const CString first = Write(L"first.csv", "a\n1\n");
+    const CString second = Write(L"second.csv", "b\n1\n");
+    Frame().SendMessage(WM_DROPFILES, reinterpret_cast<WPARAM>(Drop({first, second})));
+    EXPECT_EQ(Title(), L"first.csv \u2013 Column Profiler");
+    EXPECT_EQ(Status(), L"Only the first of the dropped files was opened: the program shows one at a time.");
+}
+
+// --- Limits ----------------------------------------------------------------------------------------------------------
+
+class LimitsTest : public ProfilerFrameTest {
+protected:
+    void SetUp() override {
+        ProfilerFrameTest::SetUp();
+        Frame().OpenPath(Write(L"ten.csv", "n\n1\n2\n3\n4\n5\n6\n7\n8\n9\n10\n"));
+    }
+
+    /// Ends a drag as the plot does.
+    void Dragged(float lower, float target, float upper) {
+        auto* plot = dynamic_cast<ColumnPlotItem*>(Grid().GetRows()->GetAt(0)->GetRecord()->GetItem(PlotItem));
+        ASSERT_NE(plot, nullptr);
+        plot->m_valueChanged(lower, target, upper);
+    }
+};
+
+TEST_F(LimitsTest, BeginAtTheMeanPlusAndMinusTheStandardDeviation) {
+    EXPECT_EQ(Cell(0, InsideItem), L"60.0 %"); // 5.5 - 3.03 to 5.5 + 3.03 holds 3 to 8
+}
+
+TEST_F(LimitsTest, TheShareFollowsTheDraggedLimit) {
+    Dragged(1.5f, -99.0f, -99.0f);
+    EXPECT_EQ(Cell(0, InsideItem), L"70.0 %");
+    EXPECT_EQ(Status(), L"n: 70.0 % of the values lie from 1.5 to 8.52765.");
+    Dragged(-99.0f, -99.0f, 9.0f);
+    EXPECT_EQ(Cell(0, InsideItem), L"80.0 %");
+    EXPECT_EQ(Status(), L"n: 80.0 % of the values lie from 1.5 to 9.");
+}
+
+TEST_F(LimitsTest, ATargetTakesThePassedLimitAlong) {
+    Dragged(-99.0f, 9.5f, -99.0f);
+    EXPECT_EQ(Status(), L"n: 70.0 % of the values lie from 2.47235 to 9.5.");
+    Dragged(-99.0f, 2.0f, -99.0f);
+    EXPECT_EQ(Status(), L"n: 80.0 % of the values lie from 2 to 9.5.");
+}
+
+TEST_F(LimitsTest, ReloadingPutsThemBack) {
+    Dragged(1.5f, -99.0f, -99.0f);
+    Command(ID_FILE_RELOAD);
+    EXPECT_EQ(Cell(0, InsideItem), L"60.0 %");
+}
+
+// --- Themes, layout, language
+// -----------------------------------------------------------------------------------------
+
+TEST_F(ProfilerFrameTest, AThemeChangesTheGridAndKeepsItsTexts) {
+    EXPECT_NE(MenuState(1, ID_VIEW_THEME_FIRST + 11) & MF_CHECKED, 0u);
+    Command(ID_VIEW_THEME_FIRST + 10);
+    EXPECT_EQ(Grid().GetPaintManager()->GetTheme(), xtpReportThemeOffice2013);
+    EXPECT_STREQ(Grid().GetPaintManager()->GetNoItemText(), L"Open a CSV file (Ctrl+O) or drop one here.");
+    EXPECT_EQ(MenuState(1, ID_VIEW_THEME_FIRST + 11) & MF_CHECKED, 0u);
+    EXPECT_NE(MenuState(1, ID_VIEW_THEME_FIRST + 10) & MF_CHECKED, 0u);
+    EXPECT_EQ(Status(), L"Theme: Office 2013");
+}
+
+TEST_F(ProfilerFrameTest, TheLayoutIsKept) {
+    Grid().GetColumns()->Find(CString(L"Missing"))->SetVisible(FALSE);
+    Grid().GetColumns()->Find(CString(L"Plot"))->SetWidth(300);
+    Restart();
+    EXPECT_FALSE(Grid().GetColumns()->Find(CString(L"Missing"))->IsVisible());
+    EXPECT_TRUE(Grid().GetColumns()->Find(CString(L"Count"))->IsVisible());
+    EXPECT_EQ(Grid().GetColumns()->Find(CString(L"Plot"))->GetWidth(), 300);
+}
+
+TEST_F(ProfilerFrameTest, TheNameColumnCannotBeHiddenByTheUser) {
+    EXPECT_FALSE(Grid().GetColumns()->Find(CString(L"Name"))->IsAllowRemove());
+}
+
+TEST_F(ProfilerFrameTest, ThePlaceOfTheWindowIsKept) {
+    Frame().MoveWindow(30, 20, 900, 500);
+    Restart();
+    CRect place;
+    Frame().GetWindowRect(&place);
+    EXPECT_EQ(place, CRect(30, 20, 930, 520));
+}
+
+TEST_F(ProfilerFrameTest, APlaceOutOfSightIsNotRestored) {
+    Frame().MoveWindow(30, 20, 900, 500);
+    Close();
+    LPBYTE data = nullptr;
+    UINT size = 0;
+    ASSERT_TRUE(ProfilerTestApp::Get().GetProfileBinary(L"Window", L"Placement", &data, &size));
+    auto* placement = reinterpret_cast<WINDOWPLACEMENT*>(data);
+    ::OffsetRect(&placement->rcNormalPosition, 20000, 0);
+    ProfilerTestApp::Get().WriteProfileBinary(L"Window", L"Placement", data, size);
+    delete[] data;
+    CreateFrame();
+    CRect place;
+    Frame().GetWindowRect(&place);
+    EXPECT_NE(::MonitorFromRect(&place, MONITOR_DEFAULTTONULL), nullptr);
+}
+
+TEST_F(ProfilerFrameTest, TextsAreInTheLanguageOfTheCatalogue) {
+    wchar_t program[MAX_PATH] = L"";
+    ::GetModuleFileName(nullptr, program, MAX_PATH);
+    const std::filesystem::path folder = std::filesystem::path(program).parent_path() / L"locale";
+    ASSERT_TRUE(SetLanguage(L"de", folder.c_str()));
+    Restart();
+    Frame().OpenPath(Write(L"odd.csv", "a,b\n1,2\n3,4\nx\n"));
+    EXPECT_STREQ(Grid().GetColumns()->Find(CString(L"Name"))->GetCaption(), L"Spalte");
+    EXPECT_EQ(Cell(0, TypeItem), L"Zahl");
+    EXPECT_THAT(Status(), testing::StartsWith(L"odd.csv, Zeile 4: 1 Feld"));
+    Frame().OpenPath(L"Z:\\no\\such.csv");
+    EXPECT_THAT(ProfilerTestApp::Get().m_boxes, ElementsAre(testing::HasSubstr(L"wurde nicht gefunden")));
+    CString menu;
+    Frame().GetMenu()->GetMenuString(0, menu, MF_BYPOSITION);
+    EXPECT_STREQ(menu, L"&Datei");
+    SetLanguage(nullptr, nullptr);
+}
+
+} // namespace

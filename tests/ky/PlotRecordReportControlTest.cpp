@@ -158,6 +158,11 @@ TEST_F(PlotGridTest, ARoutedPointIsPulledIntoTheDrawnRectangle) {
     EXPECT_EQ(cells[1]->m_dragPos, 0.0);
     Move(CPoint(2000, 390));
     EXPECT_EQ(cells[1]->m_dragPos, 1.0);
+    // Also at the cell's own height.
+    Move(CPoint(cells[1]->GetItemRect().left - 30, cells[1]->GetItemRect().CenterPoint().y));
+    EXPECT_EQ(cells[1]->m_dragPos, 0.0);
+    Move(CPoint(cells[1]->GetItemRect().right + 30, cells[1]->GetItemRect().CenterPoint().y));
+    EXPECT_EQ(cells[1]->m_dragPos, 1.0);
     // The right edge itself is outside the rectangle and becomes the right edge at the middle height.
     Move(CPoint(cells[1]->GetItemRect().right, cells[1]->GetItemRect().top));
     EXPECT_EQ(cells[1]->m_dragPos, 1.0);
@@ -274,6 +279,15 @@ TEST_F(PlotGridTest, AReleaseOverARowButNoItemKeepsTheDragRouted) {
     EXPECT_TRUE(cells[0]->m_draggingCenter);
     PreTranslate(WM_KEYDOWN, VK_ESCAPE);
     EXPECT_EQ(Routed(), nullptr);
+}
+
+TEST_F(PlotGridTest, AReleaseAlwaysReleasesTheCapture) {
+    host.grid.SetCapture(); // without a press that the toolkit would know of
+    Release(At(1, 10));
+    EXPECT_FALSE(HasCapture());
+    host.grid.SetCapture();
+    Release(BelowTheLastRow());
+    EXPECT_FALSE(HasCapture());
 }
 
 TEST_F(PlotGridTest, AReleaseBelowTheLastRowClearsTheSelection) {

@@ -120,9 +120,9 @@ void ProfilerFrame::RestorePlacement() {
     if (size != sizeof placement)
         return;
     std::copy_n(data, sizeof placement, reinterpret_cast<BYTE*>(&placement));
-    // A monitor may be gone since: what would be out of sight stays where the system puts new windows.
-    if (placement.length != sizeof placement || ::MonitorFromRect(&placement.rcNormalPosition, 0) == nullptr)
+    if (placement.length != sizeof placement)
         return;
+    // Where a monitor is gone since, the system moves the window into sight.
     AfxGetApp()->m_nCmdShow = placement.showCmd == SW_SHOWMAXIMIZED ? SW_SHOWMAXIMIZED : AfxGetApp()->m_nCmdShow;
     placement.showCmd = SW_HIDE;
     SetWindowPlacement(&placement);

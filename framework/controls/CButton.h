@@ -3,6 +3,7 @@
 
 #include "../windows/CWnd.h"
 
+/// A push button, check box, radio button or group box of the system, as its BS_ style says.
 class KY_FRAMEWORK_API CButton : public CWnd {
     DECLARE_DYNAMIC(CButton)
 public:

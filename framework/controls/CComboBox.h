@@ -3,6 +3,7 @@
 
 #include "../windows/CWnd.h"
 
+/// A combo box of the system. Indices count from 0; CB_ERR (-1) says that there is no such item.
 class KY_FRAMEWORK_API CComboBox : public CWnd {
     DECLARE_DYNAMIC(CComboBox)
 public:

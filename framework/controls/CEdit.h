@@ -3,6 +3,8 @@
 
 #include "../windows/CWnd.h"
 
+/// An edit control of the system. Positions are in characters from 0; -1 as the end of a selection means the text's
+/// end.
 class KY_FRAMEWORK_API CEdit : public CWnd {
     DECLARE_DYNAMIC(CEdit)
 public:

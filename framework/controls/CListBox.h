@@ -3,6 +3,7 @@
 
 #include "../windows/CWnd.h"
 
+/// A list box of the system. Indices count from 0; LB_ERR (-1) says that there is no such item.
 class KY_FRAMEWORK_API CListBox : public CWnd {
     DECLARE_DYNAMIC(CListBox)
 public:

@@ -3,6 +3,7 @@
 
 #include "../windows/CWnd.h"
 
+/// A static text, picture or frame of the system. It does not own the pictures that it shows.
 class KY_FRAMEWORK_API CStatic : public CWnd {
     DECLARE_DYNAMIC(CStatic)
 public:

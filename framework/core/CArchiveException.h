@@ -3,6 +3,7 @@
 
 #include "CException.h"
 
+/// Thrown by CArchive and by what reads from one; `m_cause` says why. Caught as a pointer, ended by Delete.
 class KY_FRAMEWORK_API CArchiveException : public CException {
     DECLARE_DYNAMIC(CArchiveException)
 public:

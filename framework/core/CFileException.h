@@ -3,6 +3,8 @@
 
 #include "CException.h"
 
+/// Thrown by the file classes; `m_cause` says why, `m_lOsError` what the system said. Caught as a pointer, ended by
+/// Delete.
 class KY_FRAMEWORK_API CFileException : public CException {
     DECLARE_DYNAMIC(CFileException)
 public:

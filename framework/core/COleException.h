@@ -3,6 +3,7 @@
 
 #include "CException.h"
 
+/// Carries the HRESULT of a failed COM operation. Caught as a pointer, ended by Delete.
 class KY_FRAMEWORK_API COleException : public CException {
     DECLARE_DYNAMIC(COleException)
 public:

@@ -3,6 +3,7 @@
 
 #include "../windows/CWnd.h"
 
+/// A dialog made from a template resource: modal with DoModal, or modeless with Create.
 class KY_FRAMEWORK_API CDialog : public CWnd {
     DECLARE_DYNAMIC(CDialog)
 public:

@@ -32,6 +32,7 @@ struct AFX_SIZEPARENTPARAMS {
     BOOL bStretch;  ///< Bars fill their side.
 };
 
+/// A bar that a frame lays out along one of its edges before the view gets the rest.
 class KY_FRAMEWORK_API CControlBar : public CWnd {
     DECLARE_DYNAMIC(CControlBar)
 public:

@@ -7,6 +7,7 @@ class CDocument;
 class CFrameWnd;
 class CView;
 
+/// What a frame hands to the windows that it makes inside itself; every member may be null.
 struct CCreateContext {
     CRuntimeClass* m_pNewViewClass = nullptr; ///< The view to create; null for none.
     CDocument* m_pCurrentDoc = nullptr;

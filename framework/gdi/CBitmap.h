@@ -5,6 +5,7 @@
 
 class CDC;
 
+/// Owns a bitmap. It must not be selected into a device context when it is deleted.
 class KY_FRAMEWORK_API CBitmap : public CGdiObject {
     DECLARE_DYNAMIC(CBitmap)
 public:

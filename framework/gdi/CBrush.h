@@ -5,6 +5,7 @@
 
 class CBitmap;
 
+/// Owns a brush: a colour, a hatch or a pattern.
 class KY_FRAMEWORK_API CBrush : public CGdiObject {
     DECLARE_DYNAMIC(CBrush)
 public:

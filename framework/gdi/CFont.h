@@ -5,6 +5,7 @@
 
 class CDC;
 
+/// Owns a font. Heights are logical units, negative for the height of the characters without internal leading.
 class KY_FRAMEWORK_API CFont : public CGdiObject {
     DECLARE_DYNAMIC(CFont)
 public:

@@ -3,6 +3,7 @@
 
 #include "CGdiObject.h"
 
+/// Owns a logical palette.
 class KY_FRAMEWORK_API CPalette : public CGdiObject {
     DECLARE_DYNAMIC(CPalette)
 public:

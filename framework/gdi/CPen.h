@@ -3,6 +3,7 @@
 
 #include "CGdiObject.h"
 
+/// Owns a pen. A width of 0 draws one pixel wide whatever the mapping mode.
 class KY_FRAMEWORK_API CPen : public CGdiObject {
     DECLARE_DYNAMIC(CPen)
 public:

@@ -4,6 +4,7 @@
 #include "../core/Geometry.h"
 #include "CGdiObject.h"
 
+/// Owns a region. Rectangles exclude their right and bottom edges.
 class KY_FRAMEWORK_API CRgn : public CGdiObject {
     DECLARE_DYNAMIC(CRgn)
 public:

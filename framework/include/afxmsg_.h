@@ -27,6 +27,7 @@ struct AFX_MESSAGE {
 /// Calls one handler. False: the handler passes the command or notification on along its route.
 using AFX_THUNK = bool (*)(CCmdTarget* target, AFX_MESSAGE& message);
 
+/// One line of a message map: which message it is for, and the typed thunk that calls the handler.
 struct AFX_MSGMAP_ENTRY {
     UINT nMessage; ///< The message; WM_COMMAND for commands; zero ends the table.
     UINT nCode;    ///< Notification code (16 bits), CN_COMMAND or CN_UPDATE_COMMAND_UI; zero for plain messages.

@@ -27,6 +27,7 @@ constexpr DWORD MLF_SHOWONIDLE = 0x0004;
 /// Hands one message to an object: the one place where an exception that leaves a handler ends.
 KY_FRAMEWORK_API LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam);
 
+/// A window as an object; see the top of this file for handles and coordinates.
 class KY_FRAMEWORK_API CWnd : public CCmdTarget {
     DECLARE_DYNCREATE(CWnd)
 public:

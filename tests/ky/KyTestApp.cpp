@@ -10,9 +10,7 @@ constexpr const wchar_t* company = L"Ky Controls Tests";
 
 KyTestApp theApp;
 
-LPCTSTR Duplicate(const CString& text) {
-    return _wcsdup(text.GetString());
-}
+LPCTSTR Duplicate(const CString& text) { return _wcsdup(text.GetString()); }
 
 void Release(LPCTSTR& text) {
     std::free(const_cast<LPTSTR>(text));
@@ -23,9 +21,7 @@ void Release(LPCTSTR& text) {
 
 KyTestApp::KyTestApp() : CWinApp(_T("KyTest")) {}
 
-KyTestApp& KyTestApp::Get() {
-    return theApp;
-}
+KyTestApp& KyTestApp::Get() { return theApp; }
 
 void KyTestApp::UseEmptyRegistry() {
     SetRegistryKey(company);

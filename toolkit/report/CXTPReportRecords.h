@@ -25,7 +25,7 @@ public:
 
     /// Records there are; 0 in virtual mode.
     int GetCount() const;
-    CXTPReportRecord* GetAt(int nIndex) const; ///< null when out of range
+    CXTPReportRecord* GetAt(int nIndex) const;          ///< null when out of range
     int IndexOf(const CXTPReportRecord* pRecord) const; ///< −1 when absent
     CXTPReportControl* GetControl() const { return m_pControl; }
 

@@ -83,6 +83,7 @@ constexpr UINT XTP_NM_REPORT_SORTORDERCHANGED = XTP_NM_REPORT_FIRST - 4;
 constexpr UINT XTP_NM_REPORT_COLUMNORDERCHANGED = XTP_NM_REPORT_FIRST - 5;
 constexpr UINT XTP_NM_REPORT_COLUMNWIDTHCHANGED = XTP_NM_REPORT_FIRST - 6;
 
+/// What a notification about a cell carries. The pointers are valid until the owner returns.
 struct XTP_NM_REPORTRECORDITEM {
     NMHDR hdr;
     CXTPReportRow* pRow;
@@ -92,6 +93,7 @@ struct XTP_NM_REPORTRECORDITEM {
     POINT pt;       ///< client coordinates
 };
 
+/// What a notification about a column carries.
 struct XTP_NM_REPORTCOLUMN {
     NMHDR hdr;
     CXTPReportColumn* pColumn;

@@ -53,8 +53,7 @@ KyBarChartRecordItem::KyBarChartRecordItem() = default;
 
 KyBarChartRecordItem::~KyBarChartRecordItem() = default;
 
-// --- Values and colours
-// -----------------------------------------------------------------------------------------------
+// --- Values and colours ----------------------------------------------------------------------------------------------
 
 void KyBarChartRecordItem::SetError(float target, float min, float max, float lower, float upper, float errorLow,
                                     float errorHigh, float optimizerLow, float optimizerHigh) {
@@ -121,8 +120,7 @@ double KyBarChartRecordItem::GetMin() const { return m_scaleMin; }
 
 double KyBarChartRecordItem::GetMax() const { return m_scaleMax; }
 
-// --- Mouse
-// ------------------------------------------------------------------------------------------------------------
+// --- Mouse -----------------------------------------------------------------------------------------------------------
 
 int KyBarChartRecordItem::HitTestHyperlink(CPoint) { return plotcell::HitTestHyperlink(*this); }
 
@@ -131,8 +129,7 @@ CString KyBarChartRecordItem::GetInfoTip() const {
     return value ? TranslateFormat("Plot value", "Value: %1%.", *value) : CString();
 }
 
-// --- Drawing
-// ----------------------------------------------------------------------------------------------------------
+// --- Drawing ---------------------------------------------------------------------------------------------------------
 
 void KyBarChartRecordItem::OnDrawCaption(XTP_REPORTRECORDITEM_DRAWARGS* args, XTP_REPORTRECORDITEM_METRICS*) {
     if (!plotcell::CanDraw(args))

@@ -34,8 +34,7 @@ KyPlotRecordItem::KyPlotRecordItem() : CXTPReportRecordItemText(_T("")) { SetBac
 
 KyPlotRecordItem::~KyPlotRecordItem() = default;
 
-// --- Properties
-// -------------------------------------------------------------------------------------------------------
+// --- Properties ------------------------------------------------------------------------------------------------------
 
 void KyPlotRecordItem::SetAllowInteraction(bool allow) { m_allowInteraction = allow; }
 
@@ -59,8 +58,7 @@ bool KyPlotRecordItem::IsCenterDragging() const { return m_draggingCenter && m_d
 
 int KyPlotRecordItem::HitTestHyperlink(CPoint) { return -1; }
 
-// --- Dragging
-// ---------------------------------------------------------------------------------------------------------
+// --- Dragging --------------------------------------------------------------------------------------------------------
 
 bool KyPlotRecordItem::IsDragging() const { return m_draggingLower || m_draggingUpper || m_draggingCenter; }
 
@@ -227,8 +225,7 @@ bool KyPlotRecordItem::GetAllowInteraction(CPoint, bool& capture) const {
     return m_allowInteraction;
 }
 
-// --- Images
-// -----------------------------------------------------------------------------------------------------------
+// --- Images ----------------------------------------------------------------------------------------------------------
 
 void* KyPlotRecordItem::CreateDIB(CXTPReportControl& control, int width, int height) {
     if (width <= 0 || height <= 0)

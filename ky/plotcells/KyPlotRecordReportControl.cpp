@@ -21,8 +21,7 @@ KyPlotRecordReportControl::KyPlotRecordReportControl() = default;
 
 KyPlotRecordReportControl::~KyPlotRecordReportControl() { RouteDragTo(nullptr); }
 
-// --- The routed drag
-// --------------------------------------------------------------------------------------------------
+// --- The routed drag -------------------------------------------------------------------------------------------------
 
 /// Routes a drag to the cell, or to none. The cell stays in memory while it is routed to: the host may remove its
 /// record at any time, also during the drag.
@@ -60,8 +59,7 @@ CPoint KyPlotRecordReportControl::CursorPosition() const {
 
 void KyPlotRecordReportControl::OnPlotRecordItemDragCancelled() {}
 
-// --- Mouse
-// ------------------------------------------------------------------------------------------------------------
+// --- Mouse -----------------------------------------------------------------------------------------------------------
 
 void KyPlotRecordReportControl::OnLButtonDown(UINT flags, CPoint point) {
     KyReportControl::OnLButtonDown(flags, point);
@@ -152,8 +150,7 @@ BOOL KyPlotRecordReportControl::OnSetCursor(CWnd* wnd, UINT hitTest, UINT messag
     return KyReportControl::OnSetCursor(wnd, hitTest, message);
 }
 
-// --- Keyboard and commands
-// --------------------------------------------------------------------------------------------
+// --- Keyboard and commands -------------------------------------------------------------------------------------------
 
 BOOL KyPlotRecordReportControl::PreTranslateMessage(MSG* msg) {
     // Intended: only wParam is looked at, so any message that carries 27 there cancels a routed drag.

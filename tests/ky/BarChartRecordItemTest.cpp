@@ -128,8 +128,7 @@ void FillGradient(PixelImage& image, int lower, int center, int upper) {
 
 } // namespace
 
-// --- Class and values
-// -------------------------------------------------------------------------------------------------
+// --- Class and values ------------------------------------------------------------------------------------------------
 
 TEST(BarChartRecordItem, IsCreatedByItsRunTimeClass) {
     std::unique_ptr<CObject> object(RUNTIME_CLASS(KyBarChartRecordItem)->CreateObject());
@@ -220,8 +219,7 @@ TEST(BarChartRecordItem, ItsFirstHyperlinkIsEverywhere) {
     EXPECT_EQ(bar.HitTestHyperlink(CPoint(-5000, 5)), 0);
 }
 
-// --- Tool tip
-// ---------------------------------------------------------------------------------------------------------
+// --- Tool tip --------------------------------------------------------------------------------------------------------
 
 TEST(BarChartRecordItem, TheTipTellsTheValueUnderThePointer) {
     ProbeBar bar;
@@ -249,8 +247,7 @@ TEST(BarChartRecordItem, TheTipWritesSmallValuesWithATwoDigitExponent) {
     EXPECT_EQ(bar.GetInfoTip(), CString(L"Value: 1e-05."));
 }
 
-// --- Picture: bar
-// -----------------------------------------------------------------------------------------------------
+// --- Picture: bar ----------------------------------------------------------------------------------------------------
 
 TEST_F(BarChartTest, WithTheDefaultMarginTheMarksStandAtTheirFractions) {
     // w = 398: red marks at 60.7 and 339.3, the bar from 144.28 to 255.72, the target at 200.
@@ -393,8 +390,7 @@ TEST_F(BarChartTest, ArrowsLeaveTheTextColourBlack) {
     EXPECT_EQ(surface.Dc().GetTextColor(), Black);
 }
 
-// --- Picture: whiskers and marks
-// --------------------------------------------------------------------------------------
+// --- Picture: whiskers and marks -------------------------------------------------------------------------------------
 
 TEST_F(BarChartTest, WhiskersReachFromTheirEndsToTheTarget) {
     bar.SetError(50, 0, 100, M, M, 20, 90, M, M);
@@ -442,8 +438,7 @@ TEST_F(BarChartTest, TheTargetHasItsOwnColourAndCoversTheRest) {
     ExpectPicture(expected.Fill(161, 1, 241, 21, BarColor).Fill(200, 1, 202, 21, RGB(1, 2, 200)));
 }
 
-// --- Picture: during a drag
-// -------------------------------------------------------------------------------------------
+// --- Picture: during a drag ------------------------------------------------------------------------------------------
 
 TEST_F(BarChartTest, ADraggedLowerEndIsMirroredAndOnlyTheLowerValueChanges) {
     SetBar(25, 50, 75);
@@ -490,8 +485,7 @@ TEST_F(BarChartTest, ADraggedTargetOfATargetDistributionLeavesTheBar) {
     ExpectPicture(expected.Fill(101, 1, 301, 21, BarColor).Fill(240, 1, 242, 21, Gold));
 }
 
-// --- Picture: surroundings
-// --------------------------------------------------------------------------------------------
+// --- Picture: surroundings -------------------------------------------------------------------------------------------
 
 namespace {
 

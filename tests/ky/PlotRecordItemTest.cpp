@@ -49,8 +49,7 @@ protected:
 
 } // namespace
 
-// --- Construction and properties
-// --------------------------------------------------------------------------------------
+// --- Construction and properties -------------------------------------------------------------------------------------
 
 TEST(PlotRecordItem, StartsWithoutValuesAndWithTheStandardLook) {
     struct Untouched : KyPlotRecordItem {
@@ -119,8 +118,7 @@ TEST(PlotRecordItem, HasNoHyperlinkAnywhere) {
     EXPECT_EQ(cell.HitTestHyperlink(CPoint(5, 5)), -1);
 }
 
-// --- What a press drags
-// -----------------------------------------------------------------------------------------------
+// --- What a press drags ----------------------------------------------------------------------------------------------
 
 namespace {
 
@@ -223,8 +221,7 @@ TEST_F(PlotRecordItemTest, ThePressIsMeasuredInTheCellDeflatedByOnePixel) {
     EXPECT_EQ(cell.m_dragPos, static_cast<double>(33.0f / 100.0f));
 }
 
-// --- Moving
-// -----------------------------------------------------------------------------------------------------------
+// --- Moving ----------------------------------------------------------------------------------------------------------
 
 TEST_F(PlotRecordItemTest, AnIdleMoveOnlyStoresWhereThePointerIs) {
     cell.SetValues(30, 50, 70);
@@ -337,8 +334,7 @@ TEST(PlotRecordItem, AMoveBeforeTheFirstDrawingIsHarmless) {
     EXPECT_EQ(::GetCursor(), StandardCursor(IDC_ARROW));
 }
 
-// --- Ending a drag
-// ----------------------------------------------------------------------------------------------------
+// --- Ending a drag ---------------------------------------------------------------------------------------------------
 
 namespace {
 
@@ -513,8 +509,7 @@ TEST_F(PlotRecordItemTest, HugeScalesAreHarmless) {
     EXPECT_EQ(WhatIsDragged(cell), Dragged::Nothing);
 }
 
-// --- Cancelling
-// -------------------------------------------------------------------------------------------------------
+// --- Cancelling ------------------------------------------------------------------------------------------------------
 
 TEST_F(PlotRecordItemTest, CancellingRestoresTheDraggedValue) {
     for (const int press : {30, 50, 70}) {
@@ -545,8 +540,7 @@ TEST_F(PlotRecordItemTest, CancellingWithoutADragKeepsTheValues) {
     EXPECT_EQ(cell.m_dragPos, -99.0);
 }
 
-// --- Cursor
-// -----------------------------------------------------------------------------------------------------------
+// --- Cursor ----------------------------------------------------------------------------------------------------------
 
 namespace {
 

@@ -67,8 +67,7 @@ TEST(PlotRecordReportControl, StartsWithNoDragRouted) {
     EXPECT_EQ(grid.m_rcDragItem, CRect(0, 0, 0, 0));
 }
 
-// --- Press
-// ------------------------------------------------------------------------------------------------------------
+// --- Press -----------------------------------------------------------------------------------------------------------
 
 TEST_F(PlotGridTest, APressOnAMarkRoutesTheDrag) {
     Press(At(1, 50));
@@ -132,8 +131,7 @@ TEST_F(PlotGridTest, ACellThatWantsNoCaptureBeginsItsDragUnrouted) {
     EXPECT_TRUE(cell->m_draggingCenter); // ended only by what the cell itself does
 }
 
-// --- Move
-// -------------------------------------------------------------------------------------------------------------
+// --- Move ------------------------------------------------------------------------------------------------------------
 
 TEST_F(PlotGridTest, AMoveReachesTheCellUnderIt) {
     Move(At(2, 25));
@@ -190,8 +188,7 @@ TEST_F(PlotGridTest, EachMoveIsDrawn) {
     Release(At(1, 55));
 }
 
-// --- Release
-// ----------------------------------------------------------------------------------------------------------
+// --- Release ---------------------------------------------------------------------------------------------------------
 
 TEST_F(PlotGridTest, AReleaseOverTheSameCellApplies) {
     Reports reports(*cells[1]);
@@ -310,8 +307,7 @@ TEST_F(PlotGridTest, APressOnAnotherCellEndsADragThatWasLeftRouted) {
     Release(At(2, 50));
 }
 
-// --- Leave
-// ------------------------------------------------------------------------------------------------------------
+// --- Leave -----------------------------------------------------------------------------------------------------------
 
 TEST_F(PlotGridTest, LeavingAppliesTheDragAtThePointersPlaceWithoutPulling) {
     Reports reports(*cells[1]);
@@ -344,8 +340,7 @@ TEST_F(PlotGridTest, LeavingWhileASlotRunsDoesNotEndTheDragTwice) {
     EXPECT_EQ(reports.all.size(), 1u);
 }
 
-// --- Escape
-// -----------------------------------------------------------------------------------------------------------
+// --- Escape ----------------------------------------------------------------------------------------------------------
 
 TEST_F(PlotGridTest, EscapeRestoresTheValueAndTellsOnce) {
     Reports reports(*cells[1]);
@@ -389,8 +384,7 @@ TEST_F(PlotGridTest, EscapeWithoutADragIsNotTold) {
     EXPECT_EQ(host.grid.cancelled, 0);
 }
 
-// --- Cursor
-// -----------------------------------------------------------------------------------------------------------
+// --- Cursor ----------------------------------------------------------------------------------------------------------
 
 TEST_F(PlotGridTest, ThePlotCellUnderThePointerChoosesTheCursor) {
     PutCursor(At(1, 50));
@@ -429,8 +423,7 @@ TEST_F(PlotGridTest, EscapeChoosesTheCursorAtOnce) {
     Release(At(1, 50));
 }
 
-// --- Commands, lifetime
-// -----------------------------------------------------------------------------------------------
+// --- Commands, lifetime ----------------------------------------------------------------------------------------------
 
 TEST_F(PlotGridTest, CutAndPasteAreOffWhateverIsSelected) {
     EXPECT_FALSE(host.grid.CanCut());

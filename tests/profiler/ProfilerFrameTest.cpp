@@ -196,8 +196,7 @@ TEST_F(LimitsTest, ReloadingPutsThemBack) {
     EXPECT_EQ(Cell(0, InsideItem), L"60.0 %");
 }
 
-// --- Themes, layout, language
-// -----------------------------------------------------------------------------------------
+// --- Themes, layout, language ----------------------------------------------------------------------------------------
 
 TEST_F(ProfilerFrameTest, AThemeChangesTheGridAndKeepsItsTexts) {
     EXPECT_NE(MenuState(1, ID_VIEW_THEME_FIRST + 11) & MF_CHECKED, 0u);

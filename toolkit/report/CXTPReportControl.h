@@ -56,8 +56,7 @@ public:
     virtual void OnSelectionChanged(); ///< tells the owner (XTP_NM_REPORT_SELCHANGED)
     BOOL HasFocus() const;
 
-    // --- Scrolling
-    // ----------------------------------------------------------------------------------------------------
+    // --- Scrolling ---------------------------------------------------------------------------------------------------
     int GetTopRowIndex() const;
     void SetTopRow(int nIndex);
     int GetLeftOffset() const; ///< pixels scrolled sideways
@@ -65,8 +64,7 @@ public:
     void EnsureVisible(CXTPReportRow* pRow);
     int GetFullyVisibleRowCount() const; ///< whole rows that fit, at least 1
 
-    // --- Drawing
-    // ------------------------------------------------------------------------------------------------------
+    // --- Drawing -----------------------------------------------------------------------------------------------------
     void RedrawControl();                      ///< asks for a redraw of everything; requests coalesce
     void RedrawRow(const CXTPReportRow* pRow); ///< asks for a redraw of one row
     /// Lays out header, columns and scroll bars again and redraws.
@@ -95,8 +93,7 @@ public:
 
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
-    // --- Called by the model as it changes
-    // ----------------------------------------------------------------------------
+    // --- Called by the model as it changes ---------------------------------------------------------------------------
     /// The row at that index was taken out, because its record is being deleted: focus, top row and scroll bars follow.
     /// The selection has already lost it. The rows below have moved up by one.
     void OnRowRemoved(int nRowIndex);

@@ -19,8 +19,7 @@ constexpr UINT AutoScrollInterval = 50;
 
 } // namespace
 
-// --- What is under the pointer
-// ----------------------------------------------------------------------------------------
+// --- What is under the pointer ---------------------------------------------------------------------------------------
 
 CellHit CXTPReportControl::Impl::HitCell(CPoint point) const {
     CellHit hit;
@@ -180,8 +179,7 @@ void CXTPReportControl::OnLButtonDblClk(UINT nFlags, CPoint point) {
         m_impl->press.isClick = false;
 }
 
-// --- Selecting by dragging
-// --------------------------------------------------------------------------------------------
+// --- Selecting by dragging -------------------------------------------------------------------------------------------
 
 void CXTPReportControl::Impl::TrackRowSelection(CPoint point) {
     press.lastPoint = point;

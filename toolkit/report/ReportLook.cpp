@@ -12,8 +12,7 @@ constexpr LookColor Rgb(int hex) { return LookColor::Rgb(hex); }
 constexpr LookColor Sys(int index) { return LookColor::System(index); }
 constexpr LookColor None = LookColor::None();
 
-// --- Headers; the order is that of Role from Header on
-// ----------------------------------------------------------------
+// --- Headers; the order is that of Role from Header on ---------------------------------------------------------------
 
 constexpr ColumnLook ColumnLooks[] = {
     {xtpReportColumnShaded,
@@ -67,8 +66,7 @@ constexpr HeaderColors Office2013Header = {
     Rgb(0x444444), Rgb(0x777777), // text, arrow
 };
 
-// --- Bodies; the order is that of Role up to Header
-// -------------------------------------------------------------------
+// --- Bodies; the order is that of Role up to Header ------------------------------------------------------------------
 
 constexpr BodyColors ClassicBody = {
     Sys(COLOR_WINDOW),

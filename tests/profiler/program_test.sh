@@ -87,6 +87,21 @@ expect_moved() {
     fi
 }
 
+# expect_value X Y MINIMUM MAXIMUM TOLD PURPOSE: the value told is the one at X on the scale that the red marks of line Y
+# show, give or take a pixel. A mark covers the pixel left of its place and the one at it.
+expect_value() {
+    local left right
+    left=$(($(plot_find "$2" "$plot_scale" first) + 1))
+    right=$(plot_find "$2" "$plot_scale" last)
+    if awk -v x="$1" -v l="$left" -v r="$right" -v min="$3" -v max="$4" -v told="$5" 'BEGIN {
+            pixel = (max - min) / (r - l); off = told - (min + (x - l) * pixel)
+            exit !(off < 1.5 * pixel && off > -1.5 * pixel) }'; then
+        printf 'ok: %s\n' "$6"
+    else
+        fail "$6: $5 told at $1 between $left and $right"
+    fi
+}
+
 # point_nowhere: takes the pointer to where no header gets hot and no tip covers a plot.
 point_nowhere() {
     x_move 400 500
@@ -129,6 +144,7 @@ drag_each_mark() {
     expect_moved "$x" "$after" -25 "the lower end follows the pointer"
     x_release
     expect_share 3 "the share follows the lower limit"
+    expect_value $((x - 25)) "$y" 32.1 59.6 "$lower" "the limit is the value under the pointer"
 
     x=$(plot_find "$y" "$plot_bar" last)
     x_drag "$x" "$y" $((x + 25)) "$y"
@@ -280,6 +296,17 @@ expect box '.* is a folder\. Choose a CSV file in it\.' "a folder is told"
 x_key Return
 expect status '.* is a folder\. Choose a CSV file in it\.' "and the program goes on"
 x_close
+
+# Reading this takes some seconds, and Escape ends it.
+big=$x_out/big.csv
+{ echo 'a,b,c,d' && yes '123.456789012,123.456789012,123.456789012,123.456789012'; } 2>/dev/null |
+    head -c 250M >"$big" || true
+start "$(ky_windows_path "$big")"
+x_key Escape
+expect status 'Cancelled: the file was not opened\.' "Escape gives up reading"
+expect title 'Column Profiler' "and no file is open"
+x_close
+rm "$big"
 
 if [ "$failures" -gt 0 ]; then
     printf '%s expectations failed; pictures are in %s\n' "$failures" "$x_out" >&2

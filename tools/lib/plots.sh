@@ -1,4 +1,4 @@
-# shellcheck shell=bash
+# shellcheck shell=bash disable=SC2034 # The colours are for those who source it.
 # Finds the marks of Column Profiler's plots on the screen. Source it after x.sh.
 
 # The colours that the marks have, and no other part of the window.

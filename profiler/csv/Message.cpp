@@ -1,4 +1,4 @@
-// Sentences about a file: choosing the form, filling in the placeholders, keeping their number within reason.
+// Sentences about a file: choosing the form, filling in the places, keeping their number within reason.
 #include "csv/Message.h"
 
 #include <algorithm>
@@ -7,12 +7,12 @@
 namespace csv {
 
 std::string FillIn(const std::string& text, const std::vector<std::string>& arguments) {
-    // No format library: a wrong placeholder in a translated text must not make the program stop.
+    // No format library: a wrong place in a translated text must not make the program stop.
     std::string result;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool placeholder =
+        const bool place =
             text[i] == '%' && i + 2 < text.size() && text[i + 1] >= '1' && text[i + 1] <= '9' && text[i + 2] == '%';
-        if (!placeholder) {
+        if (!place) {
             result += text[i];
             continue;
         }

@@ -17,13 +17,13 @@ enum class Severity {
 struct Message {
     Severity severity = Severity::Warning;
     std::size_t line = 0;               ///< 1-based line of the file; 0 when the whole file is meant
-    const char* literal = "";           ///< English text with positional placeholders %1%, %2%, ...
+    const char* literal = "";           ///< English text with positional places %1%, %2%, ...
     const char* plural = nullptr;       ///< the text for every `number` but 1; null when there is only one form
     std::size_t number = 1;             ///< decides between `literal` and `plural`
-    std::vector<std::string> arguments; ///< UTF-8, in the order of the placeholders
+    std::vector<std::string> arguments; ///< UTF-8, in the order of the places
 };
 
-/// Gives the user's wording of an English text; returns UTF-8 with the placeholders still in it.
+/// Gives the user's wording of an English text; returns UTF-8 with the places still in it.
 using Translator = std::function<std::string(const char* text)>;
 
 /// Marks a text for the message catalogue; it is translated later, by the `Translator`.
@@ -35,8 +35,8 @@ std::string Text(const Message& message);
 /// The sentence in the translator's language.
 std::string Text(const Message& message, const Translator& translate);
 
-/// Replaces the placeholders %1% to %9% by the arguments. A placeholder without an argument stands for nothing; an
-/// argument without a placeholder is left out; other percent signs stay.
+/// Replaces the places %1% to %9% by the arguments. A place without an argument stands for nothing; an
+/// argument without a place is left out; other percent signs stay.
 std::string FillIn(const std::string& text, const std::vector<std::string>& arguments);
 
 /// `text` for a sentence: cut after 40 characters, an ellipsis standing for the rest.

@@ -13,7 +13,7 @@ Message OfLine(std::size_t line, const char* literal = "line %1%") {
     return {Severity::Warning, line, literal, nullptr, 1, {std::to_string(line)}};
 }
 
-TEST(Message, PlaceholdersAreFilledInByPosition) {
+TEST(Message, PlacesAreFilledInByPosition) {
     EXPECT_EQ(csv::FillIn("%2% of %1%", {"a", "b"}), "b of a");
     EXPECT_EQ(csv::FillIn("%1%%1%", {"x"}), "xx");
 }
@@ -24,9 +24,9 @@ TEST(Message, OtherPercentSignsStay) {
     EXPECT_EQ(csv::FillIn("%1", {"a"}), "%1");
 }
 
-TEST(Message, APlaceholderWithoutArgumentStandsForNothing) { EXPECT_EQ(csv::FillIn("[%3%]", {"a"}), "[]"); }
+TEST(Message, APlaceWithoutArgumentStandsForNothing) { EXPECT_EQ(csv::FillIn("[%3%]", {"a"}), "[]"); }
 
-TEST(Message, ArgumentsAreNotReadForPlaceholders) { EXPECT_EQ(csv::FillIn("%1%-%2%", {"%2%", "b"}), "%2%-b"); }
+TEST(Message, ArgumentsAreNotReadForPlaces) { EXPECT_EQ(csv::FillIn("%1%-%2%", {"%2%", "b"}), "%2%-b"); }
 
 TEST(Message, TheNumberDecidesTheForm) {
     Message message{Severity::Warning, 1, "%1% row", "%1% rows", 1, {"1"}};

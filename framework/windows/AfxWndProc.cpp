@@ -2,8 +2,6 @@
 #include <afxpriv.h>
 
 #include <exception>
-#include <map>
-#include <tuple>
 
 #include "WindowState.h"
 
@@ -54,6 +52,38 @@ LRESULT EndException(CException* exception, const MSG& message) {
     return result;
 }
 
+/// Calls `handle`; an exception that it leaves ends here and gives the result.
+template <class Handle>
+LRESULT Guarded(const MSG& message, Handle handle) {
+    try {
+        return handle();
+    } catch (CException* exception) {
+        return EndException(exception, message);
+    } catch (const std::exception& exception) {
+        return EndException(new CForeignException(CString(exception.what())), message);
+    } catch (...) {
+        return EndException(new CForeignException(CString()), message);
+    }
+}
+
+/// Gives the window to the object being created. False when the object's PreSubclassWindow threw; the object is then
+/// without a window again.
+bool Adopt(WindowState& state, HWND handle) {
+    CWnd* const window = state.beingCreated;
+    const MSG message{handle, WM_NCCREATE, 0, 0, 0, {}};
+    bool adopted = false;
+    Guarded(message, [&] {
+        state.AdoptCreatedWindow(handle);
+        adopted = true;
+        return LRESULT();
+    });
+    if (!adopted) {
+        window->Detach();
+        state.beingCreated = window; // whoever creates it sees that it came to nothing
+    }
+    return adopted;
+}
+
 // The creation hook sees every window of the thread; the input method makes windows of its own in between.
 bool IsInputMethodWindow(HWND handle) {
     TCHAR name[16];
@@ -64,8 +94,9 @@ bool IsInputMethodWindow(HWND handle) {
 LRESULT CALLBACK CreationHook(int code, WPARAM wParam, LPARAM lParam) {
     WindowState& state = WindowState::Current();
     const auto handle = reinterpret_cast<HWND>(wParam);
-    if (code == HCBT_CREATEWND && state.beingCreated != nullptr && !IsInputMethodWindow(handle))
-        state.AdoptCreatedWindow(handle);
+    if (code == HCBT_CREATEWND && state.beingCreated != nullptr && !IsInputMethodWindow(handle) &&
+        !Adopt(state, handle))
+        return 1; // refuses the window
     return ::CallNextHookEx(state.creationHook, code, wParam, lParam);
 }
 
@@ -74,15 +105,7 @@ LRESULT CALLBACK CreationHook(int code, WPARAM wParam, LPARAM lParam) {
 LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) {
     const MSG message{hWnd, nMsg, wParam, lParam, 0, {}};
     const CurrentMessage current(WindowState::Current(), message);
-    try {
-        return WindowState::Deliver(*pWnd, nMsg, wParam, lParam);
-    } catch (CException* exception) {
-        return EndException(exception, message);
-    } catch (const std::exception& exception) {
-        return EndException(new CForeignException(CString(exception.what())), message);
-    } catch (...) {
-        return EndException(new CForeignException(CString()), message);
-    }
+    return Guarded(message, [&] { return WindowState::Deliver(*pWnd, nMsg, wParam, lParam); });
 }
 
 LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam) {

@@ -52,8 +52,9 @@ BOOL CWinThread::PreTranslateMessage(MSG* pMsg) {
     CWnd* const main = GetMainWnd();
     if (CWnd::WalkPreTranslateTree(main->GetSafeHwnd(), pMsg))
         return TRUE;
-    // A window that is no descendant of the main window (a dialog without a mode) still gets its accelerators.
-    if (main != nullptr && pMsg->hwnd != main->m_hWnd && !::IsChild(main->m_hWnd, pMsg->hwnd))
+    // A window that does not belong to the main window still gets its accelerators.
+    const CWnd* const target = CWnd::FromHandle(pMsg->hwnd);
+    if (main != nullptr && target->GetTopLevelParent() != main)
         return main->PreTranslateMessage(pMsg);
     return FALSE;
 }

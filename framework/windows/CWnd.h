@@ -83,9 +83,6 @@ public:
     BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
         return ::PostMessage(m_hWnd, message, wParam, lParam);
     }
-    BOOL SendNotifyMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-        return ::SendNotifyMessage(m_hWnd, message, wParam, lParam);
-    }
     /// To the children, in tab order, and with `bDeep` to theirs; with `bOnlyPerm` to permanent objects only.
     void SendMessageToDescendants(UINT message, WPARAM wParam = 0, LPARAM lParam = 0, BOOL bDeep = TRUE,
                                   BOOL bOnlyPerm = FALSE);
@@ -190,11 +187,8 @@ public:
     void SetRedraw(BOOL bRedraw = TRUE) { SendMessage(WM_SETREDRAW, bRedraw); }
     BOOL RedrawWindow(LPCRECT lpRectUpdate = nullptr, CRgn* prgnUpdate = nullptr,
                       UINT flags = RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE);
-    BOOL LockWindowUpdate() { return ::LockWindowUpdate(m_hWnd); }
-    void UnlockWindowUpdate() { ::LockWindowUpdate(nullptr); }
     BOOL ShowWindow(int nCmdShow) { return ::ShowWindow(m_hWnd, nCmdShow); }
     BOOL IsWindowVisible() const { return ::IsWindowVisible(m_hWnd); }
-    void ShowOwnedPopups(BOOL bShow = TRUE) { ::ShowOwnedPopups(m_hWnd, bShow); }
     void Print(CDC* pDC, DWORD dwFlags) const;
     void PrintClient(CDC* pDC, DWORD dwFlags) const;
 
@@ -214,10 +208,6 @@ public:
     }
     BOOL KillTimer(UINT_PTR nIDEvent) { return ::KillTimer(m_hWnd, nIDEvent); }
     void DragAcceptFiles(BOOL bAccept = TRUE) { ::DragAcceptFiles(m_hWnd, bAccept); }
-    void CreateSolidCaret(int nWidth, int nHeight) { ::CreateCaret(m_hWnd, nullptr, nWidth, nHeight); }
-    void ShowCaret() { ::ShowCaret(m_hWnd); }
-    void HideCaret() { ::HideCaret(m_hWnd); }
-    static void PASCAL SetCaretPos(POINT point) { ::SetCaretPos(point.x, point.y); }
 
     // Scrolling ---------------------------------------------------------------------------------------------------
 
@@ -256,9 +246,6 @@ public:
     CWnd* GetTopWindow() const { return FromHandle(::GetTopWindow(m_hWnd)); }
     CWnd* GetLastActivePopup() const { return FromHandle(::GetLastActivePopup(m_hWnd)); }
     BOOL IsChild(const CWnd* pWnd) const { return ::IsChild(m_hWnd, pWnd->GetSafeHwnd()); }
-    static CWnd* PASCAL FindWindow(LPCTSTR lpszClassName, LPCTSTR lpszWindowName) {
-        return FromHandle(::FindWindow(lpszClassName, lpszWindowName));
-    }
     /// The tool of the window at a point in client coordinates, for tool tips: an identifier that is unique in the
     /// window, with its rectangle and text (allocated with malloc, freed by the caller) in `pTI`; −1 where there is
     /// none.
@@ -273,10 +260,6 @@ public:
     CWnd* GetDescendantWindow(int nID, BOOL bOnlyPerm = FALSE) const;
     void SetDlgItemText(int nID, LPCTSTR lpszString) { ::SetDlgItemText(m_hWnd, nID, lpszString); }
     int GetDlgItemText(int nID, CString& rString) const;
-    void SetDlgItemInt(int nID, UINT nValue, BOOL bSigned = TRUE) { ::SetDlgItemInt(m_hWnd, nID, nValue, bSigned); }
-    UINT GetDlgItemInt(int nID, BOOL* lpTrans = nullptr, BOOL bSigned = TRUE) const {
-        return ::GetDlgItemInt(m_hWnd, nID, lpTrans, bSigned);
-    }
     void CheckDlgButton(int nIDButton, UINT nCheck) { ::CheckDlgButton(m_hWnd, nIDButton, nCheck); }
     UINT IsDlgButtonChecked(int nIDButton) const { return ::IsDlgButtonChecked(m_hWnd, nIDButton); }
     CWnd* GetNextDlgTabItem(CWnd* pWndCtl, BOOL bPrevious = FALSE) const;

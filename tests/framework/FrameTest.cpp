@@ -110,10 +110,6 @@ protected:
     CTestFrame* m_frame = nullptr;
 };
 
-bool operator==(const CRect& a, const CRect& b) {
-    return static_cast<const RECT&>(a).left == b.left && a.top == b.top && a.right == b.right && a.bottom == b.bottom;
-}
-
 TEST_F(FrameTest, BarsTakeTheirSidesAndThePaneTheRest) {
     CStrip top(20);
     CStrip left(30);
@@ -132,12 +128,12 @@ TEST_F(FrameTest, BarsTakeTheirSidesAndThePaneTheRest) {
     EXPECT_EQ(RectOf(top).Height(), 20);
     EXPECT_EQ(RectOf(left).Width(), 30);
     EXPECT_EQ(RectOf(bottom).Height(), 25);
-    EXPECT_TRUE(RectOf(pane) == CRect(30, 20, 400, 275));
+    EXPECT_EQ(RectOf(pane), CRect(30, 20, 400, 275));
 
     m_frame->SetWindowPos(nullptr, 0, 0, 500, 200, SWP_NOMOVE | SWP_NOZORDER);
-    EXPECT_TRUE(RectOf(pane) == CRect(30, 20, 500, 175));
+    EXPECT_EQ(RectOf(pane), CRect(30, 20, 500, 175));
     m_frame->ShowControlBar(&left, FALSE, FALSE);
-    EXPECT_TRUE(RectOf(pane) == CRect(0, 20, 500, 175));
+    EXPECT_EQ(RectOf(pane), CRect(0, 20, 500, 175));
 }
 
 TEST_F(FrameTest, QueryingTheLayoutMovesNothing) {
@@ -147,11 +143,11 @@ TEST_F(FrameTest, QueryingTheLayoutMovesNothing) {
     ASSERT_TRUE(pane.CreateChild(*m_frame, AFX_IDW_PANE_FIRST, CRect(1, 2, 3, 4)));
     CRect left;
     m_frame->RepositionBars(0, 0xFFFF, AFX_IDW_PANE_FIRST, CWnd::reposQuery, &left);
-    EXPECT_TRUE(left == CRect(0, 20, 400, 300));
-    EXPECT_TRUE(RectOf(pane) == CRect(1, 2, 3, 4));
+    EXPECT_EQ(left, CRect(0, 20, 400, 300));
+    EXPECT_EQ(RectOf(pane), CRect(1, 2, 3, 4));
     const CRect smaller(0, 0, 100, 100);
     m_frame->RepositionBars(0, 0xFFFF, 0, CWnd::reposQuery, &left, &smaller);
-    EXPECT_TRUE(left == CRect(0, 20, 100, 100));
+    EXPECT_EQ(left, CRect(0, 20, 100, 100));
 }
 
 // Status bar ----------------------------------------------------------------------------------------------------------
@@ -346,7 +342,7 @@ protected:
 };
 
 TEST_F(ViewTest, FillsTheFrameAndKnowsIt) {
-    EXPECT_TRUE(RectOf(*m_view) == CRect(0, 0, 400, 300));
+    EXPECT_EQ(RectOf(*m_view), CRect(0, 0, 400, 300));
     EXPECT_EQ(m_view->GetParentFrame(), m_frame);
     EXPECT_EQ(m_view->GetTopLevelFrame(), m_frame);
     EXPECT_EQ(m_view->GetTopLevelParent(), m_frame);

@@ -209,6 +209,18 @@ TEST_F(MessageLoopTest, TheMainWindowAlsoSeesMessagesOfOtherTopLevelWindows) {
     EXPECT_EQ(log, "other main other! ");
 }
 
+TEST_F(MessageLoopTest, AWindowThatTheMainWindowOwnsIsOfferedItsMessagesOnce) {
+    std::string log;
+    CLoopWindow owned;
+    m_window.m_name = "main";
+    owned.m_name = "owned";
+    ASSERT_TRUE(owned.CreateEx(0, nullptr, nullptr, WS_POPUP, CRect(0, 0, 10, 10), &m_window, 0));
+    m_window.m_log = owned.m_log = &log;
+    owned.PostMessage(WM_APP + 5);
+    DrainMessages();
+    EXPECT_EQ(log, "owned main owned! ");
+}
+
 TEST_F(MessageLoopTest, BelongsToItsThread) {
     EXPECT_EQ(AfxGetThread(), &m_app);
     EXPECT_EQ(AfxGetApp(), &m_app);
@@ -305,6 +317,24 @@ TEST_F(ExceptionEndTest, ByDefaultAThrowingCreationFails) {
     EXPECT_FALSE(other.CreateTop());
     EXPECT_EQ(other.m_hWnd, nullptr);
     EXPECT_TRUE(m_app.m_messageBoxes.empty());
+}
+
+TEST_F(ExceptionEndTest, AThrowingPreSubclassWindowRefusesTheWindow) {
+    class CRefusing : public CTestWindow {
+    public:
+        int m_postNcDestroy = 0;
+
+    protected:
+        void PreSubclassWindow() override { throw std::runtime_error("not mine"); }
+        void PostNcDestroy() override { ++m_postNcDestroy; }
+    };
+    CRefusing refusing;
+    EXPECT_FALSE(refusing.CreateTop());
+    EXPECT_EQ(refusing.m_hWnd, nullptr);
+    EXPECT_EQ(refusing.m_postNcDestroy, 1);
+    EXPECT_THAT(m_app.m_exceptions, testing::ElementsAre(L"not mine"));
+    CTestWindow next; // creation works as before
+    EXPECT_TRUE(next.CreateTop());
 }
 
 TEST_F(ExceptionEndTest, ByDefaultAThrowingPaintIsNotPaintedAgain) {

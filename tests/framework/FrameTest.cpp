@@ -120,14 +120,10 @@ TEST_F(FrameTest, BarsTakeTheirSidesAndThePaneTheRest) {
     ASSERT_TRUE(bottom.Create(m_frame, CBRS_ALIGN_BOTTOM, AFX_IDW_CONTROLBAR_FIRST + 7));
     ASSERT_TRUE(pane.CreateChild(*m_frame, AFX_IDW_PANE_FIRST));
     m_frame->RecalcLayout();
-    // The order of the windows is that in which they take their strips.
-    std::vector<CWnd*> order;
-    for (CWnd* child = m_frame->GetTopWindow(); child != nullptr; child = child->GetWindow(GW_HWNDNEXT))
-        order.push_back(child);
-    ASSERT_EQ(order.size(), 4u);
-    EXPECT_EQ(RectOf(top).Height(), 20);
-    EXPECT_EQ(RectOf(left).Width(), 30);
-    EXPECT_EQ(RectOf(bottom).Height(), 25);
+    // Each takes its strip of what those before it left.
+    EXPECT_EQ(RectOf(top), CRect(0, 0, 400, 20));
+    EXPECT_EQ(RectOf(left), CRect(0, 20, 30, 300));
+    EXPECT_EQ(RectOf(bottom), CRect(30, 275, 400, 300));
     EXPECT_EQ(RectOf(pane), CRect(30, 20, 400, 275));
 
     m_frame->SetWindowPos(nullptr, 0, 0, 500, 200, SWP_NOMOVE | SWP_NOZORDER);

@@ -342,6 +342,30 @@ TEST_F(MessageMapTest, DerivedMapsComeFirstAndMayNameInheritedHandlers) {
     EXPECT_EQ(window.m_called, "derived-first base-first base-second base-down ");
 }
 
+// A handler that is interrupted by another message before it asks for the default.
+class CInterrupted : public CTestWindow {
+protected:
+    LRESULT OnSetText(WPARAM, LPARAM) {
+        SendMessage(WM_NULL);
+        EXPECT_EQ(GetCurrentMessage()->message, static_cast<UINT>(WM_SETTEXT));
+        return Default();
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(CInterrupted, CTestWindow)
+    ON_MESSAGE(WM_SETTEXT, &CInterrupted::OnSetText)
+END_MESSAGE_MAP()
+
+TEST_F(MessageMapTest, DefaultMeansTheMessageOfItsOwnHandler) {
+    CInterrupted window;
+    ASSERT_TRUE(window.CreateTop());
+    window.SetWindowText(_T("kept"));
+    CString text;
+    window.GetWindowText(text);
+    EXPECT_EQ(text, _T("kept"));
+}
+
 // Types ---------------------------------------------------------------------------------------------------------------
 
 struct Handlers {

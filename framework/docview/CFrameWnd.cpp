@@ -32,6 +32,13 @@ const CRect CFrameWnd::rectDefault(CW_USEDEFAULT, CW_USEDEFAULT, 0, 0);
 CFrameWnd::CFrameWnd() = default;
 CFrameWnd::~CFrameWnd() = default;
 
+namespace {
+
+// Window classes name a system colour by its number plus one.
+HBRUSH WindowBackground() { return reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1); }
+
+} // namespace
+
 // Creation and destruction --------------------------------------------------------------------------------------------
 
 BOOL CFrameWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd,
@@ -63,9 +70,11 @@ BOOL CFrameWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentW
         text = FirstLine(text);
     const LPCTSTR name = MAKEINTRESOURCE(nIDResource);
     const HINSTANCE module = AfxFindResourceHandle(name, RT_GROUP_ICON);
-    const HICON icon = ::LoadIcon(module, name);
-    const LPCTSTR windowClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW), nullptr, icon);
-    const CString className(windowClass);
+    HICON icon = ::LoadIcon(module, name);
+    if (icon == nullptr)
+        icon = ::LoadIcon(nullptr, IDI_APPLICATION);
+    const CString className(
+        AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW), WindowBackground(), icon));
     const bool hasMenu = ::FindResource(AfxFindResourceHandle(name, RT_MENU), name, RT_MENU) != nullptr;
     if (!Create(className, text, dwDefaultStyle, rectDefault, pParentWnd, hasMenu ? name : nullptr, 0, pContext))
         return FALSE;
@@ -82,7 +91,7 @@ BOOL CFrameWnd::LoadAccelTable(LPCTSTR lpszResourceName) {
 
 BOOL CFrameWnd::PreCreateWindow(CREATESTRUCT& cs) {
     if (cs.lpszClass == nullptr)
-        cs.lpszClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW), nullptr,
+        cs.lpszClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW), WindowBackground(),
                                            ::LoadIcon(nullptr, IDI_APPLICATION));
     // The bits of the frame's own styles mean nothing to the window.
     cs.style &= ~static_cast<LONG>(FWS_ADDTOTITLE | FWS_PREFIXTITLE | FWS_SNAPTOBARS);
@@ -202,10 +211,7 @@ BOOL CFrameWnd::OnEraseBkgnd(CDC* pDC) {
     // A frame that is filled by its pane paints nothing; the pane paints itself.
     if (m_pViewActive != nullptr || GetDlgItem(AFX_IDW_PANE_FIRST) != nullptr)
         return TRUE;
-    CRect client;
-    GetClientRect(&client);
-    ::FillRect(pDC->GetSafeHdc(), &client, ::GetSysColorBrush(COLOR_APPWORKSPACE));
-    return TRUE;
+    return CWnd::OnEraseBkgnd(pDC);
 }
 
 // Commands ------------------------------------------------------------------------------------------------------------

@@ -18,6 +18,9 @@ BOOL CView::PreCreateWindow(CREATESTRUCT& cs) {
         cs.style &= ~WS_BORDER;
         cs.dwExStyle |= WS_EX_CLIENTEDGE;
     }
+    if (cs.lpszClass == nullptr)
+        cs.lpszClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW),
+                                           reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1));
     return CWnd::PreCreateWindow(cs);
 }
 

@@ -354,6 +354,9 @@ TEST_F(ViewTest, IsInitialisedAndActivatedWhenTheFrameFirstShows) {
     m_frame->UpdateWindow();
     m_view->UpdateWindow();
     EXPECT_GE(m_view->m_draws, 1);
+    CClientDC dc(m_view);
+    EXPECT_EQ(dc.GetPixel(5, 5), RGB(255, 0, 0));
+    EXPECT_EQ(dc.GetPixel(15, 15), ::GetSysColor(COLOR_WINDOW)); // where it draws nothing
 }
 
 TEST_F(ViewTest, HearsOfActivationAndItsEnd) {

@@ -4,4 +4,5 @@ list(APPEND kytoolkit_common_SOURCES
     common/CXTPPaintManager.cpp
     common/CXTPSplitPath.cpp
     common/CXTPToolTipContext.cpp
+    common/TextStateGuard.cpp
     common/ToolTipWindow.cpp)

@@ -22,6 +22,20 @@ std::vector<CRect> RectsOf(const CRgn& region) {
     return std::vector<CRect>(rects, rects + data->rdh.nCount);
 }
 
+/// Holds, for the length of one drawing, whether the control has the focus: every selected cell asks, and the system
+/// takes longer for the answer than the cell for its picture.
+class DrawingFocus {
+public:
+    DrawingFocus(std::optional<bool>& held, bool hasFocus) : m_held(held), m_former(held) { m_held = hasFocus; }
+    ~DrawingFocus() { m_held = m_former; }
+    DrawingFocus(const DrawingFocus&) = delete;
+    DrawingFocus& operator=(const DrawingFocus&) = delete;
+
+private:
+    std::optional<bool>& m_held;
+    std::optional<bool> m_former;
+};
+
 } // namespace
 
 // --- Asking for a redraw --------------------------------------------------------------------------------------------
@@ -114,7 +128,9 @@ void CXTPReportControl::DoDraw(CDC* pDC, const CRect& rcDirty) {
     if (!rcDraw.IntersectRect(&rcDirty, m_impl->ClientRect()))
         return;
     const SaveDCGuard saved(*pDC);
+    const DrawingFocus focus(m_impl->focusWhileDrawing, HasFocus());
     pDC->IntersectClipRect(&rcDraw);
+    pDC->SelectObject(m_impl->paintManager->GetTextFont()); // most cells find their font selected already
     m_impl->DrawRows(pDC, rcDraw);
     const CRect rcHeader = GetHeaderRect();
     if (rcHeader.top < rcDraw.bottom && rcHeader.bottom > rcDraw.top)

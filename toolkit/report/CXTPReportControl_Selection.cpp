@@ -14,6 +14,8 @@ void CXTPReportControl::SetMultipleSelection(BOOL bMultiple) {
 BOOL CXTPReportControl::IsMultipleSelection() const { return m_impl->isMultipleSelection; }
 
 BOOL CXTPReportControl::HasFocus() const {
+    if (m_impl->focusWhileDrawing)
+        return *m_impl->focusWhileDrawing;
     const HWND focus = m_hWnd ? ::GetFocus() : nullptr;
     return focus && (focus == m_hWnd || ::IsChild(m_hWnd, focus));
 }

@@ -7,6 +7,7 @@
 #include "ReportLook.h"
 
 #include "../../framework/gdi/SelectGuard.h"
+#include "../common/TextStateGuard.h"
 
 #include <algorithm>
 
@@ -161,7 +162,8 @@ void CXTPReportPaintManager::DrawNoItemText(CDC* pDC, const CRect& rcReport) {
         return;
     CRect rcText(rcReport);
     rcText.DeflateRect(m_nCellPadding, ScaleForDpi(NoItemTextTop), m_nCellPadding, 0);
-    const SelectGuard select(*pDC, m_fontText);
+    TextStateGuard state(*pDC);
+    state.UseFont(&m_fontText);
     pDC->SetBkMode(TRANSPARENT);
     pDC->SetTextColor(m_clrDisabledText);
     pDC->DrawText(m_strNoItems, &rcText, DT_CENTER | DT_WORDBREAK | DT_NOPREFIX);
@@ -249,7 +251,8 @@ void CXTPReportPaintManager::DrawItemText(XTP_REPORTRECORDITEM_DRAWARGS* pDrawAr
     CDC* pDC = pDrawArgs->pDC;
     CRect rcText(pDrawArgs->rcItem);
     rcText.DeflateRect(m_nCellPadding, 0);
-    const SelectGuard select(*pDC, pMetrics->pFont);
+    TextStateGuard state(*pDC);
+    state.UseFont(pMetrics->pFont);
     pDC->SetBkMode(TRANSPARENT);
     if (pDrawArgs->pItem && pDrawArgs->pItem->GetHyperlinksCount() > 0)
         DrawLinkedText(pDC, *pDrawArgs, pMetrics->strText, rcText, pMetrics->nColumnAlignment);

@@ -5,7 +5,7 @@
 #include "CXTPReportControl.h"
 #include "ReportLook.h"
 
-#include "../../framework/gdi/SelectGuard.h"
+#include "../common/TextStateGuard.h"
 
 #include <algorithm>
 
@@ -123,7 +123,8 @@ void CXTPReportPaintManager::DrawColumnCaption(CDC* pDC, CXTPReportColumn* pColu
         DrawSortArrow(pDC, rcArrow, pColumn->IsSortedIncreasing());
         rcText.right -= GetSortArrowSpace();
     }
-    const SelectGuard select(*pDC, m_fontText);
+    TextStateGuard state(*pDC);
+    state.UseFont(&m_fontText);
     pDC->SetBkMode(TRANSPARENT);
     const CXTPReportControl* control = pColumn->GetControl();
     const bool isEnabled = !control || !control->GetSafeHwnd() || control->IsWindowEnabled();

@@ -10,7 +10,7 @@
 #include "ItemCompare.h"
 #include "RecordItemHeap.h"
 
-#include "../../framework/gdi/SelectGuard.h"
+#include "../common/TextStateGuard.h"
 
 #include <cstring>
 #include <vector>
@@ -98,12 +98,11 @@ void CXTPReportRecordItem::Draw(XTP_REPORTRECORDITEM_DRAWARGS* pDrawArgs) {
     GetItemMetrics(pDrawArgs, &metrics);
 
     CDC* const pDC = pDrawArgs->pDC;
-    const SaveDCGuard saved(*pDC);
+    TextStateGuard state(*pDC);
     // The row has filled itself already.
     if (metrics.clrBackground != clrRow)
         pDC->FillSolidRect(pDrawArgs->rcItem, metrics.clrBackground);
-    if (metrics.pFont)
-        pDC->SelectObject(metrics.pFont);
+    state.UseFont(metrics.pFont);
     if (metrics.clrForeground != CXTPPaintManagerColor::Unset)
         pDC->SetTextColor(metrics.clrForeground);
     pDC->SetBkMode(TRANSPARENT);

@@ -18,6 +18,8 @@
 
 #include "../common/BackBuffer.h"
 
+#include <optional>
+
 /// Tells whether a window that was there has been destroyed since, without touching the object that had it.
 class WindowGuard {
 public:
@@ -100,6 +102,7 @@ struct CXTPReportControl::Impl {
 
     // --- Drawing ----------------------------------------------------------------------------------------------------
     BackBuffer buffer;
+    std::optional<bool> focusWhileDrawing; ///< what HasFocus answers during a drawing
 
     void InvalidateRows(gridgeometry::IndexRange range) const;
     void InvalidateFocusLook() const;

@@ -8,7 +8,7 @@
 class CControlBar;
 class CView;
 
-// Styles of frames, beside those of windows.
+// Styles of frames, beside those of windows; a frame that shows a document heeds them when it sets its title.
 constexpr DWORD FWS_ADDTOTITLE = 0x8000;  // the title names the document
 constexpr DWORD FWS_PREFIXTITLE = 0x4000; // the document comes before the application
 constexpr DWORD FWS_SNAPTOBARS = 0x2000;

@@ -31,7 +31,7 @@ KY_FRAMEWORK_API LRESULT AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM
 class KY_FRAMEWORK_API CWnd : public CCmdTarget {
     DECLARE_DYNCREATE(CWnd)
 public:
-    HWND m_hWnd = nullptr; ///< First data member; null while there is no window.
+    HWND m_hWnd = nullptr; ///< Null while there is no window.
 
     CWnd() = default;
     /// Destroys a window that still lives; handlers of derived classes no longer run then.
@@ -93,7 +93,7 @@ public:
     static BOOL PASCAL WalkPreTranslateTree(HWND hWndStop, MSG* pMsg);
     /// Sees queued messages before they are dispatched; TRUE takes the message.
     virtual BOOL PreTranslateMessage(MSG* pMsg);
-    /// Hands the message being handled back to the control whose parent this is not: see OnChildNotify.
+    /// For a parent that received a message about this control: hands it to OnChildNotify. TRUE when that took it.
     BOOL SendChildNotifyLastMsg(LRESULT* pResult = nullptr);
 
     // Text, style, state ------------------------------------------------------------------------------------------
@@ -123,7 +123,7 @@ public:
 
     // Size and position -------------------------------------------------------------------------------------------
 
-    /// Screen coordinates; client coordinates of the parent for GetWindowPlacement's normal rectangle of a child.
+    /// Screen coordinates.
     void GetWindowRect(LPRECT lpRect) const { ::GetWindowRect(m_hWnd, lpRect); }
     void GetClientRect(LPRECT lpRect) const { ::GetClientRect(m_hWnd, lpRect); }
     /// Positions of child windows are in the parent's client coordinates.

@@ -39,5 +39,5 @@ struct WindowState {
 /// Loads the common controls' window classes.
 void LoadCommonControls(DWORD classes);
 
-/// The application's root object of a string resource table text: the text up to the first line feed.
+/// The text up to the first line feed: string resources hold further texts after it.
 CString FirstLine(const CString& text);

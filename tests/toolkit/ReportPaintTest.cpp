@@ -195,6 +195,16 @@ TEST_F(PaintTest, ThemesWithoutALookOfTheirOwnLookLikeTheDefault) {
     }
 }
 
+TEST_F(PaintTest, AThemeSetWithoutARedrawShowsWithTheNextPainting) {
+    AddRecords(3);
+    m_grid.SetTheme(xtpReportThemeOffice2013, FALSE);
+    EXPECT_TRUE(m_grid.GetUpdateRect(nullptr));
+    m_grid.GetPaintManager()->m_clrGridLine = RGB(9, 8, 7);
+    EXPECT_GT(OnScreen()->Count(RGB(9, 8, 7)), 0);
+    m_grid.SetTheme(xtpReportThemeWindows7, TRUE);
+    EXPECT_FALSE(m_grid.GetUpdateRect(nullptr));
+}
+
 TEST_F(PaintTest, AHostsColourOutlivesTheColumnStyle) {
     AddRecords(1);
     m_look->m_clrGridLine = RGB(250, 0, 0);

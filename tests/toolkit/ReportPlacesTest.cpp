@@ -184,6 +184,25 @@ TEST(ReportWithoutWindow, TheToolTipContextIsThereFromTheStart) {
     EXPECT_EQ(grid.GetToolTipContext()->GetMaxTipWidth(), 400);
 }
 
+// --- A window made by others ----------------------------------------------------------------------------------------
+
+TEST(ReportSubclassed, AWindowOfADialogIsTakenOverWithItsSize) {
+    OwnerWindow owner;
+    owner.CreateEx(0, AfxRegisterWndClass(0), _T("owner"), WS_POPUP | WS_VISIBLE, CRect(200, 100, 600, 500), nullptr,
+                   0);
+    CXTPReportControl grid;
+    grid.AddColumn(new CXTPReportColumn(0, _T("A"), 1000));
+    const HWND window = ::CreateWindow(_T("XTPReport"), nullptr, WS_CHILD | WS_VISIBLE, 0, 0, 300, 200, owner.m_hWnd,
+                                       nullptr, ::GetModuleHandle(nullptr), nullptr);
+    ASSERT_NE(window, nullptr);
+    ASSERT_TRUE(grid.SubclassWindow(window));
+    EXPECT_EQ(grid.GetHeaderRect().Width(), 300);
+    EXPECT_NE(grid.GetStyle() & WS_HSCROLL, 0U);
+    EXPECT_EQ(grid.GetColumns()->GetAt(0)->GetRect().bottom, grid.GetPaintManager()->GetHeaderHeight());
+    grid.DestroyWindow();
+    owner.DestroyWindow();
+}
+
 // --- Odd contents ---------------------------------------------------------------------------------------------------
 
 TEST_F(GridTest, AnEmptyGridTakesEveryMessage) {

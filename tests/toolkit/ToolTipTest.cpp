@@ -59,6 +59,18 @@ TEST_F(ToolTipTest, ItStandsBelowThePointerInsideTheScreen) {
     EXPECT_LT(TipRect().top, screen.y + 40);
 }
 
+TEST_F(ToolTipTest, ItStandsAboveThePointerWhereThereIsNoRoomBelow) {
+    CRect work;
+    ::SystemParametersInfo(SPI_GETWORKAREA, 0, &work, 0);
+    m_owner.SetWindowPos(nullptr, work.right - 200, work.bottom - 60, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    Item(1, 1)->SetTooltip(_T("a tip that is too long to stand between the pointer and the right edge of the screen"));
+    Hover(Cell(1, 1));
+    CPoint screen = Cell(1, 1);
+    m_grid.ClientToScreen(&screen);
+    EXPECT_LT(TipRect().bottom, screen.y);
+    EXPECT_EQ(TipRect().right, work.right);
+}
+
 TEST_F(ToolTipTest, BeforeTheRestThereIsNoTip) {
     Item(1, 1)->SetTooltip(_T("the tip"));
     m_tips->SetDelayTime(TTDT_INITIAL, 10000);
@@ -142,6 +154,27 @@ TEST_F(ToolTipTest, HeadersHaveTheirTipOrTheCaptionThatIsCutOff) {
     EXPECT_EQ(m_tips->GetTipText(), _T("a caption that does not fit"));
     TOOLINFO tool = {};
     EXPECT_EQ(m_grid.OnToolHitTest(HeaderOf(2), &tool), -1);
+}
+
+/// A cell that says that it is a tool but has nothing to say.
+class SilentItem : public ProbeItem {
+public:
+    using ProbeItem::ProbeItem;
+    INT_PTR OnToolHitTest(CPoint, TOOLINFO* pTI) override {
+        EXPECT_NE(pTI, nullptr);
+        return 1;
+    }
+};
+
+TEST_F(ToolTipTest, ACellWithNothingToSayHasNoTip) {
+    auto* record = new CXTPReportRecord;
+    for (int i = 0; i < 3; ++i)
+        record->AddItem(new SilentItem(_T("a text that does not fit into its cell at all")));
+    m_grid.AddRecord(record);
+    m_grid.Populate();
+    TOOLINFO tool = {};
+    EXPECT_EQ(m_grid.OnToolHitTest(Cell(5, 1), &tool), -1);
+    EXPECT_EQ(m_grid.OnToolHitTest(Cell(5, 1), nullptr), -1);
 }
 
 TEST_F(ToolTipTest, EveryCellIsAToolOfItsOwn) {

@@ -49,7 +49,7 @@ namespace {
 
 constexpr LPCTSTR WindowClassName = _T("XTPReport");
 
-/// Registers the window class with the first control.
+/// Registers the window class when it is not yet.
 bool RegisterWindowClass() {
     WNDCLASS windowClass = {};
     const HINSTANCE module = AfxGetInstanceHandle();
@@ -77,7 +77,9 @@ CXTPReportControl::Impl::Impl(CXTPReportControl& owner)
 
 CXTPReportControl::Impl::~Impl() = default;
 
-CXTPReportControl::CXTPReportControl() : m_impl(std::make_unique<Impl>(*this)) {}
+CXTPReportControl::CXTPReportControl() : m_impl(std::make_unique<Impl>(*this)) {
+    RegisterWindowClass(); // a dialog makes the window before its object is told of it
+}
 
 CXTPReportControl::~CXTPReportControl() {
     if (m_hWnd)
@@ -91,6 +93,11 @@ CXTPReportControl::~CXTPReportControl() {
 
 BOOL CXTPReportControl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID) {
     return RegisterWindowClass() && CWnd::Create(WindowClassName, nullptr, dwStyle, rect, pParentWnd, nID);
+}
+
+void CXTPReportControl::PreSubclassWindow() {
+    CWnd::PreSubclassWindow();
+    AdjustLayout(); // a window that is taken over gets no WM_CREATE
 }
 
 int CXTPReportControl::OnCreate(LPCREATESTRUCT lpCreateStruct) {
@@ -189,9 +196,9 @@ void CXTPReportControl::SetTheme(XTPReportPaintTheme theme, BOOL bRedraw) {
     auto paintManager = std::make_unique<CXTPReportPaintManager>(theme);
     paintManager->TakeOver(*m_impl->paintManager);
     m_impl->paintManager = std::move(paintManager);
-    m_impl->LayOut();
-    if (bRedraw)
-        RedrawControl();
+    AdjustLayout();
+    if (bRedraw && m_hWnd)
+        UpdateWindow();
 }
 
 // --- What the system changes ----------------------------------------------------------------------------------------

@@ -10,13 +10,31 @@
 /// A grid. The host adds columns and records and calls `Populate`; rows are the sorted, visible records. All points and
 /// rectangles are in client coordinates. Changes through setters redraw by themselves; changes of item values are shown
 /// by `RedrawControl`. The control owns its columns, records, rows, header and paint manager.
+///
+/// Mouse. A press goes to the item under it and then, unless the item keeps it, focuses and selects the row: alone,
+/// with ctrl in addition, with shift as a block. Dragging over other rows selects them and scrolls at the edges. Every
+/// move goes to the item under the point, also while a derived control has captured the mouse and moves the points;
+/// only a drag or resize in the header keeps them. The second press of a double click is a press as well, so that a
+/// cell can be dragged right after a click. Escape, a right click and the loss of the capture end a gesture without
+/// effect.
+///
+/// Keyboard. Arrows, page keys, home and end move focus and selection, with shift they extend the selection, with ctrl
+/// they move the focus alone; space selects, ctrl+space turns round; ctrl+A selects all; left and right scroll
+/// sideways; ctrl+plus fits the columns; typing finds the row whose text in the sorted (else the first) column begins
+/// with it. The menu key sends NM_RCLICK for the focused row; when the owner answers 0, the header's menu opens.
+///
+/// Drawing. Only damaged cells are drawn. Scrolling moves the pixels of the rows that stay; an item whose pixels were
+/// moved is drawn again before the mouse meets it, so that it may keep the rectangle of its last drawing. Rows have one
+/// height. `OnSelectionChanged` runs once per action of the user, and when the host focuses a row with its selection,
+/// not when the host changes `GetSelectedRows` or populates. Notifications (XTPReportDefines.h) are sent after what
+/// they tell of; the owner may change the content in them, and destroy the control.
 class KY_TOOLKIT_API CXTPReportControl : public CWnd {
     DECLARE_DYNCREATE(CXTPReportControl)
 public:
     CXTPReportControl();
     ~CXTPReportControl() override;
 
-    /// Creates the window as a child of `pParentWnd`.
+    /// Creates the window as a child of `pParentWnd`. In a dialog template the window class is "XTPReport".
     virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
 
     // --- Content ------------------------------------------------------------------------------------------------
@@ -36,7 +54,9 @@ public:
     void SetReportHeader(CXTPReportHeader* pHeader); ///< takes ownership of the new header, deletes the old one
     CXTPReportPaintManager* GetPaintManager() const;
     void SetPaintManager(CXTPReportPaintManager* pPaintManager); ///< takes ownership, deletes the old one
-    /// A new paint manager for the theme; the column style starts as the theme's own.
+    /// A new paint manager for the theme; the column style starts as the theme's own, what the host set beside colours
+    /// (font, row height, grid lines, empty text) stays. `bRedraw` paints at once; otherwise it shows with the next
+    /// painting, so that more can be set before.
     void SetTheme(XTPReportPaintTheme theme, BOOL bRedraw = TRUE);
     CXTPToolTipContext* GetToolTipContext() const;
 
@@ -92,6 +112,7 @@ public:
     LRESULT SendColumnNotify(UINT nCode, CXTPReportColumn* pColumn);
 
     BOOL PreTranslateMessage(MSG* pMsg) override;
+    void PreSubclassWindow() override;
 
     // --- Called by the model as it changes ---------------------------------------------------------------------------
     /// The row at that index was taken out, because its record is being deleted: focus, top row and scroll bars follow.

@@ -82,7 +82,7 @@ bool CXTPReportControl::Impl::SelectByKey(UINT key) {
             ChangeSelection([this] { selectedRows->SelectBlock(0, rows->GetCount() - 1, TRUE); });
         return true;
     }
-    if (key == VK_ADD && isCtrl) {
+    if ((key == VK_ADD || key == VK_OEM_PLUS) && isCtrl) {
         BestFitAll();
         return true;
     }

@@ -283,9 +283,10 @@ void CXTPReportControl::OnCancelMode() {
 void CXTPReportControl::OnMouseMove(UINT nFlags, CPoint point) {
     m_impl->TrackLeave();
     if (m_impl->IsHeaderGesture()) {
+        const XTPReportMouseMode former = m_impl->mouseMode;
         m_impl->press.lastPoint = point;
         m_impl->header->OnMouseMove(nFlags, point);
-        if (m_impl->mouseMode == xtpReportMouseColumnDrag)
+        if (m_impl->mouseMode == xtpReportMouseColumnDrag && former != xtpReportMouseColumnDrag)
             SetTimer(ReportTimerAutoScroll, AutoScrollInterval);
         return;
     }

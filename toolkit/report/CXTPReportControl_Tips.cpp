@@ -4,7 +4,9 @@
 #include "CXTPReportColumn.h"
 #include "CXTPReportRecord.h"
 #include "CXTPReportRecordItem.h"
+
 #include "CellText.h"
+#include <cstdlib>
 
 namespace {
 
@@ -49,12 +51,13 @@ INT_PTR CXTPReportControl::OnToolHitTest(CPoint point, TOOLINFO* pTI) const {
         return -1;
     // A number of the cell's own choice would not tell one cell from the next.
     const INT_PTR id = FirstCellTool + ((INT_PTR{hit.rowIndex} << 20) | hit.column->GetIndex());
-    const INT_PTR ofItem = hit.item->OnToolHitTest(point, pTI);
-    if (ofItem != -1) {
-        if (pTI)
-            pTI->uId = static_cast<UINT_PTR>(id);
-        return id;
-    }
+    TOOLINFO ofItem = {};
+    ofItem.cbSize = sizeof(ofItem);
+    const bool isTool = hit.item->OnToolHitTest(point, &ofItem) != -1;
+    const CString itemText = isTool ? ofItem.lpszText : nullptr;
+    std::free(ofItem.lpszText);
+    if (isTool)
+        return itemText.IsEmpty() ? -1 : FillTool(pTI, *this, id, CRect(ofItem.rect), itemText);
     const CString text = CutOffText(m_impl->control, hit);
     return text.IsEmpty() ? -1 : FillTool(pTI, *this, id, hit.rcItem, text);
 }

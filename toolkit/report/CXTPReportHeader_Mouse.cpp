@@ -136,6 +136,7 @@ void CXTPReportHeader::Sort(CXTPReportColumn* pColumn, BOOL bAddKey) {
         pColumn->SetSortIncreasing(increasing);
     else
         order->Add(pColumn, increasing);
+    const CWaitCursor wait; // millions of rows take a moment
     m_pControl->Populate();
     m_pControl->SendColumnNotify(XTP_NM_REPORT_SORTORDERCHANGED, pColumn);
 }

@@ -80,6 +80,7 @@ public:
     // --- Mouse; points in client coordinates --------------------------------------------------------------------
     /// Returning TRUE keeps the press from the row (no selection change).
     virtual BOOL OnLButtonDown(XTP_REPORTRECORDITEM_CLICKARGS* pClickArgs);
+    /// Returning TRUE keeps the release from being a click.
     virtual BOOL OnLButtonUp(XTP_REPORTRECORDITEM_CLICKARGS* pClickArgs);
     /// A click on a hyperlink tells the owner (XTP_NM_REPORT_HYPERLINK). NM_CLICK and NM_DBLCLK are the control's
     /// affair.
@@ -87,8 +88,8 @@ public:
     virtual void OnDblClick(XTP_REPORTRECORDITEM_CLICKARGS* pClickArgs);
     /// Every mouse move over the cell; the cursor over a hyperlink is the control's affair.
     virtual void OnMouseMove(UINT nFlags, CPoint point, CXTPReportControl* pReportControl);
-    /// The tool under the point: fills `pTI->rect` (client coordinates) and `pTI->lpszText` (allocated with malloc,
-    /// freed by the caller) and returns an identifier, or −1 when the cell has no tool tip.
+    /// The tool under the point: fills `pTI` (never null), that is `pTI->rect` (client coordinates) and `pTI->lpszText`
+    /// (allocated with malloc, freed by the caller) and returns an identifier, or −1 when the cell has no tool tip.
     virtual INT_PTR OnToolHitTest(CPoint point, TOOLINFO* pTI);
 
     // --- Place ------------------------------------------------------------------------------------------------

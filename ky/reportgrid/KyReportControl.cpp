@@ -1,10 +1,10 @@
 // Saved layouts, column chooser and theme of the report grid.
 #include "KyReportControl.h"
 
+#include "../common/KyMessages.h"
+#include "../common/Translation.h"
+#include "../themes/Themes.h"
 #include "KyReportHeader.h"
-#include "common/KyMessages.h"
-#include "common/Translation.h"
-#include "themes/Themes.h"
 
 #include <afxdisp.h>
 

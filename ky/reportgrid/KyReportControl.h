@@ -1,7 +1,7 @@
 // The report grid that every other grid of an application derives from or uses directly.
 #pragma once
 
-#include "common/KyExport.h"
+#include "../common/KyExport.h"
 
 #include <XTToolkitPro.h>
 

@@ -1,7 +1,7 @@
 // The header of the report grid.
 #pragma once
 
-#include "common/KyExport.h"
+#include "../common/KyExport.h"
 
 #include <XTToolkitPro.h>
 

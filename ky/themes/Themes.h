@@ -1,8 +1,8 @@
 // The application's visual theme: the stored choice, and what it means for each component of the toolkit.
 #pragma once
 
+#include "../common/KyExport.h"
 #include "KyPaintTheme.h"
-#include "common/KyExport.h"
 
 #include <XTToolkitPro.h>
 

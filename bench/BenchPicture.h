@@ -1,0 +1,40 @@
+// The picture that every contender of the grid benchmark shows, and its drawing with nothing but GDI.
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <string>
+
+namespace benchpicture {
+
+inline constexpr int ViewWidth = 1200;
+inline constexpr int ViewHeight = 800;
+inline constexpr int RowHeight = 22;
+
+inline constexpr int BarCount = 3;
+inline constexpr int ColumnCount = 2 + BarCount; ///< name, number, bars
+inline constexpr int ColumnWidths[ColumnCount] = {200, 120, 280, 280, 280};
+inline constexpr const wchar_t* Captions[ColumnCount] = {L"Name", L"Value", L"First", L"Second", L"Third"};
+inline constexpr int CellPadding = 5;
+
+inline constexpr COLORREF BarDark = RGB(0, 0, 160);
+inline constexpr COLORREF BarLight = RGB(220, 235, 255);
+
+/// The values of one bar chart cell, in the order in which the cell takes them.
+struct Bar {
+    float target, min, max, lower, upper, errorLow, errorHigh, optimizerLow, optimizerHigh;
+};
+
+std::wstring NameOf(std::int64_t row);
+double NumberOf(std::int64_t row);
+std::wstring NumberText(std::int64_t row);
+Bar BarOf(std::int64_t row, int bar);
+
+/// Draws a bar chart cell pixel for pixel as the grid does. `cell` lies inside the grid lines.
+void DrawBar(HDC dc, const RECT& cell, const Bar& bar);
+
+/// Draws a whole row with its grid lines at the height `top`; the font is the one selected into `dc`.
+void DrawRow(HDC dc, int top, std::int64_t row);
+
+} // namespace benchpicture

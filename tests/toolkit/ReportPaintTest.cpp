@@ -253,6 +253,26 @@ TEST_F(PaintTest, OnlyVisibleCellsAreDrawn) {
     EXPECT_EQ(Item(0, 0)->drawn, 1) << "requests coalesce";
 }
 
+TEST_F(PaintTest, VeryManyRequestsCoalesceAndTheLastIsKept) {
+    AddRecords(20);
+    for (int i = 0; i < 1000; ++i)
+        m_grid.RedrawControl();
+    m_grid.UpdateWindow();
+    EXPECT_EQ(CellsDrawn(), VisibleRows * 3);
+    Pump(100);
+    EXPECT_EQ(CellsDrawn(), VisibleRows * 3) << "nothing is owed after the painting";
+    m_grid.RedrawControl();
+    EXPECT_TRUE(m_grid.GetUpdateRect(nullptr));
+    Settle();
+
+    for (int i = 0; i < 1000; ++i)
+        m_grid.RedrawControl();
+    m_grid.ValidateRect(nullptr);
+    m_grid.RedrawControl();
+    Pump(100);
+    EXPECT_EQ(CellsDrawn(), VisibleRows * 3) << "a request after the window was declared valid";
+}
+
 TEST_F(PaintTest, RedrawingARowDrawsThatRow) {
     AddRecords(20);
     m_grid.RedrawRow(m_grid.GetRows()->GetAt(4));

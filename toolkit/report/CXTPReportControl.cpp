@@ -111,6 +111,7 @@ void CXTPReportControl::OnDestroy() {
     m_impl->toolTips.CancelToolTips();
     m_impl->CancelGesture();
     m_impl->buffer.Release();
+    m_impl->damage = WholeDamage();
     m_impl->barV = m_impl->barH = BarState();
     m_impl->isTrackingLeave = false;
     CWnd::OnDestroy();

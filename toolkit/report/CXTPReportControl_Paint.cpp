@@ -10,6 +10,10 @@ namespace {
 /// Beyond this many rectangles the damage is painted as one.
 constexpr DWORD MaxDamageRects = 24;
 
+/// So many requests before a painting go to the system. Those after them wait for the painting, at most this long.
+constexpr int MaxRequests = 64;
+constexpr UINT DamageDelay = 10;
+
 /// The rectangles that make up the region; its bounds alone when there are very many.
 std::vector<CRect> RectsOf(const CRgn& region) {
     std::vector<BYTE> bytes(::GetRegionData(region, 0, nullptr));
@@ -42,7 +46,30 @@ private:
 
 void CXTPReportControl::RedrawControl() {
     if (m_hWnd)
-        Invalidate(FALSE);
+        m_impl->AskForRedraw();
+}
+
+void CXTPReportControl::Impl::AskForRedraw() {
+    // While the owner has switched redrawing off, a request has no effect, and none is counted.
+    const bool hasEffect = (control.GetStyle() & WS_VISIBLE) != 0;
+    if (!hasEffect || damage.requests < MaxRequests) {
+        damage.requests = hasEffect ? damage.requests + 1 : 0;
+        control.Invalidate(FALSE);
+        return;
+    }
+    // Should the window have been declared valid since, the timer makes up for it.
+    if (!damage.isTimerSet)
+        damage.isTimerSet = control.SetTimer(ReportTimerDamage, DamageDelay) != 0;
+    if (!damage.isTimerSet)
+        control.Invalidate(FALSE);
+}
+
+void CXTPReportControl::Impl::RenewDamage() {
+    control.KillTimer(ReportTimerDamage);
+    const bool isOwed = damage.requests == MaxRequests;
+    damage = WholeDamage();
+    if (isOwed)
+        control.Invalidate(FALSE);
 }
 
 void CXTPReportControl::RedrawRow(const CXTPReportRow* pRow) {
@@ -88,11 +115,12 @@ void CXTPReportControl::Impl::RefreshMovedRow(int rowIndex) {
 BOOL CXTPReportControl::OnEraseBkgnd(CDC*) { return TRUE; } // painting leaves no gap
 
 void CXTPReportControl::OnPaint() {
-    CRgn damage;
-    damage.CreateRectRgn(0, 0, 0, 0);
-    GetUpdateRgn(&damage, FALSE);
+    m_impl->damage.requests = 0;
+    CRgn region;
+    region.CreateRectRgn(0, 0, 0, 0);
+    GetUpdateRgn(&region, FALSE);
     CPaintDC dc(this);
-    for (const CRect& rc : RectsOf(damage))
+    for (const CRect& rc : RectsOf(region))
         m_impl->PaintRect(dc, rc);
 }
 

@@ -304,6 +304,9 @@ void CXTPReportControl::OnTimer(UINT_PTR nIDEvent) {
     case ReportTimerThumbs:
         m_impl->RedrawStaleThumbs();
         break;
+    case ReportTimerDamage:
+        m_impl->RenewDamage();
+        break;
     default:
         CWnd::OnTimer(nIDEvent);
         break;

@@ -61,6 +61,13 @@ struct BarState {
     bool isThumbStale = false; ///< the position is set, but the bar was not redrawn
 };
 
+/// Requests to redraw everything. A hundred thousand changed cells make as many of them, and the system takes longer
+/// for one than the cell for its change, so only the first ones before a painting go to the system.
+struct WholeDamage {
+    int requests = 0;        ///< since the last painting
+    bool isTimerSet = false; ///< later requests are made up for when it rings
+};
+
 struct CXTPReportControl::Impl {
     explicit Impl(CXTPReportControl& owner);
     ~Impl();
@@ -102,8 +109,11 @@ struct CXTPReportControl::Impl {
 
     // --- Drawing ----------------------------------------------------------------------------------------------------
     BackBuffer buffer;
+    WholeDamage damage;
     std::optional<bool> focusWhileDrawing; ///< what HasFocus answers during a drawing
 
+    void AskForRedraw();
+    void RenewDamage();
     void InvalidateRows(gridgeometry::IndexRange range) const;
     void InvalidateFocusLook() const;
     void PaintRect(CDC& dc, const CRect& rc);
@@ -166,3 +176,4 @@ struct CXTPReportControl::Impl {
 /// The control's timers; numbers of its own, because derived classes have theirs in the same window.
 constexpr UINT_PTR ReportTimerAutoScroll = 0x7E51;
 constexpr UINT_PTR ReportTimerThumbs = 0x7E52;
+constexpr UINT_PTR ReportTimerDamage = 0x7E53;

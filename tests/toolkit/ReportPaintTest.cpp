@@ -12,6 +12,16 @@ protected:
     CXTPReportPaintManager* m_look;
 };
 
+/// A cell that shows where the mouse is.
+class FollowingItem : public ProbeItem {
+public:
+    using ProbeItem::ProbeItem;
+    void OnMouseMove(UINT nFlags, CPoint point, CXTPReportControl* pReportControl) override {
+        ProbeItem::OnMouseMove(nFlags, point, pReportControl);
+        pReportControl->RedrawControl();
+    }
+};
+
 // --- Looks ----------------------------------------------------------------------------------------------------------
 
 TEST_F(PaintTest, GridLinesAreTheLastPixelsOfACell) {
@@ -271,6 +281,28 @@ TEST_F(PaintTest, VeryManyRequestsCoalesceAndTheLastIsKept) {
     m_grid.RedrawControl();
     Pump(100);
     EXPECT_EQ(CellsDrawn(), VisibleRows * 3) << "a request after the window was declared valid";
+}
+
+TEST_F(PaintTest, ACellThatIsDraggedDrawsItsRowAtOnceAndTheRestSoonAfter) {
+    auto* record = new CXTPReportRecord;
+    for (const wchar_t* text : {L"a", L"b", L"c"})
+        record->AddItem(new FollowingItem(text));
+    m_grid.AddRecord(record);
+    AddRecords(4);
+    Press(Cell(0));
+    Settle();
+    Move(Cell(0) + CSize(3, 0));
+    m_grid.UpdateWindow();
+    EXPECT_EQ(Item(0, 0)->drawn, 1);
+    EXPECT_EQ(CellsDrawn(), 3);
+    Pump(200);
+    EXPECT_GE(Item(4, 2)->drawn, 1);
+    Release(Cell(0));
+
+    Settle();
+    Move(Cell(0) + CSize(6, 0), 0);
+    m_grid.UpdateWindow();
+    EXPECT_EQ(CellsDrawn(), 5 * 3) << "without a drag";
 }
 
 TEST_F(PaintTest, RedrawingARowDrawsThatRow) {

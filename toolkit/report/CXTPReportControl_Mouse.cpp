@@ -307,8 +307,15 @@ void CXTPReportControl::Impl::HoverHeader(UINT flags, CPoint point) {
 void CXTPReportControl::Impl::RouteMouseMove(UINT flags, CPoint point) {
     RefreshMovedRow(RowAt(point));
     const CellHit hit = HitCell(point);
-    if (hit.item)
-        hit.item->OnMouseMove(flags, point, &control);
+    if (!hit.item)
+        return;
+    const WindowGuard guard(control);
+    // A virtual item stands in every row.
+    const bool isDrag = (flags & MK_LBUTTON) != 0 && !control.IsVirtualMode() && ::GetCapture() == control.m_hWnd;
+    draggedRow = isDrag ? hit.rowIndex : -1;
+    hit.item->OnMouseMove(flags, point, &control);
+    if (!guard.IsGone())
+        draggedRow = -1;
 }
 
 void CXTPReportControl::OnMouseLeave() {

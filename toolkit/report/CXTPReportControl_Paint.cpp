@@ -12,7 +12,7 @@ constexpr DWORD MaxDamageRects = 24;
 
 /// So many requests before a painting go to the system. Those after them wait for the painting, at most this long.
 constexpr int MaxRequests = 64;
-constexpr UINT DamageDelay = 10;
+constexpr UINT DamageDelay = 50;
 
 /// The rectangles that make up the region; its bounds alone when there are very many.
 std::vector<CRect> RectsOf(const CRgn& region) {
@@ -50,6 +50,12 @@ void CXTPReportControl::RedrawControl() {
 }
 
 void CXTPReportControl::Impl::AskForRedraw() {
+    // A cell that is dragged follows the mouse at the cost of its row; what else may have changed shows a little later.
+    if (draggedRow >= 0 && RedrawLater()) {
+        damage.isRestOwed = true;
+        InvalidateRows({draggedRow, draggedRow});
+        return;
+    }
     // While the owner has switched redrawing off, a request has no effect, and none is counted.
     const bool hasEffect = (control.GetStyle() & WS_VISIBLE) != 0;
     if (!hasEffect || damage.requests < MaxRequests) {
@@ -58,15 +64,19 @@ void CXTPReportControl::Impl::AskForRedraw() {
         return;
     }
     // Should the window have been declared valid since, the timer makes up for it.
+    if (!RedrawLater())
+        control.Invalidate(FALSE);
+}
+
+bool CXTPReportControl::Impl::RedrawLater() {
     if (!damage.isTimerSet)
         damage.isTimerSet = control.SetTimer(ReportTimerDamage, DamageDelay) != 0;
-    if (!damage.isTimerSet)
-        control.Invalidate(FALSE);
+    return damage.isTimerSet;
 }
 
 void CXTPReportControl::Impl::RenewDamage() {
     control.KillTimer(ReportTimerDamage);
-    const bool isOwed = damage.requests == MaxRequests;
+    const bool isOwed = damage.isRestOwed || damage.requests == MaxRequests;
     damage = WholeDamage();
     if (isOwed)
         control.Invalidate(FALSE);

@@ -66,6 +66,7 @@ struct BarState {
 struct WholeDamage {
     int requests = 0;        ///< since the last painting
     bool isTimerSet = false; ///< later requests are made up for when it rings
+    bool isRestOwed = false; ///< the row of a dragged cell was damaged in place of everything
 };
 
 struct CXTPReportControl::Impl {
@@ -113,6 +114,8 @@ struct CXTPReportControl::Impl {
     std::optional<bool> focusWhileDrawing; ///< what HasFocus answers during a drawing
 
     void AskForRedraw();
+    /// False when there is no timer to be had.
+    bool RedrawLater();
     void RenewDamage();
     void InvalidateRows(gridgeometry::IndexRange range) const;
     void InvalidateFocusLook() const;
@@ -142,6 +145,7 @@ struct CXTPReportControl::Impl {
     XTPReportMouseMode mouseMode = xtpReportMouseNothing;
     RowPress press;
     bool isTrackingLeave = false;
+    int draggedRow = -1; ///< while a cell in it is told of a mouse move with the button down and captured
 
     CellHit HitCell(CPoint point) const;
     XTP_REPORTRECORDITEM_CLICKARGS ClickArgs(const CellHit& hit, CPoint point) const;

@@ -29,9 +29,24 @@ void DrawPlainBar(const Drawing& drawing, COLORREF dark, COLORREF light) {
                        colors[1]);
 }
 
+/// The colours of a gradient bar. The bars of a grid mostly share theirs, so the ramp that was made last is kept.
+const std::array<std::uint32_t, bargeometry::GradientColors>& GradientColors(COLORREF light, COLORREF dark) {
+    struct Ramp {
+        COLORREF light = 0;
+        COLORREF dark = 0;
+        std::array<std::uint32_t, bargeometry::GradientColors> colors{}; // from black to black
+    };
+    thread_local Ramp ramp;
+    if (ramp.light != light || ramp.dark != dark) {
+        ramp.light = light;
+        ramp.dark = dark;
+        colorramp::Gradient(light, dark, ramp.colors);
+    }
+    return ramp.colors;
+}
+
 void DrawGradientBar(const Drawing& drawing, bargeometry::Darkest darkest, COLORREF dark, COLORREF light) {
-    std::array<std::uint32_t, bargeometry::GradientColors> colors{};
-    colorramp::Gradient(light, dark, colors);
+    const auto& colors = GradientColors(light, dark);
     for (const auto& piece : GradientBar(plotcell::ExtentOf(drawing.rect), drawing.marks, darkest))
         plotcell::FillSpan(drawing.dc, drawing.rect, piece.span, colors[piece.color]);
 }

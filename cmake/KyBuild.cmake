@@ -19,7 +19,8 @@ endif()
 
 add_compile_options(-Wall -Wextra -Werror)
 if(WIN32)
-    add_compile_definitions(UNICODE _UNICODE STRICT NOMINMAX WINVER=0x0601 _WIN32_WINNT=0x0601 _WIN32_IE=0x0800)
+    set(KY_WINDOWS_DEFINITIONS UNICODE _UNICODE STRICT NOMINMAX WINVER=0x0601 _WIN32_WINNT=0x0601 _WIN32_IE=0x0800)
+    add_compile_definitions(${KY_WINDOWS_DEFINITIONS})
     # Message-map thunks and event signatures leave parameters unused by design of the interface.
     add_compile_options(-Wno-unused-parameter -Wno-cast-function-type)
 else()
@@ -34,6 +35,7 @@ if(WIN32)
         execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${dll}
             OUTPUT_VARIABLE path OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
         file(COPY ${path} DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+        list(APPEND KY_RUNTIME_DLLS ${path})
     endforeach()
 endif()
 
@@ -43,12 +45,14 @@ function(ky_add_pure_library name)
     target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
 endfunction()
 
-# ky_add_house(NAME DEFINE define SOURCES...): one DLL of the house, exporting through its own macro.
+# ky_add_house(NAME EXPORT_DEFINE define DESCRIPTION text SOURCES...): one DLL of the house, exporting through its own
+# macro; the description and the project's version are in its resources.
 function(ky_add_house name)
-    cmake_parse_arguments(ARG "" "EXPORT_DEFINE" "SOURCES" ${ARGN})
-    add_library(${name} SHARED ${ARG_SOURCES})
+    cmake_parse_arguments(ARG "" "EXPORT_DEFINE;DESCRIPTION" "SOURCES" ${ARGN})
+    configure_file(${PROJECT_SOURCE_DIR}/cmake/VersionInfo.rc.in ${name}.rc @ONLY)
+    add_library(${name} SHARED ${ARG_SOURCES} ${CMAKE_CURRENT_BINARY_DIR}/${name}.rc)
     target_compile_definitions(${name} PRIVATE ${ARG_EXPORT_DEFINE})
-    set_target_properties(${name} PROPERTIES PREFIX "" IMPORT_PREFIX "lib")
+    set_target_properties(${name} PROPERTIES PREFIX "" IMPORT_PREFIX "lib" VERSION ${PROJECT_VERSION})
 endfunction()
 
 include(KyDependencies)

@@ -19,6 +19,7 @@ if(WIN32)
         INTERFACE_COMPILE_DEFINITIONS "BOOST_LOCALE_DYN_LINK;BOOST_ALL_NO_LIB"
         INTERFACE_LINK_LIBRARIES Boost::headers)
     file(COPY ${KY_DEPS_DIR}/bin/libboost_locale.dll DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
+    list(APPEND KY_RUNTIME_DLLS ${KY_DEPS_DIR}/bin/libboost_locale.dll)
 endif()
 
 # GoogleTest is compiled in each build: it must have the same runtime and the same sanitizers as the tests.

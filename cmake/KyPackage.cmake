@@ -1,0 +1,100 @@
+# What `cmake --install` and tools/package deliver: DLLs, import libraries, public headers, translations, the CMake
+# package KyControls, and the notices of the libraries that are shipped along.
+#
+#   bin                          DLLs, those of the compiler's runtime and Boost.Locale among them; locale/
+#   lib, lib/cmake/KyControls    import libraries, the entry point's library, the package's description
+#   include/kycontrols           framework/, toolkit/, ky/: each house's headers, in folders as in the source
+#   share/doc/kycontrols         how to use it; licenses/
+include(CMakePackageConfigHelpers)
+
+# The public headers: these, and those that they include in quotes.
+set(KY_PUBLIC_KY_HEADERS
+    common/ParseDouble.h
+    common/Translation.h
+    plotcells/KyBarChartRecordItem.h
+    plotcells/KyPlotRecordItem.h
+    plotcells/KyPlotRecordReportControl.h
+    reportgrid/KyReportControl.h
+    reportgrid/KyReportHeader.h
+    themes/KyPaintTheme.h
+    themes/Themes.h)
+
+# ky_reachable_headers(RESULT HOUSE HEADER...): the headers, relative to the house's folder, with all that they include.
+function(ky_reachable_headers result house)
+    set(root ${PROJECT_SOURCE_DIR}/${house})
+    set(waiting ${ARGN})
+    set(found "")
+    while(waiting)
+        list(POP_FRONT waiting header)
+        if(header IN_LIST found)
+            continue()
+        endif()
+        list(APPEND found ${header})
+        # A change of the header may bring in others: CMake has to look again.
+        set_property(DIRECTORY ${PROJECT_SOURCE_DIR} APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${root}/${header})
+        get_filename_component(folder ${root}/${header} DIRECTORY)
+        file(STRINGS ${root}/${header} lines REGEX "^#include \"")
+        foreach(line IN LISTS lines)
+            string(REGEX REPLACE "^#include \"([^\"]+)\".*" "\\1" included "${line}")
+            get_filename_component(path ${folder}/${included} ABSOLUTE)
+            if(NOT EXISTS ${path})
+                message(FATAL_ERROR "${house}/${header} includes ${included}, which is not there")
+            endif()
+            file(RELATIVE_PATH path ${root} ${path})
+            list(APPEND waiting ${path})
+        endforeach()
+    endwhile()
+    set(${result} ${found} PARENT_SCOPE)
+endfunction()
+
+# ky_install_headers(HOUSE HEADER...)
+function(ky_install_headers house)
+    ky_reachable_headers(headers ${house} ${ARGN})
+    foreach(header IN LISTS headers)
+        get_filename_component(folder ${header} DIRECTORY)
+        install(FILES ${PROJECT_SOURCE_DIR}/${house}/${header} DESTINATION include/kycontrols/${house}/${folder})
+    endforeach()
+endfunction()
+
+file(GLOB framework_headers CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR}/framework
+    ${PROJECT_SOURCE_DIR}/framework/include/afx*.h ${PROJECT_SOURCE_DIR}/framework/include/atl*.h)
+ky_install_headers(framework ${framework_headers})
+ky_install_headers(toolkit include/XTToolkitPro.h)
+ky_install_headers(ky ${KY_PUBLIC_KY_HEADERS})
+
+# Programs are compiled as the DLLs were: Unicode, the same Windows version, the same dialect.
+target_compile_definitions(kyframework INTERFACE "$<INSTALL_INTERFACE:${KY_WINDOWS_DEFINITIONS}>")
+target_compile_features(kyframework INTERFACE cxx_std_20)
+target_include_directories(kyframework INTERFACE $<INSTALL_INTERFACE:include/kycontrols/framework/include>)
+target_include_directories(kytoolkit INTERFACE $<INSTALL_INTERFACE:include/kycontrols/toolkit/include>)
+target_include_directories(kyui INTERFACE $<INSTALL_INTERFACE:include/kycontrols/ky>)
+
+install(TARGETS kyframework kyframework_main kytoolkit kyui EXPORT KyControlsTargets
+    RUNTIME DESTINATION bin ARCHIVE DESTINATION lib)
+install(EXPORT KyControlsTargets NAMESPACE KyControls:: DESTINATION lib/cmake/KyControls)
+configure_package_config_file(cmake/KyControlsConfig.cmake.in ${CMAKE_BINARY_DIR}/KyControlsConfig.cmake
+    INSTALL_DESTINATION lib/cmake/KyControls)
+write_basic_package_version_file(${CMAKE_BINARY_DIR}/KyControlsConfigVersion.cmake COMPATIBILITY SameMinorVersion)
+install(FILES ${CMAKE_BINARY_DIR}/KyControlsConfig.cmake ${CMAKE_BINARY_DIR}/KyControlsConfigVersion.cmake
+    DESTINATION lib/cmake/KyControls)
+
+install(PROGRAMS ${KY_RUNTIME_DLLS} DESTINATION bin)
+install(DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/locale DESTINATION bin)
+install(FILES docs/using.md DESTINATION share/doc/kycontrols)
+
+# Notices, by the Debian package that each shipped library comes from. Debian refers to the long texts of the GNU
+# licences, which Windows does not have; they go along.
+set(notices share/doc/kycontrols/licenses)
+install(FILES /usr/share/doc/gcc-mingw-w64-x86-64-posix-runtime/copyright DESTINATION ${notices}
+    RENAME libstdc++-and-libgcc.txt)
+install(FILES /usr/share/doc/mingw-w64-x86-64-dev/copyright DESTINATION ${notices} RENAME libwinpthread.txt)
+install(FILES /usr/share/doc/libboost1.81-dev/copyright DESTINATION ${notices} RENAME libboost_locale.txt)
+install(FILES /usr/share/common-licenses/GPL-3 /usr/share/common-licenses/LGPL-2.1 DESTINATION ${notices})
+
+# The zip. Who makes it has built what is in it, see tools/package.
+set(CMAKE_SKIP_INSTALL_ALL_DEPENDENCY ON)
+set(CPACK_GENERATOR ZIP)
+set(CPACK_PACKAGE_NAME KyControls)
+set(CPACK_PACKAGE_FILE_NAME KyControls-${PROJECT_VERSION}-win64)
+set(CPACK_STRIP_FILES ON)
+include(CPack)

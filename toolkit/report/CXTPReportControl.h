@@ -85,7 +85,9 @@ public:
     int GetFullyVisibleRowCount() const; ///< whole rows that fit, at least 1
 
     // --- Drawing -----------------------------------------------------------------------------------------------------
-    void RedrawControl();                      ///< asks for a redraw of everything; requests coalesce
+    /// Asks for a redraw of everything; requests coalesce. From a cell that is being dragged, its row is redrawn with
+    /// the next painting and everything else within a twentieth of a second.
+    void RedrawControl();
     void RedrawRow(const CXTPReportRow* pRow); ///< asks for a redraw of one row
     /// Lays out header, columns and scroll bars again and redraws.
     void AdjustLayout();

@@ -9,11 +9,11 @@ set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
-    # Precompiled headers are cacheable only when ccache may overlook what they bring in themselves;
-    # the base directory lets checkouts in different folders share results.
+    # Precompiled headers are cacheable only when ccache may overlook what they bring in themselves. They hold the paths of
+    # their headers, so that one made in another checkout does not fit here: each checkout has a cache of its own.
     set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
         CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
-        CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${CCACHE_PROGRAM})
+        CCACHE_NAMESPACE=${CMAKE_SOURCE_DIR} ${CCACHE_PROGRAM})
     add_compile_options(-fpch-preprocess)
 endif()
 

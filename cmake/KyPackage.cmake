@@ -7,60 +7,19 @@
 #   share/doc/kycontrols         how to use it; licenses/
 include(CMakePackageConfigHelpers)
 
-# The public headers: these, and those that they include in quotes.
-set(KY_PUBLIC_KY_HEADERS
-    common/ParseDouble.h
-    common/Translation.h
-    plotcells/KyBarChartRecordItem.h
-    plotcells/KyPlotRecordItem.h
-    plotcells/KyPlotRecordReportControl.h
-    reportgrid/KyReportControl.h
-    reportgrid/KyReportHeader.h
-    themes/KyPaintTheme.h
-    themes/Themes.h)
-
-# ky_reachable_headers(RESULT HOUSE HEADER...): the headers, relative to the house's folder, with all that they include.
-function(ky_reachable_headers result house)
-    set(root ${PROJECT_SOURCE_DIR}/${house})
-    set(waiting ${ARGN})
-    set(found "")
-    while(waiting)
-        list(POP_FRONT waiting header)
-        if(header IN_LIST found)
-            continue()
-        endif()
-        list(APPEND found ${header})
-        # A change of the header may bring in others: CMake has to look again.
-        set_property(DIRECTORY ${PROJECT_SOURCE_DIR} APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${root}/${header})
-        get_filename_component(folder ${root}/${header} DIRECTORY)
-        file(STRINGS ${root}/${header} lines REGEX "^#include \"")
-        foreach(line IN LISTS lines)
-            string(REGEX REPLACE "^#include \"([^\"]+)\".*" "\\1" included "${line}")
-            get_filename_component(path ${folder}/${included} ABSOLUTE)
-            if(NOT EXISTS ${path})
-                message(FATAL_ERROR "${house}/${header} includes ${included}, which is not there")
-            endif()
-            file(RELATIVE_PATH path ${root} ${path})
-            list(APPEND waiting ${path})
-        endforeach()
-    endwhile()
-    set(${result} ${found} PARENT_SCOPE)
-endfunction()
-
-# ky_install_headers(HOUSE HEADER...)
-function(ky_install_headers house)
-    ky_reachable_headers(headers ${house} ${ARGN})
+include(KyPublicHeaders)
+# A new header of the framework's include folder is public.
+file(GLOB framework_headers CONFIGURE_DEPENDS
+    ${PROJECT_SOURCE_DIR}/framework/include/afx*.h ${PROJECT_SOURCE_DIR}/framework/include/atl*.h)
+foreach(house framework toolkit ky)
+    ky_public_headers(headers ${house})
     foreach(header IN LISTS headers)
+        # A change of the header may bring in others: CMake has to look again.
+        set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/${house}/${header})
         get_filename_component(folder ${header} DIRECTORY)
         install(FILES ${PROJECT_SOURCE_DIR}/${house}/${header} DESTINATION include/kycontrols/${house}/${folder})
     endforeach()
-endfunction()
-
-file(GLOB framework_headers CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR}/framework
-    ${PROJECT_SOURCE_DIR}/framework/include/afx*.h ${PROJECT_SOURCE_DIR}/framework/include/atl*.h)
-ky_install_headers(framework ${framework_headers})
-ky_install_headers(toolkit include/XTToolkitPro.h)
-ky_install_headers(ky ${KY_PUBLIC_KY_HEADERS})
+endforeach()
 
 # Programs are compiled as the DLLs were: Unicode, the same Windows version, the same dialect.
 target_compile_definitions(kyframework INTERFACE "$<INSTALL_INTERFACE:${KY_WINDOWS_DEFINITIONS}>")

@@ -16,6 +16,7 @@ virtual screen with mouse, keyboard, clipboard and screenshots|20 s|xvfb xdotool
 Boost headers|20 s|libboost1.81-dev
 GoogleTest, in source|5 s|googletest
 gettext, which compiles the translations|10 s|gettext
+Doxygen, which makes the reference pages|10 s|doxygen
 source packages: continued downloads, unpacking|5 s|curl xz-utils
 '
 

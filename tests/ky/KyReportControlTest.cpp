@@ -185,6 +185,30 @@ TEST_F(KyReportControlTest, ChooserShowsNothingBesideTheColumns) {
     EXPECT_FALSE(menu.Shown());
 }
 
+TEST_F(KyReportControlTest, ChooserOpensByKeyboardAndTogglesTheChosenColumn) {
+    Host host;
+    host.grid.EnableShowHideColumns({});
+    host.grid.SetFocusedColumn(host.Column(3));
+    BYTE former[256], alt[256] = {};
+    ::GetKeyboardState(former);
+    alt[VK_MENU] = 0x80;
+    {
+        MenuDriver menu(3 + 2);
+        ::SetKeyboardState(alt);
+        host.grid.SendMessage(WM_SYSKEYDOWN, VK_DOWN, 0x20000001);
+        ::SetKeyboardState(former);
+        EXPECT_TRUE(menu.Shown());
+    }
+    EXPECT_FALSE(host.Column(3)->IsVisible());
+    EXPECT_EQ(host.grid.GetFocusedColumn(), host.Column(4)) << "its neighbour goes on";
+    {
+        MenuDriver menu(3 + 2);
+        host.grid.SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(host.grid.m_hWnd), MAKELPARAM(-1, -1));
+        EXPECT_TRUE(menu.Shown());
+    }
+    EXPECT_TRUE(host.Column(3)->IsVisible());
+}
+
 TEST_F(KyReportControlTest, ChooserShowsNothingDuringAColumnDrag) {
     Host host;
     host.grid.EnableShowHideColumns({});

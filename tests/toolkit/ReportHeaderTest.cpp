@@ -343,7 +343,7 @@ TEST_F(HeaderTest, AMenuOverADividerFindsTheIdleMode) {
 TEST_F(HeaderTest, TheKeyboardOpensTheHeadersMenuWhereTheOwnerHasNone) {
     m_grid.SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(m_grid.m_hWnd), MAKELPARAM(-1, -1));
     EXPECT_EQ(m_owner.Count(NM_RCLICK), 1);
-    EXPECT_THAT(m_header->menus, ElementsAre(HeaderOf(0)));
+    EXPECT_THAT(m_header->menus, ElementsAre(CPoint(0, HeaderHeight() - 1))) << "under the first column's header";
     m_owner.answer = 1;
     m_grid.SendMessage(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(m_grid.m_hWnd), MAKELPARAM(-1, -1));
     EXPECT_EQ(m_header->menus.size(), 1U) << "the owner has shown its own";

@@ -4,6 +4,7 @@
 #include "ToolTipWindow.h"
 
 #include <cstdlib>
+#include <optional>
 
 namespace {
 
@@ -51,6 +52,7 @@ struct CXTPToolTipContext::Impl : ToolTipWindow::Timers {
     HWND host = nullptr;
     CPoint point; ///< client coordinates of the host
     Tool tool;
+    std::optional<CPoint> restingAt; ///< screen: where the mouse rested when keys asked for the tip
     int initialDelay = -1, reshowDelay = -1, autoPopDelay = -1; ///< milliseconds; −1: the system's
 
     // The system derives its tip times from the double click's.
@@ -62,6 +64,7 @@ struct CXTPToolTipContext::Impl : ToolTipWindow::Timers {
 
     TipAppearance Appearance() const { return {context.m_style, context.m_nMaxTipWidth, context.m_rcMargin}; }
 
+    bool IsResting(const CWnd& hostWindow, LPARAM lParam) const;
     void Track(CWnd& hostWindow, CPoint pt);
     void StayOnTool(Tool now);
     void EnterTool(CWnd& hostWindow, Tool now);
@@ -114,11 +117,33 @@ void CXTPToolTipContext::CancelToolTips() {
     m_impl->End(m_impl->phase == Impl::Phase::Idle ? Impl::Phase::Idle : Impl::Phase::Dismissed);
 }
 
+BOOL CXTPToolTipContext::ShowToolTip(CWnd* pWnd, CPoint point) {
+    if (!pWnd || !pWnd->m_hWnd)
+        return FALSE;
+    Tool now = ToolAt(*pWnd, point);
+    m_impl->End(Impl::Phase::Idle);
+    if (!now.IsThere())
+        return FALSE;
+    m_impl->EnterTool(*pWnd, std::move(now));
+    if (m_impl->phase != Impl::Phase::Waiting)
+        return FALSE;
+    m_impl->point = point;
+    m_impl->window.KillTimer(TimerShow);
+    m_impl->Show();
+    CPoint cursor;
+    ::GetCursorPos(&cursor);
+    m_impl->restingAt = cursor;
+    return IsTipVisible();
+}
+
 void CXTPToolTipContext::FilterToolTipMessage(CWnd* pWnd, UINT message, WPARAM wParam, LPARAM lParam) {
     if (!pWnd)
         return;
     switch (message) {
     case WM_MOUSEMOVE:
+        // The system tells of a move when a window appears, too.
+        if (m_impl->IsResting(*pWnd, lParam))
+            break;
         // While a button is down the user is busy with what is under it.
         if (wParam & (MK_LBUTTON | MK_MBUTTON | MK_RBUTTON))
             CancelToolTips();
@@ -143,6 +168,12 @@ void CXTPToolTipContext::FilterToolTipMessage(CWnd* pWnd, UINT message, WPARAM w
     default:
         break;
     }
+}
+
+bool CXTPToolTipContext::Impl::IsResting(const CWnd& hostWindow, LPARAM lParam) const {
+    CPoint screen(static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam)));
+    hostWindow.ClientToScreen(&screen);
+    return restingAt && *restingAt == screen;
 }
 
 // --- From tool to tool ----------------------------------------------------------------------------------------------
@@ -200,6 +231,7 @@ void CXTPToolTipContext::Impl::End(Phase next) {
         window.Hide();
     }
     phase = next;
+    restingAt.reset();
     if (next == Phase::Idle) {
         host = nullptr;
         tool = Tool();

@@ -29,6 +29,9 @@ public:
     /// Looks at a message of `pWnd` before it is dispatched: mouse moves ask `pWnd->OnToolHitTest` and start, move or
     /// end the tip; presses, keys and wheel end it.
     void FilterToolTipMessage(CWnd* pWnd, UINT message, WPARAM wParam, LPARAM lParam);
+    /// Shows the tip of the tool at the point (client coordinates of `pWnd`) at once, as keys ask for it; it stays as
+    /// long as the mouse rests. Returns FALSE when there is no tool with a text.
+    BOOL ShowToolTip(CWnd* pWnd, CPoint point);
     /// Hides the tip that is shown, if any.
     void CancelToolTips();
     BOOL IsTipVisible() const;

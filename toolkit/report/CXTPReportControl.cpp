@@ -31,7 +31,9 @@ BEGIN_MESSAGE_MAP(CXTPReportControl, CWnd)
     ON_WM_CAPTURECHANGED()
     ON_WM_CANCELMODE()
     ON_WM_KEYDOWN()
+    ON_WM_SYSKEYDOWN()
     ON_WM_CHAR()
+    ON_WM_SYSCHAR()
     ON_WM_GETDLGCODE()
     ON_WM_HSCROLL()
     ON_WM_VSCROLL()
@@ -166,7 +168,11 @@ void CXTPReportControl::OnRowsCleared() {
     AdjustLayout();
 }
 
-void CXTPReportControl::OnColumnRemoved(CXTPReportColumn* pColumn) { m_impl->header->OnColumnRemoved(pColumn); }
+void CXTPReportControl::OnColumnRemoved(CXTPReportColumn* pColumn) {
+    if (m_impl->focusedColumn == pColumn)
+        m_impl->focusedColumn = nullptr;
+    m_impl->header->OnColumnRemoved(pColumn);
+}
 
 // --- Parts ----------------------------------------------------------------------------------------------------------
 

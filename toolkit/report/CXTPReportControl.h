@@ -18,10 +18,14 @@
 /// cell can be dragged right after a click. Escape, a right click and the loss of the capture end a gesture without
 /// effect.
 ///
-/// Keyboard. Arrows, page keys, home and end move focus and selection, with shift they extend the selection, with ctrl
-/// they move the focus alone; space selects, ctrl+space turns round; ctrl+A selects all; left and right scroll
-/// sideways; ctrl+plus fits the columns; typing finds the row whose text in the sorted (else the first) column begins
-/// with it. The menu key sends NM_RCLICK for the focused row; when the owner answers 0, the header's menu opens.
+/// Keyboard. Up, down, page keys, home and end move focus and selection, with shift they extend the selection, with
+/// ctrl they move the focus alone; space selects, ctrl+space turns round; ctrl+A selects all; typing finds the row
+/// whose text in the sorted (else the first) column begins with it. Left and right move the focused column, with ctrl
+/// they scroll sideways, as alt+page keys do by a page; F3 sorts by it, with shift in addition; alt+left and alt+right
+/// change its width, alt+plus fits it, ctrl+plus fits all; ctrl+shift+left and right move it; alt+down opens the menu
+/// of its header. Enter follows the link of the focused cell, else it sends NM_RETURN. The menu key sends NM_RCLICK for
+/// the focused cell; when the owner answers 0, the menu of the focused column's header opens. Ctrl+F1 shows the tool
+/// tip of the focused cell.
 ///
 /// Drawing. Only damaged cells are drawn. Scrolling moves the pixels of the rows that stay; an item whose pixels were
 /// moved is drawn again before the mouse meets it, so that it may keep the rectangle of its last drawing. Rows have one
@@ -73,6 +77,15 @@ public:
     CXTPReportRow* GetFocusedRow() const;
     /// Focuses the row and, unless told otherwise, selects it alone and scrolls it into view.
     void SetFocusedRow(CXTPReportRow* pRow, BOOL bSelect = TRUE);
+    /// The column that the keyboard acts on: the one focused last, a neighbour when it is hidden now; null before the
+    /// user or the host has focused one.
+    CXTPReportColumn* GetFocusedColumn() const;
+    /// Focuses the column, shows the mark of the focus and scrolls the column into view. Hidden columns and those of
+    /// other controls are not focused; null takes the focus from the column.
+    void SetFocusedColumn(CXTPReportColumn* pColumn);
+    /// Whether header and cell of the focused column are marked while the control has the focus: since the keyboard
+    /// moved among columns, until a press of the mouse.
+    BOOL IsColumnFocusVisible() const;
     virtual void OnSelectionChanged(); ///< tells the owner (XTP_NM_REPORT_SELCHANGED)
     BOOL HasFocus() const;
 
@@ -145,7 +158,9 @@ protected:
     void OnCaptureChanged(CWnd* pWnd);
     void OnCancelMode();
     void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    void OnSysKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
+    void OnSysChar(UINT nChar, UINT nRepCnt, UINT nFlags);
     UINT OnGetDlgCode();
     void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
     void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);

@@ -1,16 +1,20 @@
-// The keyboard in a report control: moving and selecting, scrolling, finding by typing.
+// The keyboard in a report control: moving and selecting among rows, finding by typing, and all that the mouse does
+// with columns.
 #include "ReportControlImpl.h"
 
 #include "CXTPReportColumn.h"
 #include "CXTPReportRecord.h"
 #include "CXTPReportRecordItem.h"
+#include "HeaderExtents.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace {
 
 /// Letters that follow each other within this time belong to one word.
 constexpr DWORD TypingPause = 1000;
+constexpr int ResizeStepAt96Dpi = 8;
 
 bool IsKeyDown(int key) { return ::GetKeyState(key) < 0; }
 
@@ -45,7 +49,9 @@ UINT CXTPReportControl::OnGetDlgCode() {
 void CXTPReportControl::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
     m_impl->toolTips.CancelToolTips();
     const WindowGuard guard(*this);
-    if (m_impl->MoveByKey(nChar) || m_impl->ScrollByKey(nChar) || m_impl->SelectByKey(nChar) || guard.IsGone())
+    const bool isDone = m_impl->MoveByKey(nChar) || m_impl->SelectByKey(nChar) || m_impl->ColumnByKey(nChar) ||
+                        m_impl->CellByKey(nChar);
+    if (isDone || guard.IsGone())
         return;
     if (nChar == VK_ESCAPE)
         m_impl->CancelGesture();
@@ -63,13 +69,6 @@ bool CXTPReportControl::Impl::MoveByKey(UINT key) {
     return true;
 }
 
-bool CXTPReportControl::Impl::ScrollByKey(UINT key) {
-    if (key != VK_LEFT && key != VK_RIGHT)
-        return false;
-    ScrollSidewaysTo(leftOffset + (key == VK_LEFT ? -SidewaysStep() : SidewaysStep()));
-    return true;
-}
-
 bool CXTPReportControl::Impl::SelectByKey(UINT key) {
     const bool isCtrl = IsKeyDown(VK_CONTROL);
     if (key == VK_SPACE && (isCtrl || !IsTyping()) && focusedRow >= 0) {
@@ -82,11 +81,150 @@ bool CXTPReportControl::Impl::SelectByKey(UINT key) {
             ChangeSelection([this] { selectedRows->SelectBlock(0, rows->GetCount() - 1, TRUE); });
         return true;
     }
+    return false;
+}
+
+// --- Columns --------------------------------------------------------------------------------------------------------
+
+bool CXTPReportControl::Impl::ColumnByKey(UINT key) {
+    const bool isCtrl = IsKeyDown(VK_CONTROL), isShift = IsKeyDown(VK_SHIFT);
+    if (key == VK_LEFT || key == VK_RIGHT) {
+        const int direction = key == VK_LEFT ? -1 : 1;
+        if (isCtrl && isShift)
+            MoveColumnByKey(direction);
+        else if (isCtrl)
+            ScrollSidewaysTo(leftOffset + direction * SidewaysStep());
+        else
+            MoveFocusSideways(direction);
+        return true;
+    }
+    if (key == VK_F3) {
+        SortByKey(ColumnForKeys(), isShift || isCtrl);
+        return true;
+    }
     if ((key == VK_ADD || key == VK_OEM_PLUS) && isCtrl) {
+        CancelGesture();
         BestFitAll();
         return true;
     }
     return false;
+}
+
+bool CXTPReportControl::Impl::ColumnByAltKey(UINT key) {
+    switch (key) {
+    case VK_LEFT:
+        ResizeByKey(-1);
+        return true;
+    case VK_RIGHT:
+        ResizeByKey(1);
+        return true;
+    case VK_PRIOR:
+    case VK_NEXT: {
+        const int page = std::max<int>(ClientRect().Width(), 1);
+        ScrollSidewaysTo(leftOffset + (key == VK_PRIOR ? -page : page));
+        return true;
+    }
+    case VK_ADD:
+    case VK_OEM_PLUS:
+        FitByKey(ColumnForKeys());
+        return true;
+    case VK_DOWN:
+        CancelGesture();
+        OpenHeaderMenu(ColumnForKeys());
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// To the next column; through a column that is wider than the view in steps.
+void CXTPReportControl::Impl::MoveFocusSideways(int direction) {
+    CXTPReportColumn* const column = ColumnForKeys();
+    if (!column)
+        return;
+    const bool isFirst = control.GetFocusedColumn() == nullptr;
+    const CRect rcColumn = column->GetRect();
+    const int hidden = direction < 0 ? -static_cast<int>(rcColumn.left) : rcColumn.right - ClientRect().right;
+    CXTPReportColumn* target = column;
+    if (hidden <= 0 && !isFirst) {
+        CXTPReportColumn* next = columns->GetVisibleAt(VisibleIndexOf(*columns, column) + direction);
+        target = next ? next : column;
+    }
+    const WindowGuard guard(control);
+    FocusColumn(target, true);
+    if (guard.IsGone() || focusedColumn != target)
+        return;
+    if (target != column)
+        ShowColumn(target);
+    else if (hidden > 0)
+        ScrollSidewaysTo(leftOffset + direction * std::min(hidden, SidewaysStep()));
+}
+
+void CXTPReportControl::Impl::ShowColumn(const CXTPReportColumn* column) {
+    if (!column)
+        return;
+    const CRect rc = column->GetRect();
+    const gridgeometry::ColumnExtent unscrolled = {static_cast<int>(rc.left) + leftOffset,
+                                                   static_cast<int>(rc.right) + leftOffset, true};
+    ScrollSidewaysTo(gridgeometry::LeftOffsetToShow(leftOffset, unscrolled, ClientRect().Width()));
+}
+
+/// The column for keys is focused, marked and in view. False when there is none, or the owner has taken it away.
+bool CXTPReportControl::Impl::TakeColumn(CXTPReportColumn* column) {
+    const WindowGuard guard(control);
+    CancelGesture();
+    if (!column)
+        return false;
+    FocusColumn(column, true);
+    if (guard.IsGone() || focusedColumn != column)
+        return false;
+    ShowColumn(column);
+    return true;
+}
+
+void CXTPReportControl::Impl::MoveColumnByKey(int direction) {
+    CXTPReportColumn* const column = ColumnForKeys();
+    if (!TakeColumn(column))
+        return;
+    const WindowGuard guard(control);
+    header->MoveColumn(column, direction);
+    if (!guard.IsGone())
+        ShowColumn(focusedColumn);
+}
+
+void CXTPReportControl::Impl::ResizeByKey(int direction) {
+    CXTPReportColumn* const column = ColumnForKeys();
+    if (TakeColumn(column))
+        header->ResizeColumn(column, direction * paintManager->ScaleForDpi(ResizeStepAt96Dpi));
+}
+
+void CXTPReportControl::Impl::SortByKey(CXTPReportColumn* column, bool addsKey) {
+    if (!TakeColumn(column))
+        return;
+    const WindowGuard guard(control);
+    header->Sort(column, addsKey);
+    // The keyboard goes on from the focused row, wherever it is now.
+    if (!guard.IsGone() && focusedRow >= 0)
+        ShowRow(focusedRow);
+}
+
+void CXTPReportControl::Impl::FitByKey(CXTPReportColumn* column) {
+    if (!TakeColumn(column) || !header->IsAllowColumnResize() || !column->IsResizable())
+        return;
+    header->BestFit(column);
+    control.SendColumnNotify(XTP_NM_REPORT_COLUMNWIDTHCHANGED, column);
+}
+
+void CXTPReportControl::Impl::OpenHeaderMenu(CXTPReportColumn* column) {
+    if (column && !TakeColumn(column))
+        return;
+    const CRect rcHeader = control.GetHeaderRect();
+    // The menu opens under the header that it is for.
+    CPoint point(column ? column->GetRect().left : rcHeader.left, rcHeader.bottom - 1);
+    point.x = std::clamp<int>(point.x, rcHeader.left, std::max<int>(rcHeader.right - 1, rcHeader.left));
+    if (mouseMode == xtpReportMouseOverColumnDivide)
+        mouseMode = xtpReportMouseNothing; // the pointer may rest on a divider meanwhile
+    header->OnContextMenu(point);
 }
 
 void CXTPReportControl::Impl::BestFitAll() {
@@ -98,6 +236,53 @@ void CXTPReportControl::Impl::BestFitAll() {
             header->BestFit(column);
     }
     control.SendColumnNotify(XTP_NM_REPORT_COLUMNWIDTHCHANGED, nullptr);
+}
+
+// --- Cells ----------------------------------------------------------------------------------------------------------
+
+bool CXTPReportControl::Impl::CellByKey(UINT key) {
+    const bool isTip = key == VK_F1 && IsKeyDown(VK_CONTROL);
+    if (!isTip && key != VK_RETURN)
+        return false;
+    const WindowGuard guard(control);
+    if (focusedRow >= 0)
+        ShowRow(focusedRow);
+    const CellHit cell = FocusedCell();
+    if (!cell.item)
+        return true;
+    if (isTip) {
+        if (TakeColumn(cell.column) && rows->GetAt(cell.rowIndex) == cell.row) {
+            CRect rcSeen;
+            rcSeen.IntersectRect(cell.row->GetItemRect(cell.item), control.GetReportRectangle());
+            toolTips.ShowToolTip(&control, rcSeen.CenterPoint());
+        }
+        return true;
+    }
+    const CPoint point = cell.rcItem.CenterPoint();
+    if (cell.item->GetHyperlinksCount() > 0)
+        control.SendItemNotify(XTP_NM_REPORT_HYPERLINK, point, cell.row, cell.item, cell.column, 0);
+    else
+        control.SendItemNotify(NM_RETURN, point, cell.row, cell.item, cell.column);
+    return true;
+}
+
+// --- Characters -----------------------------------------------------------------------------------------------------
+
+void CXTPReportControl::OnSysKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
+    m_impl->toolTips.CancelToolTips();
+    const WindowGuard guard(*this);
+    const bool isOurs = ::GetKeyState(VK_MENU) < 0 && !IsKeyDown(VK_CONTROL) && m_impl->ColumnByAltKey(nChar);
+    if (guard.IsGone())
+        return;
+    m_impl->isSysCharOurs = isOurs;
+    // The system has to see the key as well: alt that went down for a key does not open the menu bar when it goes up.
+    CWnd::OnSysKeyDown(nChar, nRepCnt, nFlags);
+}
+
+void CXTPReportControl::OnSysChar(UINT nChar, UINT nRepCnt, UINT nFlags) {
+    // The system would look for a menu with that letter.
+    if (!m_impl->isSysCharOurs)
+        CWnd::OnSysChar(nChar, nRepCnt, nFlags);
 }
 
 void CXTPReportControl::OnChar(UINT nChar, UINT nRepCnt, UINT nFlags) {

@@ -10,6 +10,7 @@
 #include "CXTPReportColumn.h"
 #include "CXTPReportRecord.h"
 #include "CXTPReportRecordItem.h"
+#include "HeaderExtents.h"
 
 #include <algorithm>
 
@@ -85,7 +86,10 @@ void CXTPReportControl::Impl::PressRow(UINT flags, CPoint point) {
     }
     CaptureForPress();
     SetFocus(hit.rowIndex);
-    if (guard.IsGone() || hit.rowIndex >= rows->GetCount())
+    if (guard.IsGone())
+        return;
+    FocusPressedColumn(point);
+    if (hit.rowIndex >= rows->GetCount())
         return;
     SelectByClick(hit.rowIndex, flags);
     if (guard.IsGone())
@@ -93,6 +97,12 @@ void CXTPReportControl::Impl::PressRow(UINT flags, CPoint point) {
     press.maySelect = isMultipleSelection;
     press.keepsOthers = (flags & MK_CONTROL) != 0;
     press.selected = selectedRows->GetRanges();
+}
+
+/// Keys go on from the column that the mouse pressed; the mouse itself needs no mark of it.
+void CXTPReportControl::Impl::FocusPressedColumn(CPoint point) {
+    CXTPReportColumn* const pressed = columns->GetVisibleAt(gridgeometry::ColumnAt(HeaderExtents(*header), point.x));
+    FocusColumn(pressed ? pressed : focusedColumn, false);
 }
 
 void CXTPReportControl::Impl::CaptureForPress() {
@@ -367,6 +377,8 @@ void CXTPReportControl::OnRButtonDown(UINT, CPoint point) {
     if (row < 0)
         return;
     m_impl->SetFocus(row);
+    if (!guard.IsGone())
+        m_impl->FocusPressedColumn(point);
     if (guard.IsGone() || row >= m_impl->rows->GetCount() || m_impl->selectedRows->Contains(row))
         return; // a menu for several rows leaves them selected
     m_impl->SelectByClick(row, 0);
@@ -388,17 +400,17 @@ void CXTPReportControl::OnContextMenu(CWnd* pWnd, CPoint ptScreen) {
     const CRect rcHeader = GetHeaderRect();
     CPoint point(ptScreen);
     if (ptScreen == CPoint(-1, -1)) {
-        // From the keyboard: the owner's menu for the focused row, and the header's where the owner has none.
-        const CXTPReportRow* row = GetFocusedRow();
-        const CPoint ptRow = row ? row->GetRect().CenterPoint() : GetReportRectangle().CenterPoint();
-        if (SendItemNotify(NM_RCLICK, ptRow, GetFocusedRow(), nullptr, nullptr) || guard.IsGone())
+        // From the keyboard: the owner's menu for the focused cell, and the header's where the owner has none.
+        if (m_impl->focusedRow >= 0)
+            m_impl->ShowRow(m_impl->focusedRow);
+        const CellHit cell = m_impl->FocusedCell();
+        const CRect rcPlace = cell.item ? cell.rcItem : cell.row ? cell.row->GetRect() : GetReportRectangle();
+        if (SendItemNotify(NM_RCLICK, rcPlace.CenterPoint(), cell.row, cell.item, cell.column) || guard.IsGone())
             return;
-        const CXTPReportColumn* first = m_impl->columns->GetVisibleAt(0);
-        point = first ? first->GetRect().CenterPoint() : rcHeader.CenterPoint();
-        point.x = std::clamp<int>(point.x, rcHeader.left, std::max<int>(rcHeader.right - 1, rcHeader.left));
-    } else {
-        ScreenToClient(&point);
+        m_impl->OpenHeaderMenu(m_impl->ColumnForKeys());
+        return;
     }
+    ScreenToClient(&point);
     if (!rcHeader.PtInRect(point)) {
         CWnd::OnContextMenu(pWnd, ptScreen);
         return;

@@ -1,6 +1,9 @@
 // Selection and focus of a report control, as the host and the user change them.
 #include "ReportControlImpl.h"
 
+#include "CXTPReportColumn.h"
+#include "CXTPReportRecord.h"
+
 void CXTPReportControl::SetMultipleSelection(BOOL bMultiple) {
     m_impl->isMultipleSelection = bMultiple != FALSE;
     if (bMultiple || m_impl->selectedRows->GetCount() <= 1)
@@ -33,6 +36,70 @@ void CXTPReportControl::SetFocusedRow(CXTPReportRow* pRow, BOOL bSelect) {
     m_impl->ShowRow(index);
     if (bSelect)
         m_impl->SelectByClick(index, 0);
+}
+
+CXTPReportColumn* CXTPReportControl::GetFocusedColumn() const {
+    CXTPReportColumn* const focused = m_impl->focusedColumn;
+    if (!focused || focused->IsVisible())
+        return focused;
+    const CXTPReportColumns& columns = *m_impl->columns;
+    CXTPReportColumn* nearest = nullptr;
+    for (int i = 0; i < columns.GetCount() && (!nearest || nearest->GetIndex() < focused->GetIndex()); ++i) {
+        if (columns.GetAt(i)->IsVisible())
+            nearest = columns.GetAt(i);
+    }
+    return nearest;
+}
+
+void CXTPReportControl::SetFocusedColumn(CXTPReportColumn* pColumn) {
+    if (pColumn && (pColumn->GetControl() != this || !pColumn->IsVisible()))
+        return;
+    const WindowGuard guard(*this);
+    m_impl->FocusColumn(pColumn, pColumn != nullptr);
+    if (!guard.IsGone() && pColumn == m_impl->focusedColumn)
+        m_impl->ShowColumn(pColumn);
+}
+
+BOOL CXTPReportControl::IsColumnFocusVisible() const { return m_impl->isColumnFocusShown && GetFocusedColumn(); }
+
+CXTPReportColumn* CXTPReportControl::Impl::ColumnForKeys() const {
+    CXTPReportColumn* const focused = control.GetFocusedColumn();
+    return focused ? focused : columns->GetVisibleAt(0);
+}
+
+CellHit CXTPReportControl::Impl::FocusedCell() const {
+    CellHit cell;
+    cell.rowIndex = focusedRow;
+    cell.row = rows->GetAt(focusedRow);
+    cell.column = ColumnForKeys();
+    if (cell.row && cell.column && cell.row->GetRecord())
+        cell.item = cell.row->GetRecord()->GetItem(cell.column);
+    if (cell.item)
+        cell.rcItem = cell.row->GetItemRect(cell.item);
+    return cell;
+}
+
+/// Tells listeners of another column that is marked; what the mouse presses is told of as a row.
+void CXTPReportControl::Impl::FocusColumn(CXTPReportColumn* column, bool isShown) {
+    if (column == focusedColumn && isShown == isColumnFocusShown)
+        return;
+    const bool isOther = column != control.GetFocusedColumn();
+    InvalidateColumnFocus();
+    focusedColumn = column;
+    isColumnFocusShown = isShown;
+    InvalidateColumnFocus();
+    if (!isOther || !isShown)
+        return;
+    const CellHit cell = FocusedCell();
+    control.SendItemNotify(XTP_NM_REPORT_FOCUSCHANGED, CPoint(0, 0), cell.row, cell.item, focusedColumn);
+}
+
+void CXTPReportControl::Impl::InvalidateColumnFocus() const {
+    const CXTPReportColumn* column = control.GetFocusedColumn();
+    if (!column || !isColumnFocusShown || !control.m_hWnd)
+        return;
+    InvalidateRows({focusedRow, focusedRow});
+    control.InvalidateRect(column->GetRect(), FALSE);
 }
 
 void CXTPReportControl::OnSelectionChanged() {
@@ -85,10 +152,12 @@ void CXTPReportControl::Impl::MoveFocusTo(int rowIndex, bool extends, bool keeps
 void CXTPReportControl::OnSetFocus(CWnd* pOldWnd) {
     CWnd::OnSetFocus(pOldWnd);
     m_impl->InvalidateFocusLook();
+    m_impl->InvalidateColumnFocus();
 }
 
 void CXTPReportControl::OnKillFocus(CWnd* pNewWnd) {
     CWnd::OnKillFocus(pNewWnd);
     m_impl->toolTips.CancelToolTips();
     m_impl->InvalidateFocusLook();
+    m_impl->InvalidateColumnFocus();
 }

@@ -82,6 +82,8 @@ void CXTPReportHeader::Draw(CDC* pDC, const CRect& rcHeader) {
     paintManager->DrawHeaderBackground(pDC, rcHeader);
     CRect rcClip;
     pDC->GetClipBox(&rcClip);
+    const bool isFocusShown = m_pControl->IsColumnFocusVisible() && m_pControl->HasFocus();
+    const CXTPReportColumn* const focused = isFocusShown ? m_pControl->GetFocusedColumn() : nullptr;
     const bool isPressedShown = m_bPressedInside && m_pControl->GetMouseMode() == xtpReportMousePrepareColumnDrag;
     for (int i = 0; i < m_pColumns->GetCount(); ++i) {
         CXTPReportColumn* column = m_pColumns->GetAt(i);
@@ -91,6 +93,8 @@ void CXTPReportHeader::Draw(CDC* pDC, const CRect& rcHeader) {
         paintManager->DrawColumnBackground(pDC, column, rcColumn, column == m_pHotColumn,
                                            isPressedShown && column == m_pPressedColumn);
         paintManager->DrawColumnCaption(pDC, column, rcColumn);
+        if (column == focused)
+            paintManager->DrawFocusedColumn(pDC, rcColumn);
     }
 }
 

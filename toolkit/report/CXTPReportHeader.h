@@ -58,6 +58,11 @@ public:
     /// Sorts by the column as a click on its header does: a column already in the sort order changes direction.
     /// @param bAddKey keeps the other columns of the sort order, as a click with ctrl or shift does
     void Sort(CXTPReportColumn* pColumn, BOOL bAddKey);
+    /// Moves the column by one place among the visible ones, as dragging it does: nLeftRight −1 to the left, 1 to the
+    /// right. Nothing happens where dragging is not allowed.
+    void MoveColumn(CXTPReportColumn* pColumn, int nLeftRight);
+    /// Makes the column wider by so many pixels (negative: narrower), as dragging its divider does.
+    void ResizeColumn(CXTPReportColumn* pColumn, int nPixels);
     /// Sets the width at which the caption and the texts of the visible rows show without ellipsis.
     void BestFit(CXTPReportColumn* pColumn);
     /// The column is about to be deleted.

@@ -153,6 +153,24 @@ void CXTPReportHeader::DropColumn(CXTPReportColumn* pColumn, int nDropPos) {
     m_pControl->SendColumnNotify(XTP_NM_REPORT_COLUMNORDERCHANGED, pColumn);
 }
 
+void CXTPReportHeader::MoveColumn(CXTPReportColumn* pColumn, int nLeftRight) {
+    const int place = VisibleIndexOf(*m_pColumns, pColumn);
+    const int neighbour = place + nLeftRight;
+    if (place < 0 || neighbour < 0 || neighbour >= m_pColumns->GetVisibleColumnsCount())
+        return;
+    if (m_bAllowColumnReorder && pColumn->IsAllowDragging())
+        DropColumn(pColumn, nLeftRight < 0 ? neighbour : neighbour + 1);
+}
+
+void CXTPReportHeader::ResizeColumn(CXTPReportColumn* pColumn, int nPixels) {
+    if (!pColumn || !m_bAllowColumnResize || !pColumn->IsResizable())
+        return;
+    const int former = pColumn->GetWidth();
+    pColumn->SetWidth(former + nPixels);
+    if (pColumn->GetWidth() != former)
+        m_pControl->SendColumnNotify(XTP_NM_REPORT_COLUMNWIDTHCHANGED, pColumn);
+}
+
 // --- Moves ----------------------------------------------------------------------------------------------------------
 
 void CXTPReportHeader::OnMouseMove(UINT, CPoint ptPoint) {

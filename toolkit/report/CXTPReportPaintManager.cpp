@@ -48,6 +48,7 @@ constexpr int CellPadding = 5;
 constexpr int RowSpacing = 3;    // above and below the text of a row
 constexpr int HeaderSpacing = 4; // above and below a caption
 constexpr int NoItemTextTop = 16;
+constexpr int FocusFrameWidth = 1;
 
 /// The user's font for message texts; 9 point Segoe UI when the system does not tell.
 LOGFONT SystemTextFont(int dpi) {
@@ -303,5 +304,18 @@ void CXTPReportPaintManager::DrawFocusedRow(CDC* pDC, const CRect& rcRow) {
         pDC->DrawFocusRect(&rcFrame);
     } else {
         pDC->Draw3dRect(&rcFrame, m_clrFocusFrame, m_clrFocusFrame);
+    }
+}
+
+void CXTPReportPaintManager::DrawFocusedCell(CDC* pDC, const CRect& rcCell,
+                                             const XTP_REPORTRECORDITEM_METRICS& metrics) {
+    // Two frames, one of the text's colour and one of the row's: whatever the cell has drawn, one of them shows.
+    const int width = ScaleForDpi(FocusFrameWidth);
+    CRect rcFrame(rcCell);
+    for (const COLORREF color : {metrics.clrForeground, metrics.clrBackground}) {
+        for (int i = 0; i < width && rcFrame.Width() > 0 && rcFrame.Height() > 0; ++i) {
+            pDC->Draw3dRect(&rcFrame, color, color);
+            rcFrame.DeflateRect(1, 1);
+        }
     }
 }

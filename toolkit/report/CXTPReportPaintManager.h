@@ -68,6 +68,10 @@ public:
     /// stretches that are hyperlinks are marked as such and told where they stand.
     virtual void DrawItemText(XTP_REPORTRECORDITEM_DRAWARGS* pDrawArgs, XTP_REPORTRECORDITEM_METRICS* pMetrics);
     virtual void DrawFocusedRow(CDC* pDC, const CRect& rcRow);
+    /// The mark of the cell that the keyboard acts on; `metrics` are those of its row.
+    virtual void DrawFocusedCell(CDC* pDC, const CRect& rcCell, const XTP_REPORTRECORDITEM_METRICS& metrics);
+    /// The mark of the column that the keyboard acts on, in its header.
+    virtual void DrawFocusedColumn(CDC* pDC, const CRect& rcColumn);
 
     // --- Colours ------------------------------------------------------------------------------------------------
     CXTPPaintManagerColor m_clrHighlight;         ///< background of a selected row while the control has the focus

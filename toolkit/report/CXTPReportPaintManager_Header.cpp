@@ -17,6 +17,7 @@ using reportlook::HeaderEdge;
 constexpr int ArrowHeight = 4;
 constexpr int ArrowGap = 5; // between caption and arrow
 constexpr int DropMarkSize = 4;
+constexpr int FocusBarHeight = 2;
 
 void FillVertical(CDC* pDC, const CRect& rc, COLORREF top, COLORREF bottom) {
     if (rc.Width() <= 0 || rc.Height() <= 0)
@@ -150,4 +151,13 @@ void CXTPReportPaintManager::DrawDropMarker(CDC* pDC, int x, const CRect& rcHead
         pDC->FillSolidRect(x - half, rcHeader.top + i, 2 * half, 1, m_clrDropMark);
         pDC->FillSolidRect(x - half, rcHeader.bottom - 1 - i, 2 * half, 1, m_clrDropMark);
     }
+}
+
+void CXTPReportPaintManager::DrawFocusedColumn(CDC* pDC, const CRect& rcColumn) {
+    // A bar above the line under the header: it neither touches the caption nor the edges that styles draw.
+    const int gap = ScaleForDpi(2);
+    CRect rcBar(rcColumn.left + gap, rcColumn.bottom - 1 - ScaleForDpi(FocusBarHeight), rcColumn.right - 1 - gap,
+                rcColumn.bottom - 1);
+    if (rcBar.Width() > 0)
+        pDC->FillSolidRect(&rcBar, m_clrHeaderText);
 }

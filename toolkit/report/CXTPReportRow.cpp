@@ -128,8 +128,11 @@ void CXTPReportRow::Draw(CDC* pDC, const CRect& rcRow, const CRect& rcClip) {
     // Beyond the last column only the line under the row goes on; its end lies outside, where nothing is drawn.
     if (right < rcDirty.right)
         paintManager->DrawGridLines(pDC, CRect(right, rcRow.top, rcRow.right + 1, rcRow.bottom));
-    if (IsFocused() && control->HasFocus())
-        paintManager->DrawFocusedRow(pDC, rcRow);
+    if (!IsFocused() || !control->HasFocus())
+        return;
+    paintManager->DrawFocusedRow(pDC, rcRow);
+    if (control->IsColumnFocusVisible())
+        paintManager->DrawFocusedCell(pDC, InsideGridLines(CellRect(rcRow, control->GetFocusedColumn())), metrics);
 }
 
 void CXTPReportRow::DrawCell(CDC* pDC, CXTPReportColumn* pColumn, const CRect& rcCell) {

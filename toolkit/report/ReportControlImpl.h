@@ -138,6 +138,15 @@ struct CXTPReportControl::Impl {
             control.OnSelectionChanged();
     }
     void SetFocus(int rowIndex);
+    CXTPReportColumn* focusedColumn = nullptr;
+    bool isColumnFocusShown = false;
+
+    /// The column that keys act on; null when none is visible.
+    CXTPReportColumn* ColumnForKeys() const;
+    void FocusColumn(CXTPReportColumn* column, bool isShown);
+    void InvalidateColumnFocus() const;
+    /// The focused cell, its row and column; null where there is none.
+    CellHit FocusedCell() const;
     void SelectByClick(int rowIndex, UINT mouseFlags);
     void MoveFocusTo(int rowIndex, bool extends, bool keepsSelection);
 
@@ -153,6 +162,7 @@ struct CXTPReportControl::Impl {
     void TrackLeave();
     void StopTrackingLeave();
     void PressRow(UINT flags, CPoint point);
+    void FocusPressedColumn(CPoint point);
     void ReleaseRow(CPoint point);
     void Click(const CellHit& pressed, CPoint point);
     void CaptureForPress();
@@ -169,9 +179,21 @@ struct CXTPReportControl::Impl {
     CString searchText; ///< typed so far; the rows that begin with it are looked for
     DWORD searchTime = 0;
 
+    bool isSysCharOurs = false; ///< the character of the key pressed last with alt was meant for the columns
+
     bool MoveByKey(UINT key);
-    bool ScrollByKey(UINT key);
     bool SelectByKey(UINT key);
+    bool ColumnByKey(UINT key);
+    bool ColumnByAltKey(UINT key);
+    bool CellByKey(UINT key);
+    void MoveFocusSideways(int direction);
+    void ShowColumn(const CXTPReportColumn* column);
+    bool TakeColumn(CXTPReportColumn* column);
+    void MoveColumnByKey(int direction);
+    void ResizeByKey(int direction);
+    void SortByKey(CXTPReportColumn* column, bool addsKey);
+    void FitByKey(CXTPReportColumn* column);
+    void OpenHeaderMenu(CXTPReportColumn* column);
     void BestFitAll();
     bool IsTyping() const;
     void FindTyped(wchar_t character);

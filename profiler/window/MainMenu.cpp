@@ -8,10 +8,11 @@
 
 namespace {
 
+/// Names of products, the same in every language, with the keys that choose them in the menu.
 constexpr std::array<const wchar_t*, ID_VIEW_THEME_LAST - ID_VIEW_THEME_FIRST + 1> kThemeNames{
-    L"Office 2000",       L"Office XP",          L"Office 2003",        L"Office 2007 Aqua",
-    L"Office 2007 Black", L"Office 2007 Blue",   L"Office 2007 Silver", L"Office 2010 Black",
-    L"Office 2010 Blue",  L"Office 2010 Silver", L"Office 2013",        L"Windows 7",
+    L"Office 200&0",       L"Office &XP",          L"Office 200&3",        L"Office 2007 &Aqua",
+    L"Office 2007 &Black", L"Office 2007 Bl&ue",   L"Office 2007 &Silver", L"Office 2010 Blac&k",
+    L"Office 2010 B&lue",  L"Office 2010 Sil&ver", L"Office 20&13",        L"&Windows 7",
 };
 
 /// Hands a popup over to the bar.
@@ -82,5 +83,7 @@ CString CommandDescription(UINT command) {
 }
 
 CString ThemeName(int theme) {
-    return theme >= 0 && theme < static_cast<int>(kThemeNames.size()) ? CString(kThemeNames[theme]) : CString();
+    CString name(theme >= 0 && theme < static_cast<int>(kThemeNames.size()) ? kThemeNames[theme] : L"");
+    name.Remove(L'&');
+    return name;
 }

@@ -245,11 +245,47 @@ TEST_F(ProfilerFrameTest, APlaceOutOfSightIsNotRestored) {
     EXPECT_NE(::MonitorFromRect(&place, MONITOR_DEFAULTTONULL), nullptr);
 }
 
+/// Texts are German while this lives.
+class German {
+public:
+    German() {
+        wchar_t program[MAX_PATH] = L"";
+        ::GetModuleFileName(nullptr, program, MAX_PATH);
+        const std::filesystem::path folder = std::filesystem::path(program).parent_path() / L"locale";
+        EXPECT_TRUE(SetLanguage(L"de", folder.c_str()));
+    }
+    ~German() { SetLanguage(nullptr, nullptr); }
+};
+
+/// What is wrong with the mnemonics of the menu and its popups, a line for each item.
+std::wstring MnemonicFaults(CMenu& menu) {
+    std::wstring faults;
+    std::wstring taken;
+    for (int i = 0; i < menu.GetMenuItemCount(); ++i) {
+        if (menu.GetMenuState(i, MF_BYPOSITION) & MF_SEPARATOR)
+            continue;
+        CString text;
+        menu.GetMenuString(i, text, MF_BYPOSITION);
+        const int mark = text.Find(L'&');
+        const wchar_t key = mark < 0 ? L'\0' : static_cast<wchar_t>(::towupper(text[mark + 1]));
+        if (key == L'\0' || taken.find(key) != std::wstring::npos)
+            faults += std::wstring(text) + L'\n';
+        taken += key;
+        if (CMenu* popup = menu.GetSubMenu(i))
+            faults += MnemonicFaults(*popup);
+    }
+    return faults;
+}
+
+TEST_F(ProfilerFrameTest, EveryMenuItemHasAMnemonicOfItsOwn) {
+    EXPECT_EQ(MnemonicFaults(*Frame().GetMenu()), L"");
+    const German german;
+    Restart();
+    EXPECT_EQ(MnemonicFaults(*Frame().GetMenu()), L"");
+}
+
 TEST_F(ProfilerFrameTest, TextsAreInTheLanguageOfTheCatalogue) {
-    wchar_t program[MAX_PATH] = L"";
-    ::GetModuleFileName(nullptr, program, MAX_PATH);
-    const std::filesystem::path folder = std::filesystem::path(program).parent_path() / L"locale";
-    ASSERT_TRUE(SetLanguage(L"de", folder.c_str()));
+    const German german;
     Restart();
     Frame().OpenPath(Write(L"odd.csv", "a,b\n1,2\n3,4\nx\n"));
     EXPECT_STREQ(Grid().GetColumns()->Find(CString(L"Name"))->GetCaption(), L"Spalte");
@@ -260,7 +296,6 @@ TEST_F(ProfilerFrameTest, TextsAreInTheLanguageOfTheCatalogue) {
     CString menu;
     Frame().GetMenu()->GetMenuString(0, menu, MF_BYPOSITION);
     EXPECT_STREQ(menu, L"&Datei");
-    SetLanguage(nullptr, nullptr);
 }
 
 } // namespace

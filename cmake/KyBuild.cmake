@@ -27,6 +27,10 @@ else()
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
 endif()
+option(KY_FUZZ "Build the fuzzers (Linux, clang)" OFF)
+if(KY_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link)
+endif()
 
 # The compiler's shared runtime stands beside the programs: exceptions and dynamic_cast cross the DLLs only when all of
 # them use the same copy, and Windows looks for DLLs in the program's own folder first.

@@ -1,6 +1,7 @@
 // Saved layouts as bytes, and their application to the columns of a grid.
 #include "report/LayoutStream.h"
-#include "LayoutStreamFuzz.h"
+#include "../support/AllocationMeter.h"
+#include "LayoutStreamCheck.h"
 
 #include <gtest/gtest.h>
 
@@ -163,10 +164,18 @@ TEST(LayoutStream, TwentyThousandMutationsNeverComeOutWrong) {
             }
             }
         }
-        accepted += LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
+        accepted += CheckLayoutStream(bytes.data(), bytes.size()) ? 1 : 0;
     }
     EXPECT_GT(accepted, 1000) << "enough mutations must reach the application of the layout";
     EXPECT_LT(accepted, 19000) << "enough mutations must break the stream";
+}
+
+TEST(LayoutStream, MemoryIsCountedWhereTheAllocatorTells) {
+    if (!AllocationMeter::IsReal())
+        GTEST_SKIP() << "only AddressSanitizer tells";
+    const AllocationMeter meter;
+    const std::vector<std::uint8_t> taken(5000);
+    EXPECT_EQ(meter.Bytes(), taken.size());
 }
 
 // --- Applying --------------------------------------------------------------------------------------------------------

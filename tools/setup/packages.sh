@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing, and only those; without any it neither asks for rights nor for a network.
+# packages.sh [fuzz]: with the argument, also what only tools/fuzz needs.
 set -euo pipefail
 # shellcheck source=tools/lib/common.sh
 . "$(dirname "${BASH_SOURCE[0]}")/../lib/common.sh"
@@ -19,6 +20,10 @@ gettext, which compiles the translations|10 s|gettext
 Doxygen, which makes the reference pages|10 s|doxygen
 source packages: continued downloads, unpacking|5 s|curl xz-utils
 '
+if [ "${1:-}" = fuzz ]; then
+    groups+='clang with libFuzzer and its sanitizers|1 min|clang-14 libclang-rt-14-dev
+'
+fi
 
 is_installed() {
     [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null)" = installed ]

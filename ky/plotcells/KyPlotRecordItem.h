@@ -33,10 +33,15 @@ public:
     /// The fraction of the cell width kept free at each end of the scale (0.15 at first); below 0.5.
     void SetMargin(double margin);
 
+    /// The target in the scale's unit; -99 when there is none. While it is being dragged this is still the former
+    /// value.
     double GetTarget() const;
+    /// Not held within the scale, and no signal is fired. Shown at the grid's next redraw.
     void SetTarget(double target);
+    /// COLORREF 0x00BBGGRR; RGB(255, 215, 0) at first.
     unsigned long GetTargetColor() const;
-    void SetTargetColor(unsigned long color);
+    void SetTargetColor(unsigned long color); ///< shown at the grid's next redraw
+    /// False keeps the target where it is; the lower and the upper value can be dragged all the same.
     bool IsSupportDragTarget() const;
     /// Whether the target can be dragged (it can at first).
     void SetSupportDragTarget(bool support);
@@ -48,6 +53,7 @@ public:
 
     /// The cell drawn into a packed device-independent bitmap at the screen's colour depth.
     /// `GetItemRect` is the image's afterwards, until the grid draws the cell again.
+    /// @param control        whose theme the cell is drawn with; the cell need not be in it
     /// @param width, height  in pixels; there is no bitmap without both being positive
     /// @return a global memory block that the caller frees with `GlobalFree`, or null on failure
     void* CreateDIB(CXTPReportControl& control, int width, int height);
@@ -57,13 +63,20 @@ public:
 
     /// Always -1: the base has no hyperlinks.
     int HitTestHyperlink(CPoint point) override;
+    /// Remembers where the pointer is and, during a drag, moves the mark there: an end no farther than the target.
+    /// Asks `control` for a redraw when that changes something; null: nobody is asked.
     void OnMouseMove(UINT flags, CPoint point, CXTPReportControl* control) override;
-    /// Starts dragging the mark near the point, if there is one.
+    /// Starts dragging the mark near the point (nearer than 0.02 of the cell width), if there is one. On the outer side
+    /// of an end that end is taken, between the ends the nearest mark, and the target when two are equally near.
+    /// @param point the place of the press
     /// @param cell  the cell's rectangle in the grid
     virtual void BeginDrag(CPoint point, CRect cell);
-    /// Puts the dragged value back to what it was when the drag began.
+    /// Puts the dragged value back to what it was when the drag began, asks the grid for a redraw and for the cursor to
+    /// be chosen anew. Fires no signal.
     virtual void CancelDrag();
-    /// Ends a drag; when `apply` is set, the position under the point becomes the value and is reported.
+    /// Ends a drag; when `apply` is set, the position under the point becomes the value and is reported. It is not held
+    /// within the scale, but an end stops at the target, and what stands in the way of the target or of the other end
+    /// is pushed along. Without a drag nothing happens.
     virtual void EndDrag(CPoint point, CRect cell, bool apply);
     /// Chooses the cursor for the place of the last mouse move; FALSE leaves the choice to the grid.
     virtual BOOL OnSetCursor(CPoint point);
@@ -78,19 +91,21 @@ public:
 
 protected:
     double m_dragPos = KyMissingValue; ///< where the pointer was last, as a fraction of the cell width
-    double m_lower = KyMissingValue;
-    double m_upper = KyMissingValue;
-    double m_target = KyMissingValue;
-    unsigned long m_targetColor = RGB(255, 215, 0);
-    double m_dragStartValue = KyMissingValue; ///< what `CancelDrag` restores
-    double m_margin = 0.15;
-    bool m_draggingLower = false; ///< at most one of the three flags is set
-    bool m_draggingUpper = false;
-    bool m_draggingCenter = false;
-    bool m_dragMoved = false; ///< the last mouse move during a drag changed `m_dragPos`
+    double m_lower = KyMissingValue;   ///< in the scale's unit, like the two that follow
+    double m_upper = KyMissingValue;   ///< subclasses fill it from setters of their own, as the lower value
+    double m_target = KyMissingValue;  ///< the wall that neither end is dragged across
+    unsigned long m_targetColor = RGB(255, 215, 0); ///< COLORREF, for the subclass to draw the target with
+    double m_dragStartValue = KyMissingValue;       ///< what `CancelDrag` restores
+    double m_margin = 0.15;                         ///< fraction of the cell width kept free at each end
+    bool m_draggingLower = false;                   ///< at most one of the three flags is set
+    bool m_draggingUpper = false;                   ///< while it is set, the upper mark is drawn at `m_dragPos`
+    bool m_draggingCenter = false;                  ///< while it is set, the target is drawn at `m_dragPos`
+    bool m_dragMoved = false;                       ///< the last mouse move during a drag changed `m_dragPos`
+    /// Where the plot was drawn last; every `OnDrawCaption` has to store it, because pointer positions are worked out
+    /// on it.
     CRect m_itemRect{0, 0, 0, 0};
-    bool m_allowInteraction = true;
-    bool m_supportDragTarget = true;
+    bool m_allowInteraction = true;  ///< the cell reacts to the mouse at all
+    bool m_supportDragTarget = true; ///< the target can be dragged
 
 private:
     struct Marks;

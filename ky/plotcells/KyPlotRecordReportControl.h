@@ -26,10 +26,18 @@ protected:
     /// Called after a drag was cancelled with Escape, when the cell has its old value back. Does nothing here.
     virtual void OnPlotRecordItemDragCancelled();
 
+    /// Selects as every report control, then hands the press to a plot cell under the point. A cell that does not allow
+    /// interaction shows the not-allowed cursor.
     void OnLButtonDown(UINT flags, CPoint point);
+    /// Ends the drag: applied over the dragged cell, unapplied over another one. Deliberately, a release where there is
+    /// no row (which clears the selection) or no cell leaves the drag routed until the next release, Escape or leave.
     void OnLButtonUp(UINT flags, CPoint point);
+    /// During a drag the point is pulled into the dragged cell before the toolkit routes it, so that the mark follows
+    /// the pointer also far outside.
     void OnMouseMove(UINT flags, CPoint point);
+    /// Lets the plot cell under the pointer choose the cursor.
     BOOL OnSetCursor(CWnd* wnd, UINT hitTest, UINT message);
+    /// Applies a drag at the place where the pointer left.
     void OnMouseLeave();
     DECLARE_MESSAGE_MAP()
 

@@ -42,8 +42,10 @@ protected:
     /// Nothing shows unless the chooser is on, the point is on a column's header and no mouse gesture is under way.
     virtual void OnColumnHeaderRClick(CPoint point);
 
+    /// Applies the theme that the user has chosen; −1 when the window cannot be made.
     int OnCreate(LPCREATESTRUCT lpCreateStruct);
-    /// Applies a `KyPaintTheme`. Always returns 1.
+    /// Answers WM_KYTHEMECHANGED: applies a `KyPaintTheme` (wParam) to the grid and to the look of its tool tips. Tips
+    /// that draw markup or HTML keep their look, and Office 2013 deliberately keeps the column style. Always returns 1.
     LRESULT OnThemeChanged(WPARAM theme, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 

@@ -8,7 +8,9 @@
 /// The command bars of a frame window.
 class KY_TOOLKIT_API CXTPCommandBars : public CCmdTarget {
 public:
+    /// @param pSite the frame; not owned, and outlives the command bars
     explicit CXTPCommandBars(CWnd* pSite) : m_pSite(pSite) {}
+    /// The frame that the command bars belong to.
     CWnd* GetSite() const { return m_pSite; }
 
     /// Shows a popup menu and waits for the user. Without menu or window nothing is shown, and the result is 0.

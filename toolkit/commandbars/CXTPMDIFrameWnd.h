@@ -12,7 +12,10 @@ public:
     CXTPMDIFrameWnd();
     ~CXTPMDIFrameWnd() override;
 
+    /// Makes the command bars when there are none; a second call changes nothing. Always TRUE. To be called when the
+    /// frame has its window, usually in `OnCreate`.
     BOOL InitCommandBars();
+    /// Null before `InitCommandBars`; owned by the frame.
     CXTPCommandBars* GetCommandBars() const { return m_pCommandBars.get(); }
 
 private:

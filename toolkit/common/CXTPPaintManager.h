@@ -14,10 +14,12 @@ public:
     /// Switches the theme of the process, making the instance when there is none.
     static void SetTheme(XTPPaintTheme theme);
 
+    /// The theme that `SetTheme` was given, also when it is none of the enumerators.
     XTPPaintTheme GetCurrentTheme() const { return m_theme; }
     virtual ~CXTPPaintManager() override;
 
 protected:
+    /// Instances are made by `SetTheme` alone.
     explicit CXTPPaintManager(XTPPaintTheme theme) : m_theme(theme) {}
 
 private:

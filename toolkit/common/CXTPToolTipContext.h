@@ -15,14 +15,16 @@ public:
     CXTPToolTipContext();
     ~CXTPToolTipContext() override;
 
+    /// xtpToolTipStandard at first.
     XTPToolTipStyle GetStyle() const { return m_style; }
+    /// A tip that is shown takes the look at once. Styles without a look of their own look as xtpToolTipStandard.
     void SetStyle(XTPToolTipStyle style);
     /// Pixels; longer texts wrap. −1: one line, however long.
     int GetMaxTipWidth() const { return m_nMaxTipWidth; }
-    void SetMaxTipWidth(int nWidth) { m_nMaxTipWidth = nWidth; }
-    /// Space between the border and the text, pixels.
+    void SetMaxTipWidth(int nWidth) { m_nMaxTipWidth = nWidth; } ///< for the next tip
+    /// Space between the border and the text, pixels; each side of `lprc` is that of its edge. Null changes nothing.
     void SetMargin(LPCRECT lprc);
-    CRect GetMargin() const { return m_rcMargin; }
+    CRect GetMargin() const { return m_rcMargin; } ///< 6 and 3 pixels at first, at 96 DPI
     /// Milliseconds; TTDT_INITIAL, TTDT_RESHOW or TTDT_AUTOPOP. −1 restores the system's time.
     void SetDelayTime(DWORD dwType, int nTime);
 
@@ -34,7 +36,7 @@ public:
     BOOL ShowToolTip(CWnd* pWnd, CPoint point);
     /// Hides the tip that is shown, if any.
     void CancelToolTips();
-    BOOL IsTipVisible() const;
+    BOOL IsTipVisible() const;  ///< not while a tip still waits for the pointer to rest
     CString GetTipText() const; ///< of the tip that is shown; empty if none
     CWnd* GetTipWindow() const; ///< the tip's window, null before the first tip
 

@@ -12,8 +12,8 @@
 /// size goes back to the heap, so that a grid that was emptied holds nothing.
 class BlockPool {
 public:
-    static constexpr std::size_t Step = 16;
-    static constexpr std::size_t LargestBlock = 512;
+    static constexpr std::size_t Step = 16;          ///< bytes by which the sizes of blocks grow
+    static constexpr std::size_t LargestBlock = 512; ///< bytes; larger ones come from the runtime's heap
 
     BlockPool() = default;
     ~BlockPool();
@@ -31,6 +31,7 @@ public:
         std::size_t bytes = 0;    ///< bytes in them, rounded up to whole steps
         std::size_t reserved = 0; ///< bytes taken from the runtime's heap
     };
+    /// A picture of one moment: other threads may have taken blocks meanwhile.
     Usage GetUsage() const;
 
 private:

@@ -12,70 +12,79 @@ class KY_TOOLKIT_API CXTPReportColumn : public CCmdTarget {
 public:
     /// @param nItemIndex which item of a record the column shows
     /// @param strName    the caption, and the internal name as well
-    /// @param nWidth     pixels
-    /// @param bAutoSize  whether the column takes part in automatic column sizing
+    /// @param nWidth     pixels; clamped to 10…32000, the limits at first
+    /// @param bAutoSize  kept for the host, see `IsAutoSize`
+    /// @param nIconID    kept for the host, see `GetIconID`
+    /// @param bSortable  whether a click on the header sorts by the column
+    /// @param bVisible   whether the column is shown
     CXTPReportColumn(int nItemIndex, LPCTSTR strName, int nWidth, BOOL bAutoSize = TRUE, int nIconID = -1,
                      BOOL bSortable = TRUE, BOOL bVisible = TRUE);
     /// As above with an internal name of its own: the identity under which a saved layout finds the column.
     CXTPReportColumn(int nItemIndex, LPCTSTR strDisplayName, LPCTSTR strInternalName, int nWidth, BOOL bAutoSize = TRUE,
                      int nIconID = -1, BOOL bSortable = TRUE, BOOL bVisible = TRUE);
 
-    int GetItemIndex() const { return m_nItemIndex; }
+    int GetItemIndex() const { return m_nItemIndex; } ///< which item of a record the column shows
     /// Place in the column collection, left to right, hidden columns counted; −1 before the column is added.
     int GetIndex() const;
 
-    CString GetCaption() const { return m_strCaption; }
-    void SetCaption(LPCTSTR strCaption);
+    CString GetCaption() const { return m_strCaption; } ///< what the header shows
+    void SetCaption(LPCTSTR strCaption);                ///< the internal name stays
+    /// The identity under which a saved layout finds the column; not shown and not translated.
     CString GetInternalName() const { return m_strInternalName; }
+    /// To be called before a layout is loaded.
     void SetInternalName(LPCTSTR strInternalName) { m_strInternalName = strInternalName; }
-    CString GetTooltip() const { return m_strTooltip; }
-    void SetTooltip(LPCTSTR strTooltip) { m_strTooltip = strTooltip; }
+    CString GetTooltip() const { return m_strTooltip; } ///< empty: the tip is the caption, where it is cut off
+    void SetTooltip(LPCTSTR strTooltip) { m_strTooltip = strTooltip; } ///< shown while the pointer rests on the header
 
     /// Pixels. Setting clamps to the minimum and maximum width; so does moving a limit past the width. A minimum above
     /// the maximum moves the maximum, and the other way round. At first 10 and 32000.
     int GetWidth() const { return m_nWidth; }
-    void SetWidth(int nWidth);
-    int GetMinWidth() const { return m_nMinWidth; }
-    void SetMinWidth(int nMinWidth);
-    int GetMaxWidth() const { return m_nMaxWidth; }
-    void SetMaxWidth(int nMaxWidth);
+    void SetWidth(int nWidth);                      ///< pixels, clamped to the limits
+    int GetMinWidth() const { return m_nMinWidth; } ///< pixels
+    void SetMinWidth(int nMinWidth);                ///< negative limits count as 0
+    int GetMaxWidth() const { return m_nMaxWidth; } ///< pixels
+    void SetMaxWidth(int nMaxWidth);                ///< negative limits count as 0
 
     /// DT_LEFT, DT_CENTER or DT_RIGHT for the cells of the column.
     int GetAlignment() const { return m_nAlignment; }
-    void SetAlignment(int nAlignment);
+    void SetAlignment(int nAlignment); ///< items may have alignments of their own
     /// The same for the caption; follows `GetAlignment` until it is set.
     int GetHeaderAlignment() const { return m_nHeaderAlignment >= 0 ? m_nHeaderAlignment : m_nAlignment; }
-    void SetHeaderAlignment(int nAlignment);
+    void SetHeaderAlignment(int nAlignment); ///< any negative number follows the cells again
 
-    BOOL IsVisible() const { return m_bVisible; }
-    void SetVisible(BOOL bVisible);
+    BOOL IsVisible() const { return m_bVisible; } ///< a hidden column keeps its place, width and sort
+    void SetVisible(BOOL bVisible);               ///< lays the others out anew
+    /// What the user may do with the column; each also needs the header's consent (`CXTPReportHeader`). The host's own
+    /// calls are not held to it.
     BOOL IsSortable() const { return m_bSortable; }
-    void SetSortable(BOOL bSortable) { m_bSortable = bSortable; }
-    BOOL IsAllowRemove() const { return m_bAllowRemove; }
-    void AllowRemove(BOOL bAllow) { m_bAllowRemove = bAllow; }
-    BOOL IsAllowDragging() const { return m_bAllowDragging; }
-    void SetAllowDragging(BOOL bAllow) { m_bAllowDragging = bAllow; }
-    BOOL IsResizable() const { return m_bResizable; }
-    void SetResizable(BOOL bResizable) { m_bResizable = bResizable; }
+    void SetSortable(BOOL bSortable) { m_bSortable = bSortable; }     ///< clicking the header sorts
+    BOOL IsAllowRemove() const { return m_bAllowRemove; }             ///< a column chooser may hide it; TRUE at first
+    void AllowRemove(BOOL bAllow) { m_bAllowRemove = bAllow; }        ///< does not hide or show it
+    BOOL IsAllowDragging() const { return m_bAllowDragging; }         ///< it can be moved; TRUE at first
+    void SetAllowDragging(BOOL bAllow) { m_bAllowDragging = bAllow; } ///< others may still be dropped before it
+    BOOL IsResizable() const { return m_bResizable; }                 ///< its divider can be dragged; TRUE at first
+    void SetResizable(BOOL bResizable) { m_bResizable = bResizable; } ///< also keeps it out of "fit all columns"
+    /// Kept for the host: the control itself never sizes columns by the width of its window.
     BOOL IsAutoSize() const { return m_bAutoSize; }
-    void SetAutoSize(BOOL bAutoSize) { m_bAutoSize = bAutoSize; }
+    void SetAutoSize(BOOL bAutoSize) { m_bAutoSize = bAutoSize; } ///< see `IsAutoSize`
+    /// Kept for the host, −1 for none: headers draw no icons.
     int GetIconID() const { return m_nIconID; }
 
-    /// Direction of the sort when the column is in the sort order. Setting does not sort; `Populate` does.
-    BOOL IsSorted() const;
-    BOOL IsSortedIncreasing() const;
-    BOOL IsSortedDecreasing() const;
+    BOOL IsSorted() const;           ///< the column is in the sort order
+    BOOL IsSortedIncreasing() const; ///< in the sort order, smallest first
+    BOOL IsSortedDecreasing() const; ///< in the sort order, largest first
+    /// The direction that counts when the column is in the sort order.
     BOOL IsSortIncreasing() const { return m_bSortIncreasing; }
-    void SetSortIncreasing(BOOL bIncreasing) { m_bSortIncreasing = bIncreasing; }
+    void SetSortIncreasing(BOOL bIncreasing) { m_bSortIncreasing = bIncreasing; } ///< `Populate` sorts, this does not
 
     /// The header cell in client coordinates, as laid out last; empty while hidden.
     CRect GetRect() const { return m_rcColumn; }
-    void SetRect(const CRect& rc) { m_rcColumn = rc; }
+    void SetRect(const CRect& rc) { m_rcColumn = rc; } ///< for the header as it lays out the columns
     /// The width at which caption and visible-page texts show without ellipsis, in pixels.
     int GetBestFitWidth() const;
 
-    CXTPReportColumns* GetColumns() const { return m_pColumns; }
-    CXTPReportControl* GetControl() const;
+    CXTPReportColumns* GetColumns() const { return m_pColumns; } ///< null before the column is added
+    CXTPReportControl* GetControl() const;                       ///< null before the column is added
 
 private:
     friend class CXTPReportColumns;

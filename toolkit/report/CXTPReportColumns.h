@@ -9,7 +9,7 @@
 /// The columns by which rows are sorted, most significant first. Columns are not owned.
 class KY_TOOLKIT_API CXTPReportColumnOrder {
 public:
-    int GetCount() const { return static_cast<int>(m_columns.size()); }
+    int GetCount() const { return static_cast<int>(m_columns.size()); } ///< 0: not sorted
     /// Null when the index is out of range.
     CXTPReportColumn* GetAt(int nIndex) const;
     /// Appends the column; one that is there already moves to the end. Returns its place, −1 for null.
@@ -17,8 +17,8 @@ public:
     /// As above, and gives the column that direction.
     int Add(CXTPReportColumn* pColumn, BOOL bSortIncreasing);
     int IndexOf(const CXTPReportColumn* pColumn) const; ///< −1 when absent
-    void Remove(CXTPReportColumn* pColumn);
-    void Clear() { m_columns.clear(); }
+    void Remove(CXTPReportColumn* pColumn);             ///< from the order, not from the control
+    void Clear() { m_columns.clear(); }                 ///< the rows keep their order until the next `Populate`
 
 private:
     std::vector<CXTPReportColumn*> m_columns;
@@ -28,6 +28,7 @@ private:
 /// control for a new layout.
 class KY_TOOLKIT_API CXTPReportColumns : public CCmdTarget {
 public:
+    /// @param pControl the control that owns the collection; null for a collection without one, as in tests
     explicit CXTPReportColumns(CXTPReportControl* pControl);
     ~CXTPReportColumns() override;
 
@@ -35,16 +36,18 @@ public:
     void Add(CXTPReportColumn* pColumn);
     /// Deletes the column, which leaves the sort and group order too; nothing happens when it is not in the collection.
     void Remove(CXTPReportColumn* pColumn);
-    void Clear();
+    void Clear(); ///< deletes all columns; sort and group order are empty then
 
-    int GetCount() const { return static_cast<int>(m_columns.size()); }
-    CXTPReportColumn* GetAt(int nIndex) const; ///< null when out of range
-    int IndexOf(const CXTPReportColumn* pColumn) const;
-    /// The first column that shows the item index, or that has the internal name (case counts); null if none.
+    int GetCount() const { return static_cast<int>(m_columns.size()); } ///< hidden columns counted
+    CXTPReportColumn* GetAt(int nIndex) const;                          ///< null when out of range
+    int IndexOf(const CXTPReportColumn* pColumn) const;                 ///< −1 when absent
+    /// The first column from the left that shows the item index; null if none.
     CXTPReportColumn* Find(int nItemIndex) const;
+    /// The first column from the left that has the internal name (case counts); null if none.
     CXTPReportColumn* Find(const CString& strInternalName) const;
 
-    int GetVisibleColumnsCount() const;
+    int GetVisibleColumnsCount() const; ///< scrolled out of view or not
+    /// The nVisibleIndex-th visible column from the left; null when out of range.
     CXTPReportColumn* GetVisibleAt(int nVisibleIndex) const;
 
     /// Moves the column at `nOldOrder` so that it stands at `nNewOrder`, which is brought into the places there are.
@@ -55,12 +58,14 @@ public:
 
     /// Replaces the sort order by one column (null: unsorted). The rows follow at the next `Populate`.
     void SetSortColumn(CXTPReportColumn* pColumn, BOOL bIncreasing);
+    /// Unsorted from the next `Populate` on: rows stand in the order of the records.
     void ResetSortOrder();
+    /// The columns by which rows are sorted. Kept in saved layouts.
     CXTPReportColumnOrder* GetSortOrder() { return &m_sortOrder; }
     /// The columns by which rows are grouped. Kept in saved layouts.
     CXTPReportColumnOrder* GetGroupsOrder() { return &m_groupsOrder; }
 
-    CXTPReportControl* GetControl() const { return m_pControl; }
+    CXTPReportControl* GetControl() const { return m_pControl; } ///< the control that owns the collection
 
 private:
     struct Release {

@@ -48,33 +48,35 @@ public:
     virtual void ResetContent(); ///< removes all records and rows
     /// One record stands for `nCount` rows; its items answer for the row in `GetItemMetrics`. Sorting is the host's.
     void SetVirtualMode(CXTPReportRecord* pVirtualRecord, int nCount);
-    BOOL IsVirtualMode() const;
+    BOOL IsVirtualMode() const; ///< from `SetVirtualMode` on, also before `Populate`
 
-    CXTPReportColumns* GetColumns() const;
-    CXTPReportRecords* GetRecords() const;
-    CXTPReportRows* GetRows() const;
-    CXTPReportSelectedRows* GetSelectedRows() const;
-    CXTPReportHeader* GetReportHeader() const;
+    CXTPReportColumns* GetColumns() const;           ///< never null; owned by the control, as the parts that follow
+    CXTPReportRecords* GetRecords() const;           ///< never null
+    CXTPReportRows* GetRows() const;                 ///< never null; as of the last `Populate`
+    CXTPReportSelectedRows* GetSelectedRows() const; ///< never null
+    CXTPReportHeader* GetReportHeader() const;       ///< never null; another one after `SetReportHeader`
     void SetReportHeader(CXTPReportHeader* pHeader); ///< takes ownership of the new header, deletes the old one
-    CXTPReportPaintManager* GetPaintManager() const;
+    CXTPReportPaintManager* GetPaintManager() const; ///< never null; another one after `SetTheme`, so do not keep it
     void SetPaintManager(CXTPReportPaintManager* pPaintManager); ///< takes ownership, deletes the old one
     /// A new paint manager for the theme; the column style starts as the theme's own, what the host set beside colours
     /// (font, row height, grid lines, empty text) stays. `bRedraw` paints at once; otherwise it shows with the next
     /// painting, so that more can be set before.
     void SetTheme(XTPReportPaintTheme theme, BOOL bRedraw = TRUE);
-    CXTPToolTipContext* GetToolTipContext() const;
+    CXTPToolTipContext* GetToolTipContext() const; ///< never null
 
     // --- Places -------------------------------------------------------------------------------------------------
-    CRect GetReportRectangle() const;        ///< where rows are shown
-    CRect GetHeaderRect() const;             ///< where the header is shown
-    CXTPReportRow* HitTest(CPoint pt) const; ///< the row under the point; null if none
-    XTPReportMouseMode GetMouseMode() const;
-    void SetMouseMode(XTPReportMouseMode mode);
+    CRect GetReportRectangle() const;           ///< where rows are shown
+    CRect GetHeaderRect() const;                ///< where the header is shown
+    CXTPReportRow* HitTest(CPoint pt) const;    ///< the row under the point; null if none
+    XTPReportMouseMode GetMouseMode() const;    ///< xtpReportMouseNothing while no gesture is under way
+    void SetMouseMode(XTPReportMouseMode mode); ///< for the header: neither starts nor ends a gesture
 
     // --- Selection and focus ----------------------------------------------------------------------------------------
+    /// Without it a single row is selected at most: when several are, the focused one stays (else the topmost), which
+    /// raises `OnSelectionChanged`. On at first.
     void SetMultipleSelection(BOOL bMultiple);
-    BOOL IsMultipleSelection() const;
-    CXTPReportRow* GetFocusedRow() const;
+    BOOL IsMultipleSelection() const;     ///< see `SetMultipleSelection`
+    CXTPReportRow* GetFocusedRow() const; ///< where the keyboard goes on from; null when no row is
     /// Focuses the row and, unless told otherwise, selects it alone and scrolls it into view.
     void SetFocusedRow(CXTPReportRow* pRow, BOOL bSelect = TRUE);
     /// The column that the keyboard acts on: the one focused last, a neighbour when it is hidden now; null before the
@@ -87,13 +89,16 @@ public:
     /// moved among columns, until a press of the mouse.
     BOOL IsColumnFocusVisible() const;
     virtual void OnSelectionChanged(); ///< tells the owner (XTP_NM_REPORT_SELCHANGED)
+    /// The keyboard is the control's or that of a child window of it, such as an editor in a cell.
     BOOL HasFocus() const;
 
     // --- Scrolling ---------------------------------------------------------------------------------------------------
-    int GetTopRowIndex() const;
-    void SetTopRow(int nIndex);
-    int GetLeftOffset() const; ///< pixels scrolled sideways
-    void SetLeftOffset(int nOffset);
+    int GetTopRowIndex() const;      ///< the row at the upper edge; rows are never cut off there
+    void SetTopRow(int nIndex);      ///< held within what can be scrolled to
+    int GetLeftOffset() const;       ///< pixels scrolled sideways
+    void SetLeftOffset(int nOffset); ///< held within what can be scrolled to
+    /// Scrolls as little as needed; without a window, as soon as there is room for rows. Null and rows that were taken
+    /// out change nothing.
     void EnsureVisible(CXTPReportRow* pRow);
     int GetFullyVisibleRowCount() const; ///< whole rows that fit, at least 1
 
@@ -114,9 +119,9 @@ public:
     virtual void SerializeState(CArchive& ar);
 
     // --- Editing commands -----------------------------------------------------------------------------------------
-    virtual BOOL CanCut();
-    virtual BOOL CanCopy();
-    virtual BOOL CanPaste();
+    virtual BOOL CanCut();   ///< FALSE here: the control does not cut
+    virtual BOOL CanCopy();  ///< whether rows are selected
+    virtual BOOL CanPaste(); ///< FALSE here: the control does not paste
 
     /// The tool under the point; see `CXTPReportRecordItem::OnToolHitTest`. Headers, items and cut-off texts have tips.
     INT_PTR OnToolHitTest(CPoint point, TOOLINFO* pTI) const override;
@@ -124,9 +129,13 @@ public:
     /// Sends a WM_NOTIFY about a cell to the owner; returns the owner's answer.
     LRESULT SendItemNotify(UINT nCode, CPoint pt, CXTPReportRow* pRow, CXTPReportRecordItem* pItem,
                            CXTPReportColumn* pColumn, int nHyperlink = -1);
+    /// Sends a WM_NOTIFY about a column (null: about all of them) to the owner; returns the owner's answer. 0 without a
+    /// window or an owner, as for cells.
     LRESULT SendColumnNotify(UINT nCode, CXTPReportColumn* pColumn);
 
+    /// Lets the tool tips see what the mouse and the keyboard send to the control.
     BOOL PreTranslateMessage(MSG* pMsg) override;
+    /// Lays out a window that is taken over from a dialog, which gets no WM_CREATE.
     void PreSubclassWindow() override;
 
     // --- Called by the model as it changes ---------------------------------------------------------------------------
@@ -139,40 +148,44 @@ public:
     void OnColumnRemoved(CXTPReportColumn* pColumn);
 
 protected:
-    int OnCreate(LPCREATESTRUCT lpCreateStruct);
-    void OnDestroy();
-    void OnPaint();
-    BOOL OnEraseBkgnd(CDC* pDC);
-    void OnSize(UINT nType, int cx, int cy);
+    // --- Messages; derived classes call these handlers from their own ----------------------------------------------
+    int OnCreate(LPCREATESTRUCT lpCreateStruct); ///< lays out; −1 when the window is refused
+    void OnDestroy();                            ///< hides the tip, ends gestures, gives back the back buffer
+    void OnPaint();                              ///< draws what is damaged into the back buffer and shows it
+    BOOL OnEraseBkgnd(CDC* pDC);                 ///< TRUE without drawing: painting leaves no gap
+    void OnSize(UINT nType, int cx, int cy);     ///< lays out; nothing when the window is minimised
+    /// Takes the focus; a press on the header begins a gesture there, one on a row goes to the item, then selects.
     void OnLButtonDown(UINT nFlags, CPoint point);
-    void OnLButtonUp(UINT nFlags, CPoint point);
+    void OnLButtonUp(UINT nFlags, CPoint point); ///< ends a gesture, or makes a click of the press
+    /// In the header best fit; on a row `OnDblClick`, NM_DBLCLK, and then the press that it is as well.
     void OnLButtonDblClk(UINT nFlags, CPoint point);
-    void OnRButtonDown(UINT nFlags, CPoint point);
-    void OnRButtonUp(UINT nFlags, CPoint point);
+    void OnRButtonDown(UINT nFlags, CPoint point); ///< focuses the row; one that is not selected is selected alone
+    void OnRButtonUp(UINT nFlags, CPoint point);   ///< sends NM_RCLICK, then becomes WM_CONTEXTMENU
+    /// Over the header the header's affair, elsewhere the parent's.
     void OnContextMenu(CWnd* pWnd, CPoint ptScreen);
-    void OnMouseMove(UINT nFlags, CPoint point);
-    void OnMouseLeave();
-    BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt);
-    void OnMouseHWheel(UINT nFlags, short zDelta, CPoint pt);
-    BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message);
-    void OnCaptureChanged(CWnd* pWnd);
-    void OnCancelMode();
-    void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
-    void OnSysKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
-    void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
-    void OnSysChar(UINT nChar, UINT nRepCnt, UINT nFlags);
-    UINT OnGetDlgCode();
-    void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
-    void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
-    void OnTimer(UINT_PTR nIDEvent);
-    void OnSetFocus(CWnd* pOldWnd);
-    void OnKillFocus(CWnd* pNewWnd);
-    void OnEnable(BOOL bEnable);
-    void OnSysColorChange();
-    void OnSettingChange(UINT uFlags, LPCTSTR lpszSection);
-    LRESULT OnPrintClient(CDC* pDC, UINT nFlags);
-    LRESULT OnSetFont(WPARAM wParam, LPARAM lParam);
-    LRESULT OnGetFont(WPARAM wParam, LPARAM lParam);
+    void OnMouseMove(UINT nFlags, CPoint point); ///< goes on with a gesture, else routes to the item under the point
+    void OnMouseLeave();                         ///< no column of the header is hot any more
+    BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt);   ///< rows; with shift sideways
+    void OnMouseHWheel(UINT nFlags, short zDelta, CPoint pt);  ///< sideways
+    BOOL OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message); ///< dividers, hyperlinks, else the arrow
+    void OnCaptureChanged(CWnd* pWnd); ///< ends a gesture without effect when another window has the mouse
+    void OnCancelMode();               ///< ends a gesture without effect
+    void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);    ///< see the top of this class
+    void OnSysKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags); ///< alt with arrows: see the top of this class
+    void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);       ///< finds the row that begins with what is typed
+    void OnSysChar(UINT nChar, UINT nRepCnt, UINT nFlags);    ///< kept from the menus when its key was ours
+    UINT OnGetDlgCode(); ///< arrows and characters; every key during a gesture, so that Escape ends it alone
+    void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar); ///< `pScrollBar` is null for the control's own
+    void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar); ///< `pScrollBar` is null for the control's own
+    void OnTimer(UINT_PTR nIDEvent); ///< scrolling at the edges, delayed redraws; derived classes have other numbers
+    void OnSetFocus(CWnd* pOldWnd);  ///< the selection and the focused row look active
+    void OnKillFocus(CWnd* pNewWnd); ///< and inactive again; the tip goes
+    void OnEnable(BOOL bEnable);     ///< ends gestures; a disabled grid has grey texts
+    void OnSysColorChange();         ///< the theme takes the new colours
+    void OnSettingChange(UINT uFlags, LPCTSTR lpszSection); ///< the theme takes the new fonts and metrics
+    LRESULT OnPrintClient(CDC* pDC, UINT nFlags);           ///< draws the client area into `pDC`, whatever the flags
+    LRESULT OnSetFont(WPARAM wParam, LPARAM lParam); ///< a copy of the font, for all texts; a null font changes nothing
+    LRESULT OnGetFont(WPARAM wParam, LPARAM lParam); ///< the paint manager's font; not the handle that was set
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -19,8 +19,8 @@ public:
     /// Reads the system colours and fonts again and works out every metric.
     virtual void RefreshMetrics();
 
-    XTPReportPaintTheme GetTheme() const { return m_theme; }
-    XTPReportColumnStyle GetColumnStyle() const { return m_columnStyle; }
+    XTPReportPaintTheme GetTheme() const { return m_theme; } ///< as it was given, also when it has no look of its own
+    XTPReportColumnStyle GetColumnStyle() const { return m_columnStyle; } ///< as it was set last
     /// Styles without a look of their own look as xtpReportColumnShaded. The control shows it at its next redraw.
     void SetColumnStyle(XTPReportColumnStyle style);
 
@@ -35,30 +35,37 @@ public:
     int GetSortArrowSpace() const;
     /// Pixels for a length given at 96 DPI.
     int ScaleForDpi(int nPixels) const;
-    CFont* GetTextFont() { return &m_fontText; }
-    CFont* GetTextBoldFont() { return &m_fontBold; }
+    CFont* GetTextFont() { return &m_fontText; }     ///< owned here; the host's, else the system's for message texts
+    CFont* GetTextBoldFont() { return &m_fontBold; } ///< owned here; the text font with bold weight
     /// Also gives the bold variant. Row and header heights follow.
     void SetTextFont(const LOGFONT& lf);
+    /// Of the lines between columns (`bVertical`) or between rows.
     XTPReportGridStyle GetGridStyle(BOOL bVertical) const { return bVertical ? m_gridVertical : m_gridHorizontal; }
     /// The room of the line stays when it is switched off, so that cells keep their size.
     void SetGridStyle(BOOL bVertical, XTPReportGridStyle style);
     /// Shown in the middle of a grid without rows.
     CString GetNoItemText() const { return m_strNoItems; }
-    void SetNoItemText(LPCTSTR strText) { m_strNoItems = strText; }
+    void SetNoItemText(LPCTSTR strText) { m_strNoItems = strText; } ///< wraps; empty shows nothing
     /// Takes what the host has set on another paint manager: fonts, row height, grid lines, texts; but no colours.
     void TakeOver(const CXTPReportPaintManager& former);
     /// Width of a text in one line, pixels.
     int GetTextWidth(const CString& strText, BOOL bBold = FALSE) const;
 
     // --- Parts; rectangles are in the coordinates of `pDC` -----------------------------------------------------------
+    /// The strip behind and beside the columns, with the line under it.
     virtual void DrawHeaderBackground(CDC* pDC, const CRect& rcHeader);
+    /// One column's part of the header with its edges, hot (under the pointer) and pressed as told.
     virtual void DrawColumnBackground(CDC* pDC, CXTPReportColumn* pColumn, const CRect& rcColumn, BOOL bHot,
                                       BOOL bPressed);
     /// The caption and, when the rows are sorted by the column, the arrow.
     virtual void DrawColumnCaption(CDC* pDC, CXTPReportColumn* pColumn, const CRect& rcColumn);
+    /// At the right end of `rcArrow`, centred in its height; points up when the smallest value stands first.
     virtual void DrawSortArrow(CDC* pDC, const CRect& rcArrow, BOOL bIncreasing);
+    /// Where a dragged column would land: centred on `x`, over the height of the header.
     virtual void DrawDropMarker(CDC* pDC, int x, const CRect& rcHeader);
+    /// The part of the body without rows.
     virtual void FillBackground(CDC* pDC, const CRect& rc);
+    /// The empty text, near the upper edge of the body.
     virtual void DrawNoItemText(CDC* pDC, const CRect& rcReport);
     /// Colours and font of a row that is or is not selected, in a control that has or has not the focus.
     virtual void FillRowMetrics(CXTPReportRow* pRow, XTP_REPORTRECORDITEM_METRICS* pMetrics);
@@ -67,6 +74,7 @@ public:
     /// One line of text in the colour that `pDC` has, vertically centred, with an ellipsis when it does not fit;
     /// stretches that are hyperlinks are marked as such and told where they stand.
     virtual void DrawItemText(XTP_REPORTRECORDITEM_DRAWARGS* pDrawArgs, XTP_REPORTRECORDITEM_METRICS* pMetrics);
+    /// The frame of the focused row, drawn over its cells while the control has the keyboard. The grid line stays free.
     virtual void DrawFocusedRow(CDC* pDC, const CRect& rcRow);
     /// The mark of the cell that the keyboard acts on; `metrics` are those of its row.
     virtual void DrawFocusedCell(CDC* pDC, const CRect& rcCell, const XTP_REPORTRECORDITEM_METRICS& metrics);
@@ -74,33 +82,48 @@ public:
     virtual void DrawFocusedColumn(CDC* pDC, const CRect& rcColumn);
 
     // --- Colours ------------------------------------------------------------------------------------------------
-    CXTPPaintManagerColor m_clrHighlight;         ///< background of a selected row while the control has the focus
-    CXTPPaintManagerColor m_clrHighlightText;     ///< text on it
-    CXTPPaintManagerColor m_clrInactiveHighlight; ///< background of a selected row without the focus
-    CXTPPaintManagerColor m_clrInactiveHighlightText;
-    CXTPPaintManagerColor m_clrFocusFrame; ///< around the focused row; unset: the system's dotted rectangle
-    CXTPPaintManagerColor m_clrWindow, m_clrWindowText;
-    CXTPPaintManagerColor m_clrGridLine;
-    CXTPPaintManagerColor m_clrHyperlink;
-    CXTPPaintManagerColor m_clrDisabledText;
-    CXTPPaintManagerColor m_clrDropMark;
-    /// The header is filled from light (top) to dark (bottom).
-    CXTPPaintManagerColor m_clrHeader, m_clrHeaderLight, m_clrHeaderHot, m_clrHeaderHotLight, m_clrHeaderPressed,
-        m_clrHeaderPressedLight;
-    CXTPPaintManagerColor m_clrHeaderDivider, m_clrHeaderDividerLight, m_clrHeaderFrame, m_clrHeaderLine,
-        m_clrHeaderText, m_clrSortArrow;
+    CXTPPaintManagerColor m_clrHighlight;             ///< background of a selected row while the control has the focus
+    CXTPPaintManagerColor m_clrHighlightText;         ///< text on it
+    CXTPPaintManagerColor m_clrInactiveHighlight;     ///< background of a selected row without the focus
+    CXTPPaintManagerColor m_clrInactiveHighlightText; ///< text on it
+    CXTPPaintManagerColor m_clrFocusFrame;            ///< around the focused row; unset: the system's dotted rectangle
+    CXTPPaintManagerColor m_clrWindow;                ///< background of rows, and of the body without rows
+    CXTPPaintManagerColor m_clrWindowText;            ///< text on it
+    CXTPPaintManagerColor m_clrGridLine;              ///< lines between cells
+    CXTPPaintManagerColor m_clrHyperlink;             ///< text and line of a hyperlink
+    CXTPPaintManagerColor m_clrDisabledText;          ///< every text of a disabled control, and the empty text
+    CXTPPaintManagerColor m_clrDropMark;              ///< where a dragged column would land
+    CXTPPaintManagerColor m_clrHeader;         ///< lower end of the header's gradient, which runs from light to dark
+    CXTPPaintManagerColor m_clrHeaderLight;    ///< its upper end
+    CXTPPaintManagerColor m_clrHeaderHot;      ///< lower end under the pointer
+    CXTPPaintManagerColor m_clrHeaderHotLight; ///< upper end under the pointer
+    CXTPPaintManagerColor m_clrHeaderPressed;  ///< lower end while pressed
+    CXTPPaintManagerColor m_clrHeaderPressedLight; ///< upper end while pressed
+    CXTPPaintManagerColor m_clrHeaderDivider;      ///< at the right edge of a column; dark edge of a raised one
+    CXTPPaintManagerColor m_clrHeaderDividerLight; ///< beside it in a second tone; light edge of a raised one
+    CXTPPaintManagerColor m_clrHeaderFrame;        ///< around a hot or pressed column; unset: no frame
+    CXTPPaintManagerColor m_clrHeaderLine;         ///< under the header
+    CXTPPaintManagerColor m_clrHeaderText;         ///< captions
+    CXTPPaintManagerColor m_clrSortArrow;          ///< beside the caption of a sorted column
 
 protected:
     /// Draws `strText` in one line into `rcText` with the font selected into `pDC`.
     void DrawTextLine(CDC* pDC, const CString& strText, const CRect& rcText, int nAlignment) const;
 
-    XTPReportPaintTheme m_theme;
-    XTPReportColumnStyle m_columnStyle;
-    CFont m_fontText, m_fontBold;
-    int m_nRowHeight = 0, m_nTextRowHeight = 0, m_nHeaderHeight = 0;
-    int m_nDpi = 96, m_nTextHeight = 0, m_nTextAscent = 0, m_nCellPadding = 0;
-    XTPReportGridStyle m_gridVertical = xtpReportGridSolid, m_gridHorizontal = xtpReportGridSolid;
-    CString m_strNoItems;
+    XTPReportPaintTheme m_theme;                            ///< which colours the body has
+    XTPReportColumnStyle m_columnStyle;                     ///< which colours and edges the header has
+    CFont m_fontText;                                       ///< of every text that is not bold
+    CFont m_fontBold;                                       ///< the same with bold weight
+    int m_nRowHeight = 0;                                   ///< pixels; 0: as the font needs it
+    int m_nTextRowHeight = 0;                               ///< pixels that a row needs for the font
+    int m_nHeaderHeight = 0;                                ///< pixels
+    int m_nDpi = 96;                                        ///< for which the metrics were worked out
+    int m_nTextHeight = 0;                                  ///< pixels from the top of the tallest letter to the lowest
+    int m_nTextAscent = 0;                                  ///< pixels above the base line
+    int m_nCellPadding = 0;                                 ///< pixels between an edge and the text
+    XTPReportGridStyle m_gridVertical = xtpReportGridSolid; ///< of the lines between columns
+    XTPReportGridStyle m_gridHorizontal = xtpReportGridSolid; ///< of the lines between rows
+    CString m_strNoItems;                                     ///< shown when there are no rows
 
 private:
     void DrawLinkedText(CDC* pDC, const XTP_REPORTRECORDITEM_DRAWARGS& args, const CString& strText,

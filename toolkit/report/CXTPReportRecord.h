@@ -14,28 +14,29 @@ public:
     CXTPReportRecord();
     ~CXTPReportRecord() override;
 
-    static void* operator new(size_t size);
-    static void operator delete(void* p, size_t size);
+    static void* operator new(size_t size);            ///< memory comes from the record-item heap
+    static void operator delete(void* p, size_t size); ///< and goes back there
 
     /// Takes ownership and returns the item, so that it can be set up in the same expression. Null is not added.
     virtual CXTPReportRecordItem* AddItem(CXTPReportRecordItem* pItem);
-    int GetItemCount() const { return static_cast<int>(m_items.size()); }
-    CXTPReportRecordItem* GetItem(int nItemIndex) const; ///< null when out of range
+    int GetItemCount() const { return static_cast<int>(m_items.size()); } ///< columns may show fewer, or more
+    CXTPReportRecordItem* GetItem(int nItemIndex) const;                  ///< null when out of range
+    /// The item that the column shows; null for a null column and when the record has too few items.
     CXTPReportRecordItem* GetItem(const CXTPReportColumn* pColumn) const;
-    int IndexOf(const CXTPReportRecordItem* pItem) const;
+    int IndexOf(const CXTPReportRecordItem* pItem) const; ///< −1 when the item is not in this record
 
     /// An invisible record gets no row at the next `Populate`.
     BOOL IsVisible() const { return m_bVisible; }
-    void SetVisible(BOOL bVisible) { m_bVisible = bVisible; }
+    void SetVisible(BOOL bVisible) { m_bVisible = bVisible; } ///< rows follow at the next `Populate`
 
     int GetIndex() const; ///< place in the collection, −1 when in none; −1 for the record of virtual mode
-    CXTPReportRecords* GetRecords() const { return m_pRecords; }
+    CXTPReportRecords* GetRecords() const { return m_pRecords; } ///< null before the record is added
     /// Removes the record, and its row, from its collection and deletes it. The items that handlers hold references to
     /// live on without a record.
     void Delete();
 
-    DWORD_PTR GetItemData() const { return m_dwData; }
-    void SetItemData(DWORD_PTR dwData) { m_dwData = dwData; }
+    DWORD_PTR GetItemData() const { return m_dwData; }        ///< 0 at first
+    void SetItemData(DWORD_PTR dwData) { m_dwData = dwData; } ///< for the host; never looked at here
 
     /// Lets a record change how its cells look; called by the row after the theme and before the item.
     virtual void GetItemMetrics(XTP_REPORTRECORDITEM_DRAWARGS* pDrawArgs, XTP_REPORTRECORDITEM_METRICS* pMetrics);

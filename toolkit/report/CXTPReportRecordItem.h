@@ -9,6 +9,7 @@
 /// A stretch of a cell's text that acts as a hyperlink.
 class KY_TOOLKIT_API CXTPReportHyperlink {
 public:
+    /// A stretch that reaches beyond the text ends with it. See the members.
     CXTPReportHyperlink(int nHyperTextBegin, int nHyperTextLen)
         : m_nHyperTextBegin(nHyperTextBegin), m_nHyperTextLen(nHyperTextLen) {}
     int m_nHyperTextBegin; ///< first character
@@ -25,8 +26,8 @@ public:
     CXTPReportRecordItem();
     ~CXTPReportRecordItem() override;
 
-    static void* operator new(size_t size);
-    static void operator delete(void* p, size_t size);
+    static void* operator new(size_t size);            ///< memory comes from the record-item heap
+    static void operator delete(void* p, size_t size); ///< and goes back there
 
     // --- Text -------------------------------------------------------------------------------------------------
     /// The text to show; the explicit caption when one is set. Setters do not redraw: `RedrawControl` shows the
@@ -37,21 +38,22 @@ public:
     /// printf-style format of the value, "%s" or "%f" as the kind of item has it. A format that would read anything but
     /// the one value is kept but not used.
     CString GetFormatString() const;
-    void SetFormatString(LPCTSTR strFormat);
-    CString GetTooltip() const;
-    void SetTooltip(LPCTSTR strTooltip);
+    void SetFormatString(LPCTSTR strFormat); ///< items with the same format share its text
+    CString GetTooltip() const;              ///< empty: the tip is the text, where it is cut off
+    void SetTooltip(LPCTSTR strTooltip);     ///< shown while the pointer rests on the cell
 
     // --- Look -------------------------------------------------------------------------------------------------
     /// COLORREF, or `CXTPPaintManagerColor::Unset` (the default) for the theme's.
     COLORREF GetTextColor() const;
-    void SetTextColor(COLORREF clr);
+    void SetTextColor(COLORREF clr); ///< gives way to the selection's
+    /// COLORREF, or `CXTPPaintManagerColor::Unset` (the default) for that of the row.
     COLORREF GetBackgroundColor() const;
-    void SetBackgroundColor(COLORREF clr);
-    BOOL IsBold() const;
-    void SetBold(BOOL bBold = TRUE);
+    void SetBackgroundColor(COLORREF clr); ///< gives way to the selection's
+    BOOL IsBold() const;                   ///< FALSE at first
+    void SetBold(BOOL bBold = TRUE);       ///< uses the paint manager's bold font
     /// DT_LEFT, DT_CENTER, DT_RIGHT, or −1 (the default) for the column's alignment.
     int GetAlignment() const;
-    void SetAlignment(int nAlignment);
+    void SetAlignment(int nAlignment); ///< any negative number is the column's alignment
 
     /// Fills the metrics: text, font and colours of the cell; called before each drawing, after the theme and the
     /// record have filled them. The item's own colours give way to those of a selection.
@@ -70,9 +72,9 @@ public:
     virtual int Compare(CXTPReportColumn* pColumn, CXTPReportRecordItem* pItem);
 
     // --- Hyperlinks -------------------------------------------------------------------------------------------
-    /// Takes ownership; returns the index.
+    /// Takes ownership; returns the index, −1 for null.
     int AddHyperlink(CXTPReportHyperlink* pHyperlink);
-    int GetHyperlinksCount() const;
+    int GetHyperlinksCount() const;                        ///< 0 at first
     CXTPReportHyperlink* GetHyperlinkAt(int nIndex) const; ///< null when out of range
     /// Index of the hyperlink drawn at the point (client coordinates), −1 for none.
     virtual int HitTestHyperlink(CPoint ptPoint);
@@ -85,6 +87,8 @@ public:
     /// A click on a hyperlink tells the owner (XTP_NM_REPORT_HYPERLINK). NM_CLICK and NM_DBLCLK are the control's
     /// affair.
     virtual void OnClick(XTP_REPORTRECORDITEM_CLICKARGS* pClickArgs);
+    /// Comes instead of the second press, which follows as `OnLButtonDown` when the button is still down then. Does
+    /// nothing here.
     virtual void OnDblClick(XTP_REPORTRECORDITEM_CLICKARGS* pClickArgs);
     /// Every mouse move over the cell; the cursor over a hyperlink is the control's affair.
     virtual void OnMouseMove(UINT nFlags, CPoint point, CXTPReportControl* pReportControl);
@@ -93,13 +97,13 @@ public:
     virtual INT_PTR OnToolHitTest(CPoint point, TOOLINFO* pTI);
 
     // --- Place ------------------------------------------------------------------------------------------------
-    CXTPReportRecord* GetRecord() const { return m_pRecord; }
-    int GetIndex() const; ///< place in the record, −1 when in none
+    CXTPReportRecord* GetRecord() const { return m_pRecord; } ///< null when in none
+    int GetIndex() const;                                     ///< place in the record, −1 when in none
     /// The control that shows the item's record, or null.
     CXTPReportControl* GetReportControl() const;
 
-    DWORD_PTR GetItemData() const;
-    void SetItemData(DWORD_PTR dwData);
+    DWORD_PTR GetItemData() const;      ///< 0 at first
+    void SetItemData(DWORD_PTR dwData); ///< for the host; never looked at here
 
 private:
     // In this order the members leave no gaps: millions of items are ordinary.
@@ -109,6 +113,7 @@ private:
 protected:
     /// Sets the format; items with the same one share its text.
     void InternFormatString(LPCTSTR strFormat) { m_formatString = CompactText::Interned(strFormat); }
+    /// The format without a copy; never null, lives until the format is changed.
     LPCTSTR FormatString() const { return m_formatString.GetString(); }
 
     CompactText m_strCaption; ///< explicit caption; empty: the value makes the text

@@ -10,6 +10,7 @@
 /// control's next `Populate`; records that are removed lose their rows at once.
 class KY_TOOLKIT_API CXTPReportRecords : public CCmdTarget {
 public:
+    /// @param pControl the control that owns the collection; null for a collection without one, as in tests
     explicit CXTPReportRecords(CXTPReportControl* pControl);
     ~CXTPReportRecords() override;
 
@@ -25,17 +26,18 @@ public:
 
     /// Records there are; 0 in virtual mode.
     int GetCount() const;
-    CXTPReportRecord* GetAt(int nIndex) const;          ///< null when out of range
-    int IndexOf(const CXTPReportRecord* pRecord) const; ///< −1 when absent
-    CXTPReportControl* GetControl() const { return m_pControl; }
+    CXTPReportRecord* GetAt(int nIndex) const;                   ///< null when out of range
+    int IndexOf(const CXTPReportRecord* pRecord) const;          ///< −1 when absent
+    CXTPReportControl* GetControl() const { return m_pControl; } ///< null while the control is being destroyed
 
     /// One record for `nCount` rows, shown after `Populate`; it takes the place of all records that are there. Null and
     /// 0 end virtual mode. Takes ownership of the record.
     void SetVirtualMode(CXTPReportRecord* pVirtualRecord, int nCount);
-    BOOL IsVirtualMode() const { return m_pVirtualRecord != nullptr; }
-    CXTPReportRecord* GetVirtualRecord() const { return m_pVirtualRecord; }
-    int GetVirtualCount() const { return m_nVirtualCount; }
+    BOOL IsVirtualMode() const { return m_pVirtualRecord != nullptr; }      ///< from `SetVirtualMode` on, shown or not
+    CXTPReportRecord* GetVirtualRecord() const { return m_pVirtualRecord; } ///< null outside of virtual mode
+    int GetVirtualCount() const { return m_nVirtualCount; }                 ///< rows of virtual mode, 0 outside of it
 
+    /// In their own order, which is not the rows'. The reference is good until the next change.
     const std::vector<CXTPReportRecord*>& GetRecords() const;
 
 private:

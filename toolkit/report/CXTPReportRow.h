@@ -7,15 +7,18 @@
 /// that may cause a `Populate` holds a reference.
 class KY_TOOLKIT_API CXTPReportRow : public CCmdTarget {
 public:
+    /// Rows are made by `CXTPReportRows` alone.
     CXTPReportRow(CXTPReportRows* pRows, CXTPReportRecord* pRecord, int nIndex);
 
-    int GetIndex() const { return m_nIndex; }
+    int GetIndex() const { return m_nIndex; } ///< place from the top, 0 for the first row
     /// The record; null after its record was deleted and before the next `Populate`.
     CXTPReportRecord* GetRecord() const { return m_pRecord; }
     CXTPReportControl* GetControl() const; ///< null once the row was taken out of its control
-    BOOL IsSelected() const;
+    BOOL IsSelected() const;               ///< FALSE for a row that was taken out
+    /// Adds the row to the selection or takes it out; without multiple selection it becomes the only selected row. Does
+    /// not raise `OnSelectionChanged`.
     void SetSelected(BOOL bSelected);
-    BOOL IsFocused() const;
+    BOOL IsFocused() const; ///< whether or not the control has the keyboard
 
     /// The row in client coordinates, over the full width of the report area; may lie outside the visible part.
     CRect GetRect() const;
@@ -27,11 +30,12 @@ public:
     /// if none, and then the two are left alone. A point on a grid line belongs to the cell left of or above it.
     CXTPReportRecordItem* HitTest(CPoint ptPoint, CRect* pRectItem = nullptr,
                                   CXTPReportColumn** ppColumn = nullptr) const;
+    /// FALSE for a row that was taken out, which has no items to show.
     BOOL IsItemsVisible() const { return m_pRecord != nullptr; }
 
     /// Draws the row into `pDC` at `rcRow`; only cells that meet the clip box of `rcClip` are drawn.
     virtual void Draw(CDC* pDC, const CRect& rcRow, const CRect& rcClip);
-    void EnsureVisible();
+    void EnsureVisible(); ///< scrolls as little as needed; a row that was taken out does nothing
 
 private:
     friend class CXTPReportRows;

@@ -13,23 +13,26 @@
 /// rebuild; one that was taken out has neither control nor record.
 class KY_TOOLKIT_API CXTPReportRows : public CCmdTarget {
 public:
+    /// @param pControl the control that owns the rows; null for rows without one, as in tests
     explicit CXTPReportRows(CXTPReportControl* pControl);
     ~CXTPReportRows() override;
 
-    int GetCount() const;
+    int GetCount() const;                                 ///< as of the last `Populate`, less what was removed since
     CXTPReportRow* GetAt(int nIndex) const;               ///< null when out of range
     CXTPReportRow* Find(CXTPReportRecord* pRecord) const; ///< null when the record has no row, and in virtual mode
     int IndexOf(const CXTPReportRecord* pRecord) const;   ///< −1 when the record has no row, and in virtual mode
     CXTPReportRecord* GetRecordAt(int nIndex) const;      ///< as `GetAt(n)->GetRecord()` without making the row object
-    CXTPReportControl* GetControl() const { return m_pControl; }
+    CXTPReportControl* GetControl() const { return m_pControl; } ///< the control that owns the rows
 
     // --- For the control ----------------------------------------------------------------------------------------
     /// Takes the visible records in the given order; every earlier row object is detached.
     void Rebuild(std::vector<CXTPReportRecord*> records);
+    /// One record for all rows. A null record and negative counts give no rows.
     void RebuildVirtual(CXTPReportRecord* pVirtualRecord, int nCount);
-    bool IsVirtual() const { return m_pVirtualRecord != nullptr; }
+    bool IsVirtual() const { return m_pVirtualRecord != nullptr; } ///< one record stands for all rows
     /// Takes out the row of a record that is about to be deleted, out of the selection as well, and tells the control.
     void RecordRemoved(CXTPReportRecord* pRecord);
+    /// Detaches every row object; selection, focus and top row of the control go as well.
     void Clear();
 
 private:

@@ -9,19 +9,20 @@
 /// affair.
 class KY_TOOLKIT_API CXTPReportSelectedRows : public CCmdTarget {
 public:
+    /// @param pControl the control that owns the selection
     explicit CXTPReportSelectedRows(CXTPReportControl* pControl);
 
-    int GetCount() const;                   ///< held at the largest int
-    CXTPReportRow* GetAt(int nIndex) const; ///< the nIndex-th selected row from the top; null when out of range
-    BOOL Contains(const CXTPReportRow* pRow) const;
-    BOOL Contains(int nRowIndex) const;
+    int GetCount() const;                           ///< held at the largest int
+    CXTPReportRow* GetAt(int nIndex) const;         ///< the nIndex-th selected row from the top; null when out of range
+    BOOL Contains(const CXTPReportRow* pRow) const; ///< FALSE for null and for rows of another control
+    BOOL Contains(int nRowIndex) const;             ///< FALSE when out of range
 
-    void Clear();
+    void Clear(); ///< selects nothing; the anchor stays
     /// Without multiple selection as `Select`.
     void Add(CXTPReportRow* pRow);
-    void Remove(CXTPReportRow* pRow);
-    void Invert(CXTPReportRow* pRow);
-    /// Selects this row alone.
+    void Remove(CXTPReportRow* pRow); ///< null and rows that are not selected change nothing
+    void Invert(CXTPReportRow* pRow); ///< `Remove` when it is selected, else `Add`
+    /// Selects this row alone; null selects nothing.
     void Select(CXTPReportRow* pRow);
     /// Selects the rows from `nBegin` to `nEnd` (either order, clamped to the rows there are); `bClear` drops what was
     /// selected before. Without multiple selection only `nEnd` is selected.
@@ -29,13 +30,13 @@ public:
 
     /// The row from which a shift-selection extends, −1 for none.
     int GetAnchor() const { return m_nAnchor; }
-    void SetAnchor(int nRowIndex) { m_nAnchor = nRowIndex; }
+    void SetAnchor(int nRowIndex) { m_nAnchor = nRowIndex; } ///< selects nothing by itself
 
     // --- For the control and its rows -----------------------------------------------------------------------------
     /// The ranges themselves, for carrying the selection over a `Populate`. Setting them drops what lies beyond the
     /// rows.
     const RowSelection& GetRanges() const { return m_ranges; }
-    void SetRanges(const RowSelection& ranges);
+    void SetRanges(const RowSelection& ranges); ///< replaces the selection
     /// The row was taken out: it leaves the selection, and those below move up by one.
     void RowRemoved(int nRowIndex);
 

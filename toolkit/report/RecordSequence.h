@@ -13,15 +13,17 @@ public:
     /// `place` is the member of the record that this sequence may use; −1 means that it is in none.
     explicit RecordSequence(int CXTPReportRecord::*place) : m_place(place) {}
 
-    int Count() const { return static_cast<int>(m_records.size()); }
-    CXTPReportRecord* At(int index) const; ///< null when out of range
+    int Count() const { return static_cast<int>(m_records.size()); } ///< O(1)
+    CXTPReportRecord* At(int index) const;                           ///< null when out of range
     /// The place of the record; −1 when it is not in this sequence. Null is in none.
     int IndexOf(const CXTPReportRecord* record) const;
+    /// In order; the reference is good until the next change.
     const std::vector<CXTPReportRecord*>& Records() const { return m_records; }
 
-    void Append(CXTPReportRecord* record);
+    void Append(CXTPReportRecord* record);            ///< never null, and in no sequence that uses the same member
     void Insert(int index, CXTPReportRecord* record); ///< 0 <= index <= count
     void Erase(int index);                            ///< 0 <= index < count
+    /// Replaces all records. Those that were in the sequence are looked at once more, so they must still live.
     void Assign(std::vector<CXTPReportRecord*> records);
     /// Empties the sequence and returns what was in it.
     std::vector<CXTPReportRecord*> Take();

@@ -10,27 +10,32 @@ class RowSelection {
 public:
     /// Rows `first`…`last`, both inclusive.
     struct Range {
-        int first;
-        int last;
+        int first; ///< the upper row
+        int last;  ///< the lower row, at least `first`
+        /// The same rows.
         bool operator==(const Range&) const = default;
     };
 
-    bool Contains(int row) const;
-    bool IsEmpty() const { return m_ranges.empty(); }
-    std::int64_t Count() const;
+    bool Contains(int row) const;                     ///< false for negative rows
+    bool IsEmpty() const { return m_ranges.empty(); } ///< O(1)
+    std::int64_t Count() const;                       ///< rows, not ranges
     /// The index-th row from the top, −1 when there are fewer.
     int RowAt(std::int64_t index) const;
 
-    void Clear() { m_ranges.clear(); }
+    void Clear() { m_ranges.clear(); } ///< no row is in it then
+    /// Adds the rows `first`…`last`, both inclusive; neighbouring ranges become one. Nothing when `last` is less.
     void Add(int first, int last);
+    /// Takes out the rows `first`…`last`, both inclusive, which may cut a range in two.
     void Remove(int first, int last);
-    void Invert(int row);
+    void Invert(int row); ///< in when it was out, out when it was in
     /// The row at `row` goes away: it leaves the set and all rows below move up by one.
     void RowRemoved(int row);
     /// Drops everything from `count` on.
     void Truncate(int count);
 
+    /// From the top; they neither overlap nor touch.
     const std::vector<Range>& Ranges() const { return m_ranges; }
+    /// The same rows: a set of rows has one form as ranges.
     bool operator==(const RowSelection&) const = default;
 
 private:

@@ -31,40 +31,41 @@ enum XTPReportMouseMode {
 
 /// Line style of the grid lines between rows or columns.
 enum XTPReportGridStyle {
-    xtpReportGridNoLines,
-    xtpReportGridSmallDots,
-    xtpReportGridLargeDots,
-    xtpReportGridDashes,
-    xtpReportGridSolid
+    xtpReportGridNoLines,   ///< none; the room of the line stays
+    xtpReportGridSmallDots, ///< every second pixel
+    xtpReportGridLargeDots, ///< 2 pixels drawn, 2 left out
+    xtpReportGridDashes,    ///< 4 pixels drawn, 2 left out
+    xtpReportGridSolid      ///< a line of 1 pixel
 };
 
 /// Everything that drawing one cell needs. Coordinates are those of `pDC`.
 struct XTP_REPORTRECORDITEM_DRAWARGS {
-    CDC* pDC = nullptr;
-    CXTPReportControl* pControl = nullptr;
-    CXTPReportRow* pRow = nullptr;       ///< null when the cell is drawn outside a grid, as for an image
-    CRect rcItem;                        ///< the cell
-    CXTPReportColumn* pColumn = nullptr; ///< null when the cell is drawn outside a grid
-    CXTPReportRecordItem* pItem = nullptr;
-    int nTextAlign = DT_LEFT; ///< DT_LEFT, DT_CENTER or DT_RIGHT
+    CDC* pDC = nullptr;                    ///< where to draw: the control's back buffer, a bitmap, a printer
+    CXTPReportControl* pControl = nullptr; ///< whose theme and state count
+    CXTPReportRow* pRow = nullptr;         ///< null when the cell is drawn outside a grid, as for an image
+    CRect rcItem;                          ///< the cell
+    CXTPReportColumn* pColumn = nullptr;   ///< null when the cell is drawn outside a grid
+    CXTPReportRecordItem* pItem = nullptr; ///< the cell that draws
+    int nTextAlign = DT_LEFT;              ///< DT_LEFT, DT_CENTER or DT_RIGHT
 };
 
 /// How a cell looks; filled by the row, the record and the item before the cell is drawn.
 struct XTP_REPORTRECORDITEM_METRICS {
-    CString strText;
+    CString strText;        ///< what the cell shows; in virtual mode set by the item for the row that is drawn
     CFont* pFont = nullptr; ///< not owned
-    COLORREF clrForeground = CXTPPaintManagerColor::Unset;
+    COLORREF clrForeground = CXTPPaintManagerColor::Unset; ///< text; unset: the device context's
+    /// Behind the text. The row has filled itself in its own colour; the cell fills where this one differs.
     COLORREF clrBackground = CXTPPaintManagerColor::Unset;
-    int nColumnAlignment = DT_LEFT;
+    int nColumnAlignment = DT_LEFT; ///< DT_LEFT, DT_CENTER or DT_RIGHT
 };
 
 /// A cell and where it stands; passed to the editing and clicking operations of items.
 struct XTP_REPORTRECORDITEM_ARGS {
-    CXTPReportControl* pControl = nullptr;
-    CXTPReportRow* pRow = nullptr;
-    CXTPReportColumn* pColumn = nullptr;
-    CXTPReportRecordItem* pItem = nullptr;
-    CRect rcItem; ///< client coordinates
+    CXTPReportControl* pControl = nullptr; ///< the grid
+    CXTPReportRow* pRow = nullptr;         ///< the cell's row; in virtual mode the only way to tell which one is meant
+    CXTPReportColumn* pColumn = nullptr;   ///< the column that shows the cell
+    CXTPReportRecordItem* pItem = nullptr; ///< the cell
+    CRect rcItem;                          ///< client coordinates, without the grid lines
 };
 
 /// A click on a cell.
@@ -76,25 +77,26 @@ struct XTP_REPORTRECORDITEM_CLICKARGS : XTP_REPORTRECORDITEM_ARGS {
 /// NM_CLICK, NM_DBLCLK, NM_RCLICK and the selection, focus and hyperlink codes carry XTP_NM_REPORTRECORDITEM;
 /// the column codes carry XTP_NM_REPORTCOLUMN.
 constexpr UINT XTP_NM_REPORT_FIRST = 0U - 5000U;
-constexpr UINT XTP_NM_REPORT_SELCHANGED = XTP_NM_REPORT_FIRST - 1;
-constexpr UINT XTP_NM_REPORT_FOCUSCHANGED = XTP_NM_REPORT_FIRST - 2;
-constexpr UINT XTP_NM_REPORT_HYPERLINK = XTP_NM_REPORT_FIRST - 3;
-constexpr UINT XTP_NM_REPORT_SORTORDERCHANGED = XTP_NM_REPORT_FIRST - 4;
-constexpr UINT XTP_NM_REPORT_COLUMNORDERCHANGED = XTP_NM_REPORT_FIRST - 5;
+constexpr UINT XTP_NM_REPORT_SELCHANGED = XTP_NM_REPORT_FIRST - 1;         ///< the selection is another one; no item
+constexpr UINT XTP_NM_REPORT_FOCUSCHANGED = XTP_NM_REPORT_FIRST - 2;       ///< another row has the focus; no item
+constexpr UINT XTP_NM_REPORT_HYPERLINK = XTP_NM_REPORT_FIRST - 3;          ///< a hyperlink was clicked
+constexpr UINT XTP_NM_REPORT_SORTORDERCHANGED = XTP_NM_REPORT_FIRST - 4;   ///< the user has sorted; rows are in order
+constexpr UINT XTP_NM_REPORT_COLUMNORDERCHANGED = XTP_NM_REPORT_FIRST - 5; ///< the user has moved a column
+/// The user has made columns wider or narrower; no column when all were fitted at once.
 constexpr UINT XTP_NM_REPORT_COLUMNWIDTHCHANGED = XTP_NM_REPORT_FIRST - 6;
 
 /// What a notification about a cell carries. The pointers are valid until the owner returns.
 struct XTP_NM_REPORTRECORDITEM {
-    NMHDR hdr;
-    CXTPReportRow* pRow;
-    CXTPReportRecordItem* pItem;
-    CXTPReportColumn* pColumn;
-    int nHyperlink; ///< index of the hyperlink, −1 for none
-    POINT pt;       ///< client coordinates
+    NMHDR hdr;                   ///< the grid's window, its identifier and the code
+    CXTPReportRow* pRow;         ///< null when there is none, as for a right click below the last row
+    CXTPReportRecordItem* pItem; ///< null when the notification is about the row, or its record has no such item
+    CXTPReportColumn* pColumn;   ///< null when there is no item
+    int nHyperlink;              ///< index of the hyperlink, −1 for none
+    POINT pt;                    ///< client coordinates
 };
 
 /// What a notification about a column carries.
 struct XTP_NM_REPORTCOLUMN {
-    NMHDR hdr;
-    CXTPReportColumn* pColumn;
+    NMHDR hdr;                 ///< the grid's window, its identifier and the code
+    CXTPReportColumn* pColumn; ///< null when the notification is about all columns
 };

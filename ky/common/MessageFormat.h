@@ -1,4 +1,5 @@
-// Texts with %1%, %2% places: a translated pattern filled with values, safe against broken translations.
+/// @file
+/// Texts with %1%, %2% places: a translated pattern filled with values, safe against broken translations.
 #pragma once
 
 #include <boost/format.hpp>

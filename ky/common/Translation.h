@@ -1,10 +1,14 @@
-// User-visible texts: English literals, translated through a gettext catalogue, with %1% places for values.
+/// @file
+/// User-visible texts: English literals, translated through a gettext catalogue, with %1% places for values.
 #pragma once
 
 #include "KyExport.h"
 #include "MessageFormat.h"
 
 #include <afxwin.h>
+
+/// @addtogroup ky_common
+/// @{
 
 /// Chooses the language of the library's texts. Without a call they are English, and no catalogue is needed.
 /// To be called on the user-interface thread, usually once at start; texts already shown are not changed.
@@ -28,3 +32,5 @@ CString TranslateFormat(const char* context, const char* text, const Args&... ar
     const CString original(text);
     return messageformat::Fill(translated.GetString(), original.GetString(), args...).c_str();
 }
+
+/// @}

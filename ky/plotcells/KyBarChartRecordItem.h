@@ -1,4 +1,5 @@
-// A grid cell that shows an interval as a bar on a scale.
+/// @file
+/// A grid cell that shows an interval as a bar on a scale.
 #pragma once
 
 #include "KyPlotRecordItem.h"
@@ -7,6 +8,7 @@
 /// and red marks at the ends of the scale. Anything that is -99 is left out. The bar's ends and the target can be
 /// dragged; while an end is dragged, the bar can stay symmetric about the target. A bar beside the visible scale shows
 /// as "<<<" or ">>>".
+/// @ingroup ky_cells
 class KYUI_API KyBarChartRecordItem : public KyPlotRecordItem {
     DECLARE_DYNCREATE(KyBarChartRecordItem)
 public:

@@ -1,4 +1,5 @@
-// Base of the grid cells that draw a small plot and let the user drag marks on it.
+/// @file
+/// Base of the grid cells that draw a small plot and let the user drag marks on it.
 #pragma once
 
 #include "../common/KyExport.h"
@@ -19,6 +20,7 @@
 /// A value of exactly -99.0 is no value: it is not drawn, nothing is near to it, and it limits nothing. Positions are
 /// fractions of the cell width, 0 at the left and 1 at the right edge; points and rectangles are in client coordinates
 /// of the grid; colours are COLORREF. Everything runs on the thread that owns the grid's window.
+/// @ingroup ky_cells
 class KYUI_API KyPlotRecordItem : public CXTPReportRecordItemText {
 public:
     /// Fired at the end of a drag that is applied, with (lower, target, upper); -99.0f stands for the two that were not

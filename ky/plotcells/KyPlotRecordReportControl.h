@@ -1,4 +1,5 @@
-// The report grid in which plot cells can be dragged.
+/// @file
+/// The report grid in which plot cells can be dragged.
 #pragma once
 
 #include "../reportgrid/KyReportControl.h"
@@ -9,6 +10,7 @@ class KyPlotRecordItem;
 /// captures the mouse for the drag, keeps the pointer inside the dragged cell while the button is down, ends the drag
 /// on release or when the pointer leaves, and cancels it on Escape. Value changes are told by the cells' own signals.
 /// Cut and paste are off.
+/// @ingroup ky_cells
 class KYUI_API KyPlotRecordReportControl : public KyReportControl {
     DECLARE_DYNCREATE(KyPlotRecordReportControl)
 public:

@@ -1,4 +1,5 @@
-// The report grid that every other grid of an application derives from or uses directly.
+/// @file
+/// The report grid that every other grid of an application derives from or uses directly.
 #pragma once
 
 #include "../common/KyExport.h"
@@ -14,6 +15,7 @@
 /// Create the control and its columns in code, which makes the default layout; call `EnableShowHideColumns` if the
 /// chooser is wanted; then call `AutoLoadReportState`. The destructor saves. Everything runs on the user-interface
 /// thread; a missing or broken stored layout changes nothing and shows no message.
+/// @ingroup ky_grid
 class KYUI_API KyReportControl : public CXTPReportControl {
     DECLARE_DYNCREATE(KyReportControl)
 public:

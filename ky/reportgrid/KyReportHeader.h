@@ -1,4 +1,5 @@
-// The header of the report grid.
+/// @file
+/// The header of the report grid.
 #pragma once
 
 #include "../common/KyExport.h"
@@ -6,6 +7,7 @@
 #include <XTToolkitPro.h>
 
 /// The header that `KyReportControl` installs: a right click on it opens the grid's column chooser.
+/// @ingroup ky_grid
 class KYUI_API KyReportHeader : public CXTPReportHeader {
 public:
     /// Neither pointer is owned; the control owns the header.

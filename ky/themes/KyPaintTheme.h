@@ -1,8 +1,10 @@
-// The library's theme enumeration.
+/// @file
+/// The library's theme enumeration.
 #pragma once
 
 /// The visual themes that an application offers. Other values may arrive from stored or sent numbers; every function
 /// of `Themes` says what it makes of them. The profile holds the name of the member, users see the name beside it.
+/// @ingroup ky_themes
 enum class KyPaintTheme : int {
     Office2000 = 0,       ///< "Office 2000"
     OfficeXP = 1,         ///< "Office XP"

@@ -1,4 +1,5 @@
-// The application's visual theme: the stored choice, and what it means for each component of the toolkit.
+/// @file
+/// The application's visual theme: the stored choice, and what it means for each component of the toolkit.
 #pragma once
 
 #include "../common/KyExport.h"
@@ -8,6 +9,7 @@
 
 /// Reads the user's theme and translates it. Everything runs on the user-interface thread; there is no state here:
 /// the theme in force is the one in the application's profile.
+/// @ingroup ky_themes
 namespace Themes {
 
 /// The theme stored in the application's profile (section "Settings", entry "RibbonTheme", an identifier such as

@@ -1,4 +1,5 @@
-// The command bars of a frame: menus, as far as controls show them.
+/// @file
+/// The command bars of a frame: menus, as far as controls show them.
 #pragma once
 
 #include "../common/Export.h"
@@ -6,6 +7,7 @@
 #include <afxwin.h>
 
 /// The command bars of a frame window.
+/// @ingroup toolkit_commandbars
 class KY_TOOLKIT_API CXTPCommandBars : public CCmdTarget {
 public:
     /// @param pSite the frame; not owned, and outlives the command bars

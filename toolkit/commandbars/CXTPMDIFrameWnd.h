@@ -1,4 +1,5 @@
-// An MDI frame window with command bars.
+/// @file
+/// An MDI frame window with command bars.
 #pragma once
 
 #include "CXTPCommandBars.h"
@@ -6,6 +7,7 @@
 #include <memory>
 
 /// The frame owns its command bars; there are none until `InitCommandBars`.
+/// @ingroup toolkit_commandbars
 class KY_TOOLKIT_API CXTPMDIFrameWnd : public CMDIFrameWnd {
     DECLARE_DYNCREATE(CXTPMDIFrameWnd)
 public:

@@ -1,4 +1,5 @@
-// The global paint manager: which theme the toolkit's components follow.
+/// @file
+/// The global paint manager: which theme the toolkit's components follow.
 #pragma once
 
 #include "Export.h"
@@ -7,6 +8,7 @@
 #include <afxwin.h>
 
 /// One instance per process, made on first use; `SetTheme` replaces it.
+/// @ingroup toolkit_common
 class KY_TOOLKIT_API CXTPPaintManager : public CCmdTarget {
 public:
     /// The instance in force; null until the first `SetTheme`.
@@ -27,4 +29,5 @@ private:
 };
 
 /// The instance, made with theme 0 when there is none.
+/// @ingroup toolkit_common
 KY_TOOLKIT_API CXTPPaintManager* XTPPaintManager();

@@ -1,9 +1,11 @@
-// A theme colour that a host may override: a standard value set by the theme and an optional custom value.
+/// @file
+/// A theme colour that a host may override: a standard value set by the theme and an optional custom value.
 #pragma once
 
 #include <windows.h>
 
 /// Converts to the custom value when one is set, else to the standard value (both COLORREF 0x00BBGGRR).
+/// @ingroup toolkit_common
 class CXTPPaintManagerColor {
 public:
     /// The value of a colour that is not set.

@@ -1,4 +1,5 @@
-// The pieces of a path.
+/// @file
+/// The pieces of a path.
 #pragma once
 
 #include "Export.h"
@@ -6,6 +7,7 @@
 #include <afxwin.h>
 
 /// Splits a path once; the getters return the pieces.
+/// @ingroup toolkit_common
 class KY_TOOLKIT_API CXTPSplitPath {
 public:
     /// Splits the text alone: the path need not exist. Both kinds of slashes separate folders.

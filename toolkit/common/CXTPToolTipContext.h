@@ -1,4 +1,5 @@
-// Tool tips of a window: how they look and when they show.
+/// @file
+/// Tool tips of a window: how they look and when they show.
 #pragma once
 
 #include "Export.h"
@@ -10,6 +11,7 @@
 
 /// Shows the tool tip of whatever tool a window's `OnToolHitTest` reports under the pointer. Owned by that window.
 /// The tip's own window is made when the first tip shows.
+/// @ingroup toolkit_common
 class KY_TOOLKIT_API CXTPToolTipContext : public CCmdTarget {
 public:
     CXTPToolTipContext();

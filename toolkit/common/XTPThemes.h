@@ -1,6 +1,10 @@
-// Theme and style identifiers of the toolkit's components. The numbers are part of the interface: hosts store and
-// compute with them.
+/// @file
+/// Theme and style identifiers of the toolkit's components. The numbers are part of the interface: hosts store and
+/// compute with them.
 #pragma once
+
+/// @addtogroup toolkit_common
+/// @{
 
 /// Theme of the command bars and of the global paint manager.
 enum XTPPaintTheme : int {
@@ -62,3 +66,5 @@ enum XTPReportColumnStyle : int {
     xtpReportColumnOffice2003 = 3, ///< a gradient with short dividers
     xtpReportColumnResource = 4    ///< skinned
 };
+
+/// @}

@@ -1,4 +1,5 @@
-// Umbrella header of the toolkit layer: the one header that the library and its hosts include.
+/// @file
+/// Umbrella header of the toolkit layer: the one header that the library and its hosts include.
 #pragma once
 
 #include <afxcmn.h>

@@ -1,4 +1,5 @@
-// Memory for millions of small objects: a pool with one free list per size. No window needed.
+/// @file
+/// Memory for millions of small objects: a pool with one free list per size. No window needed.
 #pragma once
 
 #include <array>
@@ -10,6 +11,7 @@
 /// Hands out blocks in steps of 16 bytes without a header of its own; blocks above `LargestBlock` come from the heap of
 /// the runtime. Any thread may take and return blocks. When the last block of a size is returned, the memory of that
 /// size goes back to the heap, so that a grid that was emptied holds nothing.
+/// @ingroup toolkit_report
 class BlockPool {
 public:
     static constexpr std::size_t Step = 16;          ///< bytes by which the sizes of blocks grow

@@ -1,4 +1,5 @@
-// One column of a report control.
+/// @file
+/// One column of a report control.
 #pragma once
 
 #include "XTPReportDefines.h"
@@ -7,6 +8,7 @@
 /// and owned by the control's column collection from `CXTPReportControl::AddColumn` on. Setters that change the look
 /// ask the control for a redraw, those that change widths or visibility for a new layout; they do nothing when the
 /// value stays the same.
+/// @ingroup toolkit_report
 class KY_TOOLKIT_API CXTPReportColumn : public CCmdTarget {
     DECLARE_DYNAMIC(CXTPReportColumn)
 public:

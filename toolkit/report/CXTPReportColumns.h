@@ -1,4 +1,5 @@
-// The columns of a report control and the order in which it is sorted by them.
+/// @file
+/// The columns of a report control and the order in which it is sorted by them.
 #pragma once
 
 #include "XTPReportDefines.h"
@@ -7,6 +8,7 @@
 #include <vector>
 
 /// The columns by which rows are sorted, most significant first. Columns are not owned.
+/// @ingroup toolkit_report
 class KY_TOOLKIT_API CXTPReportColumnOrder {
 public:
     int GetCount() const { return static_cast<int>(m_columns.size()); } ///< 0: not sorted
@@ -26,6 +28,7 @@ private:
 
 /// Owns the columns; the index of a column is its place from left to right, hidden columns counted. Changes ask the
 /// control for a new layout.
+/// @ingroup toolkit_report
 class KY_TOOLKIT_API CXTPReportColumns : public CCmdTarget {
 public:
     /// @param pControl the control that owns the collection; null for a collection without one, as in tests

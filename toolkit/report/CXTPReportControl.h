@@ -1,4 +1,5 @@
-// The report control: a grid of records with sortable, movable, resizable columns.
+/// @file
+/// The report control: a grid of records with sortable, movable, resizable columns.
 #pragma once
 
 #include "XTPReportDefines.h"
@@ -32,6 +33,7 @@
 /// height. `OnSelectionChanged` runs once per action of the user, and when the host focuses a row with its selection,
 /// not when the host changes `GetSelectedRows` or populates. Notifications (XTPReportDefines.h) are sent after what
 /// they tell of; the owner may change the content in them, and destroy the control.
+/// @ingroup toolkit_report
 class KY_TOOLKIT_API CXTPReportControl : public CWnd {
     DECLARE_DYNCREATE(CXTPReportControl)
 public:

@@ -1,4 +1,5 @@
-// The strip of column headers above the rows.
+/// @file
+/// The strip of column headers above the rows.
 #pragma once
 
 #include "XTPReportDefines.h"
@@ -6,6 +7,7 @@
 /// Lays out the columns, finds the column or divider under a point, and carries out what the user does there:
 /// sort by click, resize at the divider, best fit by double click, move by dragging.
 /// Points and rectangles are in the control's client coordinates.
+/// @ingroup toolkit_report
 class KY_TOOLKIT_API CXTPReportHeader : public CCmdTarget {
     DECLARE_DYNAMIC(CXTPReportHeader)
 public:

@@ -1,4 +1,5 @@
-// How a report control looks: colours and metrics of a theme, and the drawing of every part with them.
+/// @file
+/// How a report control looks: colours and metrics of a theme, and the drawing of every part with them.
 #pragma once
 
 #include "XTPReportDefines.h"
@@ -9,6 +10,7 @@
 /// Every colour has a standard value, which the theme and the column style give it, and may be overridden by the host;
 /// the override survives `SetColumnStyle` and `RefreshMetrics`. A colour that reads as `CXTPPaintManagerColor::Unset`
 /// is not drawn.
+/// @ingroup toolkit_report
 class KY_TOOLKIT_API CXTPReportPaintManager : public CCmdTarget {
 public:
     /// Themes without a look of their own get that of xtpReportThemeDefault; the column style begins as the theme's

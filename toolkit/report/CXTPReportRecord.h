@@ -1,4 +1,5 @@
-// One record: a row's worth of items.
+/// @file
+/// One record: a row's worth of items.
 #pragma once
 
 #include "RecordItemHeap.h"
@@ -8,6 +9,7 @@
 
 /// Owns its items. Created by the host with `new`; owned by the record collection it is added to. Reference counted
 /// like its items: a handler that may cause the record's removal holds a reference.
+/// @ingroup toolkit_report
 class KY_TOOLKIT_API CXTPReportRecord : public CCmdTarget {
     DECLARE_DYNAMIC(CXTPReportRecord)
 public:

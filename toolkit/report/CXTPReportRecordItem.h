@@ -1,4 +1,5 @@
-// One cell of a record: the base of every cell that a report control shows.
+/// @file
+/// One cell of a record: the base of every cell that a report control shows.
 #pragma once
 
 #include "CompactText.h"
@@ -7,6 +8,7 @@
 #include <memory>
 
 /// A stretch of a cell's text that acts as a hyperlink.
+/// @ingroup toolkit_report
 class KY_TOOLKIT_API CXTPReportHyperlink {
 public:
     /// A stretch that reaches beyond the text ends with it. See the members.
@@ -20,6 +22,7 @@ public:
 /// A cell. Created with `new` (memory comes from the toolkit's record-item heap), owned by its record, reference
 /// counted through `InternalAddRef`/`InternalRelease` so that a handler may outlive the removal of its own record.
 /// Rarely used properties live apart, so that a plain cell stays small: millions are ordinary.
+/// @ingroup toolkit_report
 class KY_TOOLKIT_API CXTPReportRecordItem : public CCmdTarget {
     DECLARE_DYNAMIC(CXTPReportRecordItem)
 public:

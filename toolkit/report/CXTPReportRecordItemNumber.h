@@ -1,9 +1,11 @@
-// A cell that shows a number through a printf-style format.
+/// @file
+/// A cell that shows a number through a printf-style format.
 #pragma once
 
 #include "CXTPReportRecordItem.h"
 
 /// A number cell. Sorts by value; a NaN sorts before every number.
+/// @ingroup toolkit_report
 class KY_TOOLKIT_API CXTPReportRecordItemNumber : public CXTPReportRecordItem {
     DECLARE_DYNCREATE(CXTPReportRecordItemNumber)
 public:

@@ -1,9 +1,11 @@
-// A cell that shows a text.
+/// @file
+/// A cell that shows a text.
 #pragma once
 
 #include "CXTPReportRecordItem.h"
 
 /// A text cell. Sorts by the user's locale, without regard to case.
+/// @ingroup toolkit_report
 class KY_TOOLKIT_API CXTPReportRecordItemText : public CXTPReportRecordItem {
     DECLARE_DYNCREATE(CXTPReportRecordItemText)
 public:

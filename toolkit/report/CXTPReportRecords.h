@@ -1,4 +1,5 @@
-// The records of a report control.
+/// @file
+/// The records of a report control.
 #pragma once
 
 #include "RecordSequence.h"
@@ -8,6 +9,7 @@
 
 /// Owns the records. In virtual mode it owns one record that stands for all rows. Records that are added show after the
 /// control's next `Populate`; records that are removed lose their rows at once.
+/// @ingroup toolkit_report
 class KY_TOOLKIT_API CXTPReportRecords : public CCmdTarget {
 public:
     /// @param pControl the control that owns the collection; null for a collection without one, as in tests

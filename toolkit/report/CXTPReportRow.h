@@ -1,10 +1,12 @@
-// One row: a record as the control shows it.
+/// @file
+/// One row: a record as the control shows it.
 #pragma once
 
 #include "XTPReportDefines.h"
 
 /// A row lives from one `Populate` to the next; do not keep pointers to rows across it. Reference counted: a handler
 /// that may cause a `Populate` holds a reference.
+/// @ingroup toolkit_report
 class KY_TOOLKIT_API CXTPReportRow : public CCmdTarget {
 public:
     /// Rows are made by `CXTPReportRows` alone.

@@ -1,4 +1,5 @@
-// The rows of a report control: the records in the order in which they are shown.
+/// @file
+/// The rows of a report control: the records in the order in which they are shown.
 #pragma once
 
 #include "RecordSequence.h"
@@ -11,6 +12,7 @@
 /// Rebuilt by `CXTPReportControl::Populate`. Row objects are made when they are first asked for, so that a control with
 /// millions of rows holds objects only for those that were looked at. A row object stays the same until the next
 /// rebuild; one that was taken out has neither control nor record.
+/// @ingroup toolkit_report
 class KY_TOOLKIT_API CXTPReportRows : public CCmdTarget {
 public:
     /// @param pControl the control that owns the rows; null for rows without one, as in tests

@@ -1,4 +1,5 @@
-// Which rows are selected.
+/// @file
+/// Which rows are selected.
 #pragma once
 
 #include "RowSelection.h"
@@ -7,6 +8,7 @@
 /// The selection, held as ranges of row indices: selecting a million rows costs as much as selecting one.
 /// Changes ask for a redraw of the rows they concern; they do not raise `OnSelectionChanged`, which is the control's
 /// affair.
+/// @ingroup toolkit_report
 class KY_TOOLKIT_API CXTPReportSelectedRows : public CCmdTarget {
 public:
     /// @param pControl the control that owns the selection

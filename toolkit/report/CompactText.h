@@ -1,4 +1,5 @@
-// A text that takes one pointer, for objects of which there are millions.
+/// @file
+/// A text that takes one pointer, for objects of which there are millions.
 #pragma once
 
 #include "../common/Export.h"
@@ -7,6 +8,7 @@
 
 /// Immutable characters that copies share; an empty text takes no memory at all. Texts of record items are kept so: a
 /// `CString` would take four times the room. Ends at the first NUL.
+/// @ingroup toolkit_report
 class KY_TOOLKIT_API CompactText {
 public:
     CompactText() = default;

@@ -1,4 +1,5 @@
-// The heap of report records: their items, their texts and themselves live here.
+/// @file
+/// The heap of report records: their items, their texts and themselves live here.
 #pragma once
 
 #include "../common/Export.h"
@@ -7,6 +8,7 @@
 #include <cstddef>
 
 /// One pool per process. It is never torn down, so that records may die at any time, even after `main`.
+/// @ingroup toolkit_report
 namespace recorditemheap {
 
 /// A block of at least `size` bytes, aligned to 16; throws std::bad_alloc. Any thread may call.

@@ -1,4 +1,5 @@
-// Records in an order, each of which knows its place.
+/// @file
+/// Records in an order, each of which knows its place.
 #pragma once
 
 #include <vector>
@@ -8,6 +9,7 @@ class CXTPReportRecord;
 /// A list of records that finds the place of a record without a search, because the record keeps it in one of its
 /// members. Taking out a record of a million costs one move of memory: the places of those behind are put right later,
 /// all at once. Does not own the records.
+/// @ingroup toolkit_report
 class RecordSequence {
 public:
     /// `place` is the member of the record that this sequence may use; −1 means that it is in none.

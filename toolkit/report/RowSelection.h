@@ -1,4 +1,5 @@
-// A set of row indices as sorted, disjoint ranges. No window needed.
+/// @file
+/// A set of row indices as sorted, disjoint ranges. No window needed.
 #pragma once
 
 #include <cstddef>
@@ -6,6 +7,7 @@
 #include <vector>
 
 /// Row indices from 0 on. All operations take half the ranges' count at most as time; none allocates per row.
+/// @ingroup toolkit_report
 class RowSelection {
 public:
     /// Rows `first`…`last`, both inclusive.

@@ -1,4 +1,5 @@
-// Types that the classes of the report control share: argument records, notifications, modes.
+/// @file
+/// Types that the classes of the report control share: argument records, notifications, modes.
 #pragma once
 
 #include "../common/CXTPPaintManagerColor.h"
@@ -18,6 +19,9 @@ class CXTPReportRecords;
 class CXTPReportRow;
 class CXTPReportRows;
 class CXTPReportSelectedRows;
+
+/// @addtogroup toolkit_report
+/// @{
 
 /// What the mouse is doing in a report control.
 enum XTPReportMouseMode {
@@ -100,3 +104,5 @@ struct XTP_NM_REPORTCOLUMN {
     NMHDR hdr;                 ///< the grid's window, its identifier and the code
     CXTPReportColumn* pColumn; ///< null when the notification is about all columns
 };
+
+/// @}

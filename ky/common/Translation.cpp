@@ -46,6 +46,17 @@ std::vector<char> ReadFile(const std::string& utf8Path) {
 
 CString ToCString(const std::string& utf8) { return utf_to_utf<wchar_t>(utf8).c_str(); }
 
+/// The catalogue's text, or else the English one. The catalogue is asked itself: the library's message objects take
+/// what is not ASCII out of a text without a translation.
+CString Translated(const char* context, const char* text) {
+    using Catalogue = boost::locale::message_format<char>;
+    const std::locale& locale = CatalogueLocale();
+    const char* found = nullptr;
+    if (std::has_facet<Catalogue>(locale))
+        found = std::use_facet<Catalogue>(locale).get(0, context, text);
+    return ToCString(found != nullptr ? found : text);
+}
+
 } // namespace
 
 bool SetLanguage(const wchar_t* language, const wchar_t* catalogueFolder) {
@@ -70,8 +81,6 @@ bool SetLanguage(const wchar_t* language, const wchar_t* catalogueFolder) {
     }
 }
 
-CString Translate(const char* text) { return ToCString(boost::locale::translate(text).str(CatalogueLocale())); }
+CString Translate(const char* text) { return Translated(nullptr, text); }
 
-CString Translate(const char* context, const char* text) {
-    return ToCString(boost::locale::translate(context, text).str(CatalogueLocale()));
-}
+CString Translate(const char* context, const char* text) { return Translated(context, text); }

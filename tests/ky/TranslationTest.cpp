@@ -86,6 +86,13 @@ TEST_F(TranslationTest, ACatalogueIsFoundByLanguage) {
     EXPECT_EQ(Translate("Hello"), CString(L"Gr\u00fc\u00df Gott"));
 }
 
+TEST_F(TranslationTest, WhatIsNotAsciiStaysWithoutATranslation) {
+    EXPECT_EQ(Translate("Mean ± deviation …"), CString(L"Mean \u00b1 deviation \u2026"));
+    Write(L"de", {{"Hello", "Hallo"}});
+    ASSERT_TRUE(SetLanguage(L"de", folder.c_str()));
+    EXPECT_EQ(Translate("Plot", "Mean ± deviation …"), CString(L"Mean \u00b1 deviation \u2026"));
+}
+
 TEST_F(TranslationTest, TheContextIsPartOfTheText) {
     Write(L"de", {{ValueId, "Wert: %1%."}});
     ASSERT_TRUE(SetLanguage(L"de", folder.c_str()));

@@ -3,4 +3,5 @@
 
 #include "afxwin.h"
 
+#include "../controls/CProgressCtrl.h"
 #include "../controls/CToolTipCtrl.h"

@@ -188,6 +188,26 @@ TEST_F(ControlsTest, OwnerDrawnListsMeasureCompareAndDeleteForThemselves) {
     EXPECT_EQ(list.m_deleted, 1);
 }
 
+// Progress ------------------------------------------------------------------------------------------------------------
+
+TEST_F(ControlsTest, AProgressBarStaysWithinItsRange) {
+    CProgressCtrl bar;
+    ASSERT_TRUE(bar.Create(WS_CHILD | PBS_SMOOTH, m_rect, &m_parent, 3));
+    int lower = -1, upper = -1;
+    bar.GetRange(lower, upper);
+    EXPECT_EQ(lower, 0);
+    EXPECT_EQ(upper, 100);
+    bar.SetRange32(-10, 100000); // beyond 16 bits
+    bar.GetRange(lower, upper);
+    EXPECT_EQ(lower, -10);
+    EXPECT_EQ(upper, 100000);
+    bar.SetPos(70000);
+    EXPECT_EQ(bar.SetPos(200000), 70000);
+    EXPECT_EQ(bar.GetPos(), 100000);
+    bar.SetPos(-50);
+    EXPECT_EQ(bar.GetPos(), -10);
+}
+
 // Tool tips -----------------------------------------------------------------------------------------------------------
 
 TEST_F(ControlsTest, ToolTipsKnowTheirTools) {

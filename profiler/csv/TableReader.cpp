@@ -23,7 +23,7 @@ public:
     std::optional<std::size_t> Read(char* to, std::size_t size) override {
         if (m_progress && !m_cancelled && m_source.Size() > 0) {
             const double done = std::min(1.0, static_cast<double>(m_read) / static_cast<double>(m_source.Size()));
-            m_cancelled = !m_progress(m_from + (m_to - m_from) * done);
+            m_cancelled = !m_progress({m_from + (m_to - m_from) * done, m_rows});
         }
         if (m_cancelled)
             return std::nullopt;
@@ -40,6 +40,9 @@ public:
     std::uint64_t Size() const override { return m_source.Size(); }
     bool Cancelled() const { return m_cancelled; }
 
+    /// Rows seen so far, to be told along.
+    void SetRows(std::size_t rows) { m_rows = std::max(m_rows, rows); }
+
     /// The stretch of the whole work that the following pass stands for.
     void SetStretch(double from, double to) {
         m_from = from;
@@ -50,6 +53,7 @@ private:
     ByteSource& m_source;
     const Progress& m_progress;
     std::uint64_t m_read = 0;
+    std::size_t m_rows = 0;
     double m_from = 0;
     double m_to = 0;
     bool m_cancelled = false;
@@ -110,7 +114,7 @@ ReadResult TableReading::Run() {
     }
     if (m_table.rows == 0)
         Warn(1, Translatable("%1%, line %2%: only a header, no rows below it. There is nothing to compute."));
-    if (m_options.progress && !m_options.progress(1.0)) {
+    if (m_options.progress && !m_options.progress({1.0, m_table.rows})) {
         m_table = {};
         return {ReadResult::Outcome::Cancelled, {}, {}};
     }
@@ -245,7 +249,8 @@ bool TableReading::ReadRows(RecordReader& reader, Telling telling) {
         if (telling == Telling::Yes)
             TellOdd(record);
         AddRow(record);
-        if (++rows == room) {
+        m_source.SetRows(++rows);
+        if (rows == room) {
             // What was read so far tells how many rows there will be; a little more than that is room for all.
             const double share = static_cast<double>(reader.Consumed()) / static_cast<double>(m_source.Size() + 1);
             const double estimate = share > 0 && share < 1 ? static_cast<double>(rows) / share * 1.02 : 0;
@@ -352,18 +357,21 @@ ReadResult TableReading::Result(bool read) {
 
 } // namespace
 
+Message DoesNotFit(const std::string& fileName) {
+    return {Severity::Error,
+            0,
+            Translatable("%1% does not fit into memory. Close other programs or open a part of the file."),
+            nullptr,
+            1,
+            {fileName}};
+}
+
 ReadResult ReadTable(ByteSource& source, const std::string& fileName, const ReadOptions& options) {
     try {
         return TableReading(source, fileName, options).Run();
     } catch (const std::bad_alloc&) {
         ReadResult result;
-        result.messages.push_back({Severity::Error,
-                                   0,
-                                   Translatable("%1% does not fit into memory. Close other programs or open a part of "
-                                                "the file."),
-                                   nullptr,
-                                   1,
-                                   {fileName}});
+        result.messages.push_back(DoesNotFit(fileName));
         return result;
     }
 }

@@ -12,8 +12,14 @@
 
 namespace csv {
 
-/// Told now and then how much is done, from 0 to 1, never less than before. Returns false to give up reading.
-using Progress = std::function<bool(double fraction)>;
+/// How far the reading of a file has come; neither number ever falls.
+struct ReadState {
+    double fraction = 0;  ///< of the whole work, from 0 to 1
+    std::size_t rows = 0; ///< seen so far
+};
+
+/// Told now and then what is done. Returns false to give up reading.
+using Progress = std::function<bool(const ReadState& state)>;
 
 struct ReadOptions {
     Progress progress;                           ///< may be empty
@@ -41,5 +47,8 @@ ReadResult ReadFile(const std::filesystem::path& path, const ReadOptions& option
 /// The same for any bytes; `fileName` is how messages call them. A row with fewer fields than the header has missing
 /// cells at its end, the surplus fields of a longer row are left out; either is told.
 ReadResult ReadTable(ByteSource& source, const std::string& fileName, const ReadOptions& options = {});
+
+/// The error for a file that there is not memory enough for.
+Message DoesNotFit(const std::string& fileName);
 
 } // namespace csv

@@ -76,22 +76,28 @@ Summary Summarize(std::span<const double> numbers) {
     summary.mean = std::clamp(mean, summary.minimum, summary.maximum);
     if (present.size() >= 2)
         summary.standardDeviation = StandardDeviation(present, summary.mean, summary.minimum, summary.maximum);
-    summary.quantile5 = Quantile(present, 0.05);
-    summary.median = Quantile(present, 0.5);
-    summary.quantile95 = Quantile(present, 0.95);
+    const std::vector<double> quantiles = Quantiles(present, {0.05, 0.25, 0.5, 0.75, 0.95});
+    summary.quantile5 = quantiles[0];
+    summary.quantile25 = quantiles[1];
+    summary.median = quantiles[2];
+    summary.quantile75 = quantiles[3];
+    summary.quantile95 = quantiles[4];
     return summary;
 }
 
-double Quantile(std::span<double> numbers, double fraction) {
-    const double h = static_cast<double>(numbers.size() - 1) * std::clamp(fraction, 0.0, 1.0);
-    const std::size_t below = static_cast<std::size_t>(h);
-    const auto place = numbers.begin() + static_cast<std::ptrdiff_t>(below);
-    std::nth_element(numbers.begin(), place, numbers.end());
-    const double lower = *place;
-    if (below + 1 == numbers.size())
-        return lower;
-    const double upper = *std::min_element(place + 1, numbers.end());
-    return std::lerp(lower, upper, h - static_cast<double>(below));
+std::vector<double> Quantiles(std::span<double> numbers, std::initializer_list<double> fractions) {
+    std::vector<double> quantiles;
+    auto from = numbers.begin(); // no number before it is greater than one behind it
+    for (const double fraction : fractions) {
+        const double h = static_cast<double>(numbers.size() - 1) * std::clamp(fraction, 0.0, 1.0);
+        const std::size_t below = static_cast<std::size_t>(h);
+        const auto place = numbers.begin() + static_cast<std::ptrdiff_t>(below);
+        std::nth_element(from, place, numbers.end());
+        from = place;
+        const double upper = below + 1 == numbers.size() ? *place : *std::min_element(place + 1, numbers.end());
+        quantiles.push_back(std::lerp(*place, upper, h - static_cast<double>(below)));
+    }
+    return quantiles;
 }
 
 std::optional<double> ShareInside(std::span<const double> numbers, double lower, double upper) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <initializer_list>
 #include <optional>
 #include <span>
 #include <vector>
@@ -14,8 +15,10 @@ struct Summary {
     double minimum = 0;    ///< this and the following hold only when `count` > 0
     double maximum = 0;
     double mean = 0;      ///< arithmetic mean
-    double quantile5 = 0; ///< the quantiles by the rule of `Quantile`
+    double quantile5 = 0; ///< the quantiles by the rule of `Quantiles`
+    double quantile25 = 0;
     double median = 0;
+    double quantile75 = 0;
     double quantile95 = 0;
     std::optional<double> standardDeviation; ///< of the sample, divided by count - 1; none for fewer than two numbers
 };
@@ -24,11 +27,11 @@ struct Summary {
 /// deviation are good to nearly the last digit whatever the size of the numbers and however far from 0 they lie.
 Summary Summarize(std::span<const double> numbers);
 
-/// The quantile at `fraction` (0 to 1) of n numbers: with h = (n - 1) * fraction it lies between the sorted numbers at
-/// the places floor(h) and floor(h) + 1 (counted from 0), at the fraction of h of the way. This linear interpolation
-/// between order statistics is known as type 7 and is what spreadsheets compute. Reorders `numbers`, which must hold no
-/// NaN and at least one number.
-double Quantile(std::span<double> numbers, double fraction);
+/// The quantiles at `fractions` (0 to 1, none less than the one before) of n numbers. With h = (n - 1) * fraction each
+/// lies between the sorted numbers at the places floor(h) and floor(h) + 1 (counted from 0), at the fraction of h of
+/// the way. This linear interpolation between order statistics is known as type 7 and is what spreadsheets compute.
+/// Reorders `numbers`, which must hold no NaN and at least one number.
+std::vector<double> Quantiles(std::span<double> numbers, std::initializer_list<double> fractions);
 
 /// The share of the numbers that lie in the closed interval from `lower` to `upper`, of those that are not missing;
 /// none when all are missing. An interval with `lower` above `upper` holds nothing.

@@ -1,39 +1,55 @@
-// Reading a CSV file for the windows.
+// Reading a CSV file and profiling its columns.
 #include "window/ColumnFile.h"
-
-#include "common/Translation.h"
-#include "window/WideText.h"
-
-#include <filesystem>
 
 namespace {
 
-CString AbsolutePath(const CString& path) {
+/// How much of the whole work is reading; the rest is statistics.
+constexpr double kReading = 0.75;
+
+std::filesystem::path Absolute(const std::filesystem::path& path) {
     std::error_code error;
-    const std::filesystem::path absolute = std::filesystem::absolute(path.GetString(), error);
-    return error ? path : CString(absolute.c_str());
+    std::filesystem::path absolute = std::filesystem::absolute(path, error);
+    return error ? path : absolute;
+}
+
+/// Profiles the columns one after the other; false when `progress` gives up.
+bool ProfileColumns(ColumnFile& file, const csv::Progress& progress) {
+    const std::size_t count = file.table.columns.size();
+    for (const csv::Column& column : file.table.columns) {
+        const double done = static_cast<double>(file.profiles.size()) / static_cast<double>(count);
+        if (progress && !progress({kReading + (1 - kReading) * done, file.table.rows}))
+            return false;
+        file.profiles.push_back(statistics::Profile(column, file.table.rows));
+    }
+    return true;
 }
 
 } // namespace
 
-CString ColumnFile::Name() const { return CString(std::filesystem::path(path.GetString()).filename().c_str()); }
-
-ColumnFileResult ReadColumnFile(const CString& path, const csv::Progress& progress) {
+ColumnFileResult ReadColumnFile(const std::filesystem::path& path, const std::string& unnamedColumn,
+                                const csv::Progress& progress) {
     csv::ReadOptions options;
-    options.progress = progress;
-    options.unnamedColumn = ToUtf8(Translate("Column %1%"));
-    csv::ReadResult read = csv::ReadFile(path.GetString(), options);
-
-    ColumnFileResult result;
+    options.unnamedColumn = unnamedColumn;
+    if (progress)
+        options.progress = [&](csv::ReadState state) {
+            state.fraction *= kReading;
+            return progress(state);
+        };
+    csv::ReadResult read = csv::ReadFile(path, options);
     if (read.outcome == csv::ReadResult::Outcome::Failed)
-        result.error = Sentence(read.messages.back());
-    if (read.outcome != csv::ReadResult::Outcome::Read)
-        return result;
-    result.file = std::make_unique<ColumnFile>();
-    result.file->path = AbsolutePath(path);
-    result.file->warnings = std::move(read.messages);
-    result.file->table = std::move(read.table);
-    for (const csv::Column& column : result.file->table.columns)
-        result.file->profiles.push_back(statistics::Profile(column, result.file->table.rows));
-    return result;
+        return {nullptr, read.messages.back()};
+    if (read.outcome == csv::ReadResult::Outcome::Cancelled)
+        return {};
+
+    auto file = std::make_unique<ColumnFile>();
+    file->path = Absolute(path);
+    file->warnings = std::move(read.messages);
+    file->table = std::move(read.table);
+    try {
+        if (!ProfileColumns(*file, progress))
+            return {};
+    } catch (const std::bad_alloc&) {
+        return {nullptr, csv::DoesNotFit(csv::PathText(path.filename()))};
+    }
+    return {std::move(file), std::nullopt};
 }

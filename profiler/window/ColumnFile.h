@@ -4,27 +4,27 @@
 #include "csv/TableReader.h"
 #include "statistics/ColumnProfile.h"
 
-#include <afxwin.h>
-
+#include <filesystem>
 #include <memory>
+#include <optional>
+#include <string>
 #include <vector>
 
 /// An open file. Its numbers stay in memory, so that shares can be counted while the user drags limits.
 struct ColumnFile {
-    CString path;                                    ///< absolute
+    std::filesystem::path path;                      ///< absolute
     csv::Table table;                                ///< as many columns as `profiles`
     std::vector<statistics::ColumnProfile> profiles; ///< in the order of the file's columns
     std::vector<csv::Message> warnings;
-
-    /// The file's name without its folder.
-    CString Name() const;
 };
 
 /// What came of reading a file.
 struct ColumnFileResult {
-    std::unique_ptr<ColumnFile> file; ///< null when it could not be read or the user gave up
-    CString error;                    ///< then says why, for the user; empty when the user gave up
+    std::unique_ptr<ColumnFile> file;  ///< null when it could not be read or `progress` gave up
+    std::optional<csv::Message> error; ///< then says why; none when `progress` gave up
 };
 
-/// Reads the file at `path` and computes its statistics. `progress` is told how much is done and may give up.
-ColumnFileResult ReadColumnFile(const CString& path, const csv::Progress& progress);
+/// Reads the file at `path` and computes its statistics, on any thread. `progress` is told how much is done and may
+/// give up. `unnamedColumn` names the columns without a name, see csv::ReadOptions.
+ColumnFileResult ReadColumnFile(const std::filesystem::path& path, const std::string& unnamedColumn,
+                                const csv::Progress& progress = {});

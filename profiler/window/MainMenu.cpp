@@ -25,6 +25,7 @@ void AppendFileMenu(CMenu& bar) {
     file.CreatePopupMenu();
     file.AppendMenu(MF_STRING, ID_FILE_OPEN, Translate("Menu", "&Open...\tCtrl+O"));
     file.AppendMenu(MF_STRING, ID_FILE_RELOAD, Translate("Menu", "&Reload\tF5"));
+    file.AppendMenu(MF_STRING, ID_FILE_STOP, Translate("Menu", "&Stop reading\tEsc"));
     file.AppendMenu(MF_SEPARATOR);
     file.AppendMenu(MF_STRING, ID_APP_EXIT, Translate("Menu", "E&xit\tAlt+F4"));
     AppendPopup(bar, file, Translate("Menu", "&File"));
@@ -69,6 +70,8 @@ CString CommandDescription(UINT command) {
         return Translate("Opens a CSV file in place of this one.");
     case ID_FILE_RELOAD:
         return Translate("Reads the file again. Dragged limits go back to where they began.");
+    case ID_FILE_STOP:
+        return Translate("Gives up reading the file. The one that is open stays.");
     case ID_APP_EXIT:
         return Translate("Ends the program and keeps the layout of the grid.");
     case ID_VIEW_MESSAGES:

@@ -70,7 +70,8 @@ BOOL ProfileGrid::CreateGrid(CWnd* parent, UINT id) {
         return FALSE;
     SetMultipleSelection(FALSE);
     AddColumns();
-    ShowEmptyText();
+    SetUpPaintManager();
+    SetEmptyText(DefaultEmptyText());
     EnableShowHideColumns({kNameColumn});
     AutoLoadReportState(kSection);
     return TRUE;
@@ -111,14 +112,24 @@ void ProfileGrid::AddColumns() {
     }
 }
 
-void ProfileGrid::ShowEmptyText() {
+CString ProfileGrid::DefaultEmptyText() { return Translate("Open a CSV file (Ctrl+O) or drop one here."); }
+
+void ProfileGrid::SetEmptyText(const CString& text) {
+    m_emptyText = text;
+    GetPaintManager()->SetNoItemText(text);
+    if (GetRows()->GetCount() == 0)
+        RedrawControl();
+}
+
+/// Theme changes make a new paint manager.
+void ProfileGrid::SetUpPaintManager() {
     GetPaintManager()->SetRowHeight(ScaledToDpi(kRowHeight));
-    GetPaintManager()->SetNoItemText(Translate("Open a CSV file (Ctrl+O) or drop one here."));
+    GetPaintManager()->SetNoItemText(m_emptyText);
 }
 
 void ProfileGrid::ApplyTheme(int theme) {
     SendMessage(WM_KYTHEMECHANGED, static_cast<WPARAM>(theme), 0);
-    ShowEmptyText(); // the theme brought a new paint manager
+    SetUpPaintManager();
     AdjustLayout();
 }
 

@@ -24,6 +24,10 @@ public:
     /// Shows the file, which must stay until the next call; null shows an empty grid.
     void Show(const ColumnFile* file);
 
+    /// What an empty grid says; at first how to open a file.
+    void SetEmptyText(const CString& text);
+    static CString DefaultEmptyText();
+
     void ApplyTheme(int theme);
 
 protected:
@@ -44,9 +48,10 @@ private:
     void OnLimitsMoved(std::size_t index, float lower, float target, float upper);
     void ShowShare(LimitRow& row);
     void TellMove(std::size_t index, ColumnPlotItem::Mark mark, double value);
-    void ShowEmptyText();
+    void SetUpPaintManager();
     void Tell(const CString& sentence);
 
     std::function<void(const CString&)> m_status;
+    CString m_emptyText;
     std::vector<LimitRow> m_limitRows;
 };

@@ -2,9 +2,12 @@
 #include "window/ProfilerApp.h"
 
 #include "common/Translation.h"
+#include "statistics/ProfileTable.h"
 #include "window/ProfilerFrame.h"
+#include "window/WideText.h"
 
 #include <filesystem>
+#include <fstream>
 
 namespace {
 
@@ -15,6 +18,7 @@ class CommandLine : public CCommandLineInfo {
 public:
     CString m_iniFile;
     CString m_language;
+    CString m_export;
 
     void ParseParam(LPCTSTR word, BOOL flag, BOOL last) override {
         if (m_awaited != nullptr) {
@@ -28,6 +32,8 @@ public:
             m_awaited = &m_iniFile;
         else if (option == L"-language")
             m_awaited = &m_language;
+        else if (option == L"-export")
+            m_awaited = &m_export;
         else
             CCommandLineInfo::ParseParam(word, flag, last);
     }
@@ -50,6 +56,13 @@ CString UserLanguage() {
     return code;
 }
 
+/// To the standard error stream: a program without a console has one when it was redirected.
+void TellError(const CString& sentence) {
+    const std::string line = ToUtf8(sentence) + "\r\n";
+    DWORD written = 0;
+    ::WriteFile(::GetStdHandle(STD_ERROR_HANDLE), line.data(), static_cast<DWORD>(line.size()), &written, nullptr);
+}
+
 } // namespace
 
 ProfilerApp::ProfilerApp() : CWinApp(L"Column Profiler") {}
@@ -62,6 +75,10 @@ BOOL ProfilerApp::InitInstance() {
     else
         UseIniFile(commandLine.m_iniFile);
     ChooseLanguage(commandLine.m_language);
+    if (!commandLine.m_export.IsEmpty()) {
+        m_failed = !Export(commandLine.m_strFileName, commandLine.m_export);
+        return FALSE;
+    }
 
     auto* frame = new ProfilerFrame; // deleted with its window
     m_pMainWnd = frame;
@@ -72,6 +89,32 @@ BOOL ProfilerApp::InitInstance() {
     if (!commandLine.m_strFileName.IsEmpty())
         frame->OpenPath(commandLine.m_strFileName);
     return TRUE;
+}
+
+int ProfilerApp::ExitInstance() {
+    const int code = CWinApp::ExitInstance();
+    return m_failed ? 1 : code;
+}
+
+bool ProfilerApp::Export(const CString& from, const CString& to) {
+    if (from.IsEmpty()) {
+        TellError(Translate("There is no file to profile: profiler --export OUT.csv FILE.csv"));
+        return false;
+    }
+    const ColumnFileResult result = ReadColumnFile(from.GetString(), ToUtf8(Translate("Column %1%")));
+    if (result.file == nullptr) {
+        TellError(Sentence(*result.error));
+        return false;
+    }
+    for (const csv::Message& warning : result.file->warnings)
+        TellError(Sentence(warning));
+    const std::filesystem::path path(to.GetString());
+    std::ofstream file(path, std::ios::binary);
+    file << statistics::ProfileTable(result.file->profiles);
+    file.close();
+    if (file.fail())
+        TellError(TranslateFormat("Export", "%1% cannot be written.", to.GetString()));
+    return !file.fail();
 }
 
 void ProfilerApp::UseIniFile(const CString& path) {

@@ -17,6 +17,10 @@ constexpr wchar_t kVersion[] = L"0.1.0";
 constexpr wchar_t kWindowSection[] = L"Window";
 constexpr CSize kInitialSize(1200, 720); // pixels at 96 DPI
 
+/// Posted when the reading thread has come to its end.
+constexpr UINT kFileRead = WM_APP + 1;
+constexpr UINT_PTR kReadingTimer = 1;
+
 /// The panes of the status bar from left to right.
 enum Pane { StatusPane, SizePane, MessagesPane, PaneCount };
 
@@ -30,7 +34,7 @@ CRect InitialPlace() {
 }
 
 CString RowsText(std::size_t rows) {
-    return rows == 1 ? Translate("1 row") : TranslateFormat("Status bar", "%1% rows", rows);
+    return rows == 1 ? Translate("1 row") : TranslateFormat("Status bar", "%1% rows", CountText(rows).GetString());
 }
 
 CString ColumnsText(std::size_t columns) {
@@ -44,29 +48,24 @@ CString MessagesText(std::size_t messages) {
                          : TranslateFormat("Status bar", "%1% messages (Ctrl+M)", messages);
 }
 
-/// Whether the user pressed Escape since the last call. Other input waits.
-bool EscapeWasPressed() {
-    MSG message;
-    bool escape = false;
-    while (::PeekMessage(&message, nullptr, WM_KEYDOWN, WM_KEYDOWN, PM_REMOVE))
-        escape = escape || message.wParam == VK_ESCAPE;
-    return escape;
-}
-
 } // namespace
 
 BEGIN_MESSAGE_MAP(ProfilerFrame, CFrameWnd)
     ON_WM_CREATE()
     ON_WM_CLOSE()
     ON_WM_SETFOCUS()
+    ON_WM_TIMER()
+    ON_MESSAGE(kFileRead, &ProfilerFrame::OnFileRead)
     ON_WM_DROPFILES()
     ON_COMMAND(ID_FILE_OPEN, &ProfilerFrame::OnFileOpen)
     ON_COMMAND(ID_FILE_RELOAD, &ProfilerFrame::OnFileReload)
+    ON_COMMAND(ID_FILE_STOP, &ProfilerFrame::OnFileStop)
     ON_COMMAND(ID_VIEW_MESSAGES, &ProfilerFrame::OnViewMessages)
     ON_COMMAND_RANGE(ID_VIEW_THEME_FIRST, ID_VIEW_THEME_LAST, &ProfilerFrame::OnViewTheme)
     ON_COMMAND(ID_HELP_KEYS, &ProfilerFrame::OnHelpKeys)
     ON_COMMAND(ID_APP_ABOUT, &ProfilerFrame::OnAppAbout)
     ON_UPDATE_COMMAND_UI(ID_FILE_RELOAD, &ProfilerFrame::OnUpdateFileReload)
+    ON_UPDATE_COMMAND_UI(ID_FILE_STOP, &ProfilerFrame::OnUpdateFileStop)
     ON_UPDATE_COMMAND_UI(ID_VIEW_MESSAGES, &ProfilerFrame::OnUpdateViewMessages)
     ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_THEME_FIRST, ID_VIEW_THEME_LAST, &ProfilerFrame::OnUpdateViewTheme)
 END_MESSAGE_MAP()
@@ -92,7 +91,10 @@ int ProfilerFrame::OnCreate(LPCREATESTRUCT create) {
     menu.Detach(); // the window destroys it
     if (!CreateStatusBar() || !m_grid.CreateGrid(this, AFX_IDW_PANE_FIRST) || !m_messages.CreateFor(this))
         return -1;
-    m_grid.SetStatusListener([this](const CString& text) { ShowStatus(text); });
+    m_grid.SetStatusListener([this](const CString& text) {
+        m_gridTold = ::GetTickCount64();
+        ShowStatus(text);
+    });
     DragAcceptFiles();
     ShowFilePanes();
     ShowStatus(Translate("Ready"));
@@ -107,7 +109,7 @@ bool ProfilerFrame::CreateStatusBar() {
         return false;
     for (const int pane : {SizePane, MessagesPane})
         m_statusBar.SetPaneInfo(pane, ID_SEPARATOR, SBPS_NORMAL, ScaledToDpi(kPaneWidth));
-    return true;
+    return m_readingPanes.Create(*this, m_statusBar, SizePane, MessagesPane);
 }
 
 void ProfilerFrame::RestorePlacement() {
@@ -137,64 +139,118 @@ void ProfilerFrame::SavePlacement() {
 }
 
 void ProfilerFrame::OnClose() {
-    if (m_reading)
-        return;
     SavePlacement();
     CFrameWnd::OnClose();
 }
 
 void ProfilerFrame::OnSetFocus(CWnd*) { m_grid.SetFocus(); }
 
+void ProfilerFrame::RecalcLayout(BOOL notify) {
+    CFrameWnd::RecalcLayout(notify);
+    m_readingPanes.Place();
+}
+
 // --- Opening files ---------------------------------------------------------------------------------------------------
 
-void ProfilerFrame::OpenPath(const CString& path) {
-    if (m_reading)
+void ProfilerFrame::OpenPath(const CString& path) { BeginReading(path, CString()); }
+
+/// `opened` is told when the file is read; empty for the usual words.
+void ProfilerFrame::BeginReading(const CString& path, const CString& opened) {
+    constexpr UINT kInterval = 60; // ms between two looks at the progress
+    LeaveReading();
+    m_opened = opened;
+    m_readingSince = ::GetTickCount64();
+    m_reading = std::make_unique<FileReading>(path.GetString(), ToUtf8(Translate("Column %1%")),
+                                              [window = m_hWnd] { ::PostMessage(window, kFileRead, 0, 0); });
+    SetTimer(kReadingTimer, kInterval, nullptr);
+}
+
+void ProfilerFrame::OnTimer(UINT_PTR id) {
+    if (id != kReadingTimer || m_reading == nullptr)
+        return CFrameWnd::OnTimer(id);
+    ShowProgress();
+    FinishReading();
+}
+
+LRESULT ProfilerFrame::OnFileRead(WPARAM, LPARAM) {
+    FinishReading();
+    return 0;
+}
+
+void ProfilerFrame::ShowProgress() {
+    constexpr ULONGLONG kQuiet = 300;    // ms; a file that is read sooner needs no progress
+    constexpr ULONGLONG kLegible = 3000; // ms; so long stands what the grid told
+    const ULONGLONG now = ::GetTickCount64();
+    if (now - m_readingSince < kQuiet)
         return;
-    ColumnFileResult result = ReadWithProgress(path);
+    const csv::ReadState state = m_reading->State();
+    const CString name(m_reading->Path().filename().c_str());
+    m_readingPanes.Show(state.fraction);
+    if (m_file == nullptr)
+        m_grid.SetEmptyText(TranslateFormat("Empty grid", "Reading %1% …", name.GetString()));
+    if (::GetCapture() == nullptr && now - m_gridTold >= kLegible)
+        ShowStatus(TranslateFormat("Status bar", "Reading %1%: %2% %%, %3%. Escape cancels.", name.GetString(),
+                                   static_cast<int>(state.fraction * 100), RowsText(state.rows).GetString()));
+}
+
+/// Shows what was read, if it is read.
+void ProfilerFrame::FinishReading() {
+    // While a mark or a header is dragged, the grid keeps its rows; the timer asks again.
+    if (m_reading == nullptr || !m_reading->IsDone() || ::GetCapture() != nullptr)
+        return;
+    ColumnFileResult result = m_reading->TakeResult();
+    LeaveReading();
     if (result.file != nullptr) {
         TakeFile(std::move(result.file));
         return;
     }
-    if (result.error.IsEmpty()) {
-        ShowStatus(Translate("Cancelled: the file was not opened."));
-        return;
-    }
-    ShowStatus(result.error);
-    AfxMessageBox(result.error, MB_OK | MB_ICONWARNING);
+    const CString error = Sentence(*result.error);
+    ShowStatus(error);
+    AfxMessageBox(error, MB_OK | MB_ICONWARNING);
 }
 
-ColumnFileResult ProfilerFrame::ReadWithProgress(const CString& path) {
-    constexpr ULONGLONG kQuiet = 300;   // ms; a file that is read sooner needs no progress
-    constexpr ULONGLONG kInterval = 60; // ms between two looks at progress and keyboard
-    const CWaitCursor wait;
-    const ULONGLONG start = ::GetTickCount64();
-    ULONGLONG next = start + kQuiet;
-    m_reading = true;
-    ColumnFileResult result = ReadColumnFile(path, [&](double fraction) {
-        if (::GetTickCount64() < next)
-            return true;
-        next = ::GetTickCount64() + kInterval;
-        ShowStatus(
-            TranslateFormat("Status bar", "Reading: %1% %% done. Escape cancels.", static_cast<int>(fraction * 100)));
-        m_statusBar.UpdateWindow();
-        return !EscapeWasPressed();
-    });
-    m_reading = false;
-    return result;
+/// Ends a reading, whether it is done or not.
+void ProfilerFrame::LeaveReading() {
+    KillTimer(kReadingTimer);
+    m_reading.reset();
+    m_readingPanes.Hide();
+    m_grid.SetEmptyText(ProfileGrid::DefaultEmptyText());
+}
+
+void ProfilerFrame::OnFileStop() {
+    if (m_reading == nullptr)
+        return;
+    LeaveReading();
+    ShowStatus(Translate("Cancelled: the file was not opened."));
+}
+
+BOOL ProfilerFrame::PreTranslateMessage(MSG* message) {
+    const bool escape = message->message == WM_KEYDOWN && message->wParam == VK_ESCAPE;
+    // During a drag Escape is the grid's.
+    if (escape && m_reading != nullptr && ::GetCapture() == nullptr) {
+        OnFileStop();
+        return TRUE;
+    }
+    return CFrameWnd::PreTranslateMessage(message);
 }
 
 void ProfilerFrame::TakeFile(std::unique_ptr<ColumnFile> file) {
     m_grid.Show(file.get());
     m_file = std::move(file); // the grid no longer needs the former file
-    SetWindowText(m_file->Name() + L" \u2013 " + kTitle);
+    const CString name(m_file->path.filename().c_str());
+    SetWindowText(name + L" \u2013 " + kTitle);
 
     std::vector<CString> sentences;
     for (const csv::Message& warning : m_file->warnings)
         sentences.push_back(Sentence(warning));
-    m_messages.SetMessages(m_file->Name(), sentences);
+    m_messages.SetMessages(name, sentences);
     ShowFilePanes();
-    ShowStatus(sentences.empty() ? TranslateFormat("Status bar", "%1% is open.", m_file->Name().GetString())
-                                 : sentences.front());
+    if (!m_opened.IsEmpty())
+        ShowStatus(m_opened);
+    else if (!sentences.empty())
+        ShowStatus(sentences.front());
+    else
+        ShowStatus(TranslateFormat("Status bar", "%1% is open.", name.GetString()));
 }
 
 void ProfilerFrame::OnDropFiles(HDROP drop) {
@@ -207,10 +263,12 @@ void ProfilerFrame::OnDropFiles(HDROP drop) {
     }
     ::DragFinish(drop);
     SetForegroundWindow();
-    if (!path.IsEmpty())
-        OpenPath(path);
+    if (path.IsEmpty())
+        return;
+    CString opened;
     if (count > 1)
-        ShowStatus(Translate("Only the first of the dropped files was opened: the program shows one at a time."));
+        opened = Translate("Only the first of the dropped files was opened: the program shows one at a time.");
+    BeginReading(path, opened);
 }
 
 void ProfilerFrame::OnFileOpen() {
@@ -223,7 +281,7 @@ void ProfilerFrame::OnFileOpen() {
 
 void ProfilerFrame::OnFileReload() {
     if (m_file != nullptr)
-        OpenPath(CString(m_file->path));
+        OpenPath(CString(m_file->path.c_str()));
 }
 
 // --- Status bar ------------------------------------------------------------------------------------------------------
@@ -294,7 +352,9 @@ void ProfilerFrame::OnAppAbout() {
     MessageBox(text, Translate("About Column Profiler"), MB_OK);
 }
 
-void ProfilerFrame::OnUpdateFileReload(CCmdUI* item) { item->Enable(m_file != nullptr); }
+void ProfilerFrame::OnUpdateFileReload(CCmdUI* item) { item->Enable(m_file != nullptr && !IsReading()); }
+
+void ProfilerFrame::OnUpdateFileStop(CCmdUI* item) { item->Enable(IsReading()); }
 
 void ProfilerFrame::OnUpdateViewMessages(CCmdUI* item) { item->SetCheck(m_messages.IsWindowVisible() ? 1 : 0); }
 

@@ -18,6 +18,15 @@ std::string ToUtf8(const CString& text) {
     return bytes;
 }
 
+CString CountText(std::size_t count) {
+    wchar_t separator[8] = L"";
+    ::GetLocaleInfo(LOCALE_USER_DEFAULT, LOCALE_STHOUSAND, separator, static_cast<int>(std::size(separator)));
+    CString text(std::to_wstring(count).c_str());
+    for (int place = text.GetLength() - 3; place > 0; place -= 3)
+        text.Insert(place, separator);
+    return text;
+}
+
 CString Sentence(const csv::Message& message) {
     return FromUtf8(csv::Text(message, [](const char* text) { return ToUtf8(Translate(text)); }));
 }

@@ -10,5 +10,8 @@
 CString FromUtf8(const std::string& text);
 std::string ToUtf8(const CString& text);
 
+/// A count with its digits grouped as the user's system does it.
+CString CountText(std::size_t count);
+
 /// The sentence in the user's language.
 CString Sentence(const csv::Message& message);

@@ -19,7 +19,7 @@ using statistics::ColumnProfile;
 struct NumberColumn {
     const char* name;
     std::size_t count, missing;
-    double minimum, mean, maximum, standardDeviation, quantile5, median, quantile95;
+    double minimum, mean, maximum, standardDeviation, quantile5, quantile25, median, quantile75, quantile95;
     std::size_t inside; ///< numbers from mean - standard deviation to mean + standard deviation
 };
 
@@ -52,7 +52,9 @@ void ExpectNumbers(const csv::Table& table, const NumberColumn& expected) {
     EXPECT_DOUBLE_EQ(profile.numbers.mean, expected.mean);
     EXPECT_DOUBLE_EQ(profile.numbers.standardDeviation.value(), expected.standardDeviation);
     EXPECT_DOUBLE_EQ(profile.numbers.quantile5, expected.quantile5);
+    EXPECT_DOUBLE_EQ(profile.numbers.quantile25, expected.quantile25);
     EXPECT_DOUBLE_EQ(profile.numbers.median, expected.median);
+    EXPECT_DOUBLE_EQ(profile.numbers.quantile75, expected.quantile75);
     EXPECT_DOUBLE_EQ(profile.numbers.quantile95, expected.quantile95);
     const double mean = expected.mean;
     const double deviation = expected.standardDeviation;
@@ -74,14 +76,14 @@ TEST(ColumnProfile, OfThePenguins) {
     const csv::Table table = ReadShipped("penguins.csv");
     EXPECT_EQ(table.rows, 344u);
     ASSERT_EQ(table.columns.size(), 7u);
-    ExpectNumbers(table, {"Beak Length (mm)", 342, 2, 32.1, 43.9219298245614, 59.6, 5.4595837139265315, 35.7, 44.45,
-                          51.995, 204});
-    ExpectNumbers(
-        table, {"Beak Depth (mm)", 342, 2, 13.1, 17.151169590643274, 21.5, 1.9747931568167814, 13.9, 17.3, 20.0, 218});
-    ExpectNumbers(
-        table, {"Flipper Length (mm)", 342, 2, 172, 200.91520467836258, 231, 14.061713679356888, 181, 197, 225, 215});
-    ExpectNumbers(table,
-                  {"Body Mass (g)", 342, 2, 2700, 4201.754385964912, 6300, 801.9545356980955, 3150, 4050, 5650, 231});
+    ExpectNumbers(table, {"Beak Length (mm)", 342, 2, 32.1, 43.9219298245614, 59.6, 5.4595837139265315, 35.7, 39.225,
+                          44.45, 48.5, 51.995, 204});
+    ExpectNumbers(table, {"Beak Depth (mm)", 342, 2, 13.1, 17.151169590643274, 21.5, 1.9747931568167814, 13.9, 15.6,
+                          17.3, 18.7, 20.0, 218});
+    ExpectNumbers(table, {"Flipper Length (mm)", 342, 2, 172, 200.91520467836258, 231, 14.061713679356888, 181, 190,
+                          197, 213, 225, 215});
+    ExpectNumbers(table, {"Body Mass (g)", 342, 2, 2700, 4201.754385964912, 6300, 801.9545356980955, 3150, 3550, 4050,
+                          4750, 5650, 231});
     ExpectTexts(table, "Species", 344, 0, 3);
     ExpectTexts(table, "Island", 344, 0, 3);
     // "MALE", "FEMALE" and one "."; a dash counts as missing among numbers and dates only.
@@ -92,10 +94,13 @@ TEST(ColumnProfile, OfTheWeatherInSeattle) {
     const csv::Table table = ReadShipped("seattle-weather.csv");
     EXPECT_EQ(table.rows, 1461u);
     ASSERT_EQ(table.columns.size(), 6u);
-    ExpectNumbers(table, {"precipitation", 1461, 0, 0, 3.02943189596167, 55.9, 6.680194322314738, 0, 0, 17, 1312});
-    ExpectNumbers(table, {"temp_max", 1461, 0, -1.6, 16.43908281998631, 35.6, 7.349758097360177, 6.1, 15.6, 28.9, 922});
-    ExpectNumbers(table, {"temp_min", 1461, 0, -7.1, 8.234770704996578, 18.3, 5.023004179961265, 0, 8.3, 15.6, 916});
-    ExpectNumbers(table, {"wind", 1461, 0, 0.4, 3.24113620807666, 9.5, 1.4378250588746195, 1.3, 3, 6, 1012});
+    ExpectNumbers(table,
+                  {"precipitation", 1461, 0, 0, 3.02943189596167, 55.9, 6.680194322314738, 0, 0, 0, 2.8, 17, 1312});
+    ExpectNumbers(table, {"temp_max", 1461, 0, -1.6, 16.43908281998631, 35.6, 7.349758097360177, 6.1, 10.6, 15.6, 22.2,
+                          28.9, 922});
+    ExpectNumbers(
+        table, {"temp_min", 1461, 0, -7.1, 8.234770704996578, 18.3, 5.023004179961265, 0, 4.4, 8.3, 12.2, 15.6, 916});
+    ExpectNumbers(table, {"wind", 1461, 0, 0.4, 3.24113620807666, 9.5, 1.4378250588746195, 1.3, 2.2, 3, 4, 6, 1012});
     ExpectTexts(table, "weather", 1461, 0, 5);
 
     const ColumnProfile date = statistics::Profile(Named(table, "date"), table.rows);

@@ -56,7 +56,7 @@ TEST_F(ProfilerFrameTest, ShowsTheFirstAndTheLastDate) {
 }
 
 TEST_F(ProfilerFrameTest, ColumnsWithoutAScaleSayWhy) {
-    Frame().OpenPath(Write(L"plain.csv", "same,empty,one,date\n5,,x,2024-01-01\n5,,x,2024-01-01\n5,,x,2024-01-01\n"));
+    Open(Write(L"plain.csv", "same,empty,one,date\n5,,x,2024-01-01\n5,,x,2024-01-01\n5,,x,2024-01-01\n"));
     EXPECT_EQ(Cell(0, PlotItem), L"All values are the same");
     EXPECT_EQ(Cell(0, MinimumItem), L"5");
     EXPECT_EQ(Cell(1, TypeItem), L"Empty");
@@ -67,7 +67,7 @@ TEST_F(ProfilerFrameTest, ColumnsWithoutAScaleSayWhy) {
 
 TEST_F(ProfilerFrameTest, AFileThatCannotBeOpenedLeavesTheFormerOne) {
     OpenShipped(L"penguins.csv");
-    Frame().OpenPath(L"Z:\\no\\such.csv");
+    Open(L"Z:\\no\\such.csv");
     EXPECT_THAT(ProfilerTestApp::Get().m_boxes,
                 ElementsAre(L"Z:\\no\\such.csv cannot be found. Check its name and its folder."));
     EXPECT_EQ(Status(), ProfilerTestApp::Get().m_boxes[0]);
@@ -76,21 +76,21 @@ TEST_F(ProfilerFrameTest, AFileThatCannotBeOpenedLeavesTheFormerOne) {
 }
 
 TEST_F(ProfilerFrameTest, AnEmptyFileIsToldInABox) {
-    Frame().OpenPath(Write(L"empty.csv", ""));
+    Open(Write(L"empty.csv", ""));
     EXPECT_THAT(ProfilerTestApp::Get().m_boxes,
                 ElementsAre(L"empty.csv, line 1: the file is empty. Its first line must name the columns."));
     EXPECT_EQ(Title(), L"Column Profiler");
 }
 
 TEST_F(ProfilerFrameTest, OddRowsAreToldInTheStatusBarOnly) {
-    Frame().OpenPath(Write(L"odd.csv", "a,b\n1,2\n3\n"));
+    Open(Write(L"odd.csv", "a,b\n1,2\n3\n"));
     EXPECT_THAT(ProfilerTestApp::Get().m_boxes, IsEmpty());
     EXPECT_EQ(Status(), L"odd.csv, line 3: 1 field where the header has 2. The others count as missing.");
     EXPECT_EQ(Rows(), 2);
 }
 
 TEST_F(ProfilerFrameTest, OnlyAHeaderShowsItsColumns) {
-    Frame().OpenPath(Write(L"header.csv", "a,b,c\n"));
+    Open(Write(L"header.csv", "a,b,c\n"));
     EXPECT_THAT(ProfilerTestApp::Get().m_boxes, IsEmpty());
     EXPECT_EQ(Status(), L"header.csv, line 1: only a header, no rows below it. There is nothing to compute.");
     ASSERT_EQ(Rows(), 3);
@@ -99,7 +99,7 @@ TEST_F(ProfilerFrameTest, OnlyAHeaderShowsItsColumns) {
 }
 
 TEST_F(ProfilerFrameTest, MessagesCanBeLookedAtAndHidden) {
-    Frame().OpenPath(Write(L"odd.csv", "a,b\n1,2\n3\n"));
+    Open(Write(L"odd.csv", "a,b\n1,2\n3\n"));
     EXPECT_EQ(MenuState(1, ID_VIEW_MESSAGES) & MF_CHECKED, 0u);
     Command(ID_VIEW_MESSAGES);
     EXPECT_NE(MenuState(1, ID_VIEW_MESSAGES) & MF_CHECKED, 0u);
@@ -114,11 +114,12 @@ TEST_F(ProfilerFrameTest, MessagesCanBeLookedAtAndHidden) {
 
 TEST_F(ProfilerFrameTest, ReloadingReadsTheFileAgain) {
     EXPECT_NE(MenuState(0, ID_FILE_RELOAD) & MF_GRAYED, 0u);
-    Frame().OpenPath(Write(L"grows.csv", "a\n1\n2\n"));
+    Open(Write(L"grows.csv", "a\n1\n2\n"));
     EXPECT_EQ(MenuState(0, ID_FILE_RELOAD) & MF_GRAYED, 0u);
     EXPECT_EQ(Cell(0, CountItem), L"2");
     Write(L"grows.csv", "a\n1\n2\n3\n");
     Command(ID_FILE_RELOAD);
+    WaitUntilRead();
     EXPECT_EQ(Cell(0, CountItem), L"3");
 }
 
@@ -141,6 +142,7 @@ HDROP Drop(const std::vector<CString>& paths) {
 TEST_F(ProfilerFrameTest, ADroppedFileIsOpened) {
     const CString path = Write(L"dropped.csv", "a\n1\n2\n");
     Frame().SendMessage(WM_DROPFILES, reinterpret_cast<WPARAM>(Drop({path})));
+    WaitUntilRead();
     EXPECT_EQ(Title(), L"dropped.csv \u2013 Column Profiler");
     EXPECT_EQ(Status(), L"dropped.csv is open.");
 }
@@ -149,8 +151,78 @@ TEST_F(ProfilerFrameTest, OfSeveralDroppedFilesTheFirstIsOpened) {
     const CString first = Write(L"first.csv", "a\n1\n");
     const CString second = Write(L"second.csv", "b\n1\n");
     Frame().SendMessage(WM_DROPFILES, reinterpret_cast<WPARAM>(Drop({first, second})));
+    WaitUntilRead();
     EXPECT_EQ(Title(), L"first.csv \u2013 Column Profiler");
     EXPECT_EQ(Status(), L"Only the first of the dropped files was opened: the program shows one at a time.");
+}
+
+// --- Reading ---------------------------------------------------------------------------------------------------------
+//
+// What the reading thread has to tell comes as a message, so nothing changes before the messages are handled.
+
+TEST_F(ProfilerFrameTest, WhileAFileIsReadTheFormerOneStays) {
+    OpenShipped(L"penguins.csv");
+    EXPECT_NE(MenuState(0, ID_FILE_STOP) & MF_GRAYED, 0u);
+    Frame().OpenPath(Write(L"next.csv", "a\n1\n2\n"));
+    EXPECT_TRUE(Frame().IsReading());
+    EXPECT_EQ(Title(), L"penguins.csv \u2013 Column Profiler");
+    EXPECT_EQ(Cell(2, NameItem), L"Beak Length (mm)");
+    EXPECT_EQ(MenuState(0, ID_FILE_STOP) & MF_GRAYED, 0u);
+    EXPECT_NE(MenuState(0, ID_FILE_RELOAD) & MF_GRAYED, 0u);
+    WaitUntilRead();
+    EXPECT_EQ(Title(), L"next.csv \u2013 Column Profiler");
+    EXPECT_NE(MenuState(0, ID_FILE_STOP) & MF_GRAYED, 0u);
+}
+
+TEST_F(ProfilerFrameTest, EscapeGivesUpReading) {
+    OpenShipped(L"penguins.csv");
+    Frame().OpenPath(Write(L"next.csv", "a\n1\n2\n"));
+    EXPECT_TRUE(PressEscape());
+    EXPECT_FALSE(Frame().IsReading());
+    EXPECT_EQ(Status(), L"Cancelled: the file was not opened.");
+    HandleMessages();
+    EXPECT_EQ(Title(), L"penguins.csv \u2013 Column Profiler");
+    EXPECT_EQ(Rows(), 7);
+    EXPECT_FALSE(PressEscape()); // there is nothing to give up
+}
+
+TEST_F(ProfilerFrameTest, TheCommandGivesUpReading) {
+    Frame().OpenPath(Write(L"next.csv", "a\n1\n2\n"));
+    Command(ID_FILE_STOP);
+    EXPECT_EQ(Status(), L"Cancelled: the file was not opened.");
+    HandleMessages();
+    EXPECT_EQ(Title(), L"Column Profiler");
+    EXPECT_EQ(Rows(), 0);
+}
+
+TEST_F(ProfilerFrameTest, AnotherFileTakesThePlaceOfTheOneThatIsRead) {
+    Frame().OpenPath(L"Z:\\no\\such.csv");
+    Frame().OpenPath(Write(L"second.csv", "a,b\n1,2\n"));
+    WaitUntilRead();
+    EXPECT_EQ(Title(), L"second.csv \u2013 Column Profiler");
+    EXPECT_EQ(Rows(), 2);
+    EXPECT_THAT(ProfilerTestApp::Get().m_boxes, IsEmpty());
+}
+
+TEST_F(ProfilerFrameTest, TheWindowCanBeClosedWhileAFileIsRead) {
+    Frame().OpenPath(Write(L"next.csv", "a\n1\n2\n"));
+    Restart();
+    HandleMessages();
+    EXPECT_EQ(Title(), L"Column Profiler");
+    EXPECT_FALSE(Frame().IsReading());
+}
+
+TEST_F(ProfilerFrameTest, DuringADragTheGridKeepsItsRowsAndTheEscapeKey) {
+    OpenShipped(L"penguins.csv");
+    Frame().OpenPath(Write(L"next.csv", "a\n1\n2\n"));
+    Grid().SetCapture();
+    EXPECT_FALSE(PressEscape());
+    HandleMessagesUntil(WM_APP + 1); // the file is read
+    EXPECT_EQ(Title(), L"penguins.csv \u2013 Column Profiler");
+    EXPECT_EQ(Rows(), 7);
+    ::ReleaseCapture();
+    WaitUntilRead();
+    EXPECT_EQ(Title(), L"next.csv \u2013 Column Profiler");
 }
 
 // --- Limits ----------------------------------------------------------------------------------------------------------
@@ -159,7 +231,7 @@ class LimitsTest : public ProfilerFrameTest {
 protected:
     void SetUp() override {
         ProfilerFrameTest::SetUp();
-        Frame().OpenPath(Write(L"ten.csv", "n\n1\n2\n3\n4\n5\n6\n7\n8\n9\n10\n"));
+        Open(Write(L"ten.csv", "n\n1\n2\n3\n4\n5\n6\n7\n8\n9\n10\n"));
     }
 
     /// Ends a drag as the plot does.
@@ -193,6 +265,7 @@ TEST_F(LimitsTest, ATargetTakesThePassedLimitAlong) {
 TEST_F(LimitsTest, ReloadingPutsThemBack) {
     Dragged(1.5f, -99.0f, -99.0f);
     Command(ID_FILE_RELOAD);
+    WaitUntilRead();
     EXPECT_EQ(Cell(0, InsideItem), L"60.0 %");
 }
 
@@ -287,11 +360,11 @@ TEST_F(ProfilerFrameTest, EveryMenuItemHasAMnemonicOfItsOwn) {
 TEST_F(ProfilerFrameTest, TextsAreInTheLanguageOfTheCatalogue) {
     const German german;
     Restart();
-    Frame().OpenPath(Write(L"odd.csv", "a,b\n1,2\n3,4\nx\n"));
+    Open(Write(L"odd.csv", "a,b\n1,2\n3,4\nx\n"));
     EXPECT_STREQ(Grid().GetColumns()->Find(CString(L"Name"))->GetCaption(), L"Spalte");
     EXPECT_EQ(Cell(0, TypeItem), L"Zahl");
     EXPECT_THAT(Status(), testing::StartsWith(L"odd.csv, Zeile 4: 1 Feld"));
-    Frame().OpenPath(L"Z:\\no\\such.csv");
+    Open(L"Z:\\no\\such.csv");
     EXPECT_THAT(ProfilerTestApp::Get().m_boxes, ElementsAre(testing::HasSubstr(L"wurde nicht gefunden")));
     CString menu;
     Frame().GetMenu()->GetMenuString(0, menu, MF_BYPOSITION);

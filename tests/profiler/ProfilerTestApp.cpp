@@ -80,8 +80,35 @@ std::wstring ProfilerFrameTest::Cell(int row, int item) {
 
 int ProfilerFrameTest::Rows() { return Grid().GetRows()->GetCount(); }
 
+void ProfilerFrameTest::Open(const CString& path) {
+    m_frame->OpenPath(path);
+    WaitUntilRead();
+}
+
 void ProfilerFrameTest::OpenShipped(const wchar_t* name) {
-    m_frame->OpenPath((std::filesystem::path(PROFILER_DATA_DIR) / name).c_str());
+    Open((std::filesystem::path(PROFILER_DATA_DIR) / name).c_str());
+}
+
+void ProfilerFrameTest::WaitUntilRead() {
+    while (m_frame->IsReading())
+        AfxPumpMessage();
+}
+
+void ProfilerFrameTest::HandleMessagesUntil(UINT kind) {
+    do {
+        AfxPumpMessage();
+    } while (AfxGetCurrentMessage()->message != kind);
+}
+
+void ProfilerFrameTest::HandleMessages() {
+    MSG message;
+    while (::PeekMessage(&message, nullptr, 0, 0, PM_NOREMOVE))
+        AfxPumpMessage();
+}
+
+bool ProfilerFrameTest::PressEscape() {
+    MSG message{m_frame->m_hWnd, WM_KEYDOWN, VK_ESCAPE, 1, 0, {}};
+    return m_frame->PreTranslateMessage(&message) != FALSE;
 }
 
 CString ProfilerFrameTest::Write(const wchar_t* name, const std::string& bytes) {

@@ -42,7 +42,17 @@ protected:
     std::wstring Cell(int row, int item);
     int Rows();
 
+    /// Opens a file and waits until it is read.
+    void Open(const CString& path);
     void OpenShipped(const wchar_t* name);
+    /// Handles messages until no file is being read any more.
+    void WaitUntilRead();
+    /// Handles messages until one of that kind has been handled.
+    void HandleMessagesUntil(UINT kind);
+    /// Handles the messages that wait.
+    void HandleMessages();
+    /// Whether the frame took the key for itself.
+    bool PressEscape();
     /// Writes a file into the temporary folder and returns its path.
     CString Write(const wchar_t* name, const std::string& bytes);
     void Command(UINT id) { m_frame->SendMessage(WM_COMMAND, id, 0); }

@@ -3,13 +3,14 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <numeric>
 
 namespace {
 
-using statistics::Quantile;
+using statistics::Quantiles;
 using statistics::ShareInside;
 using statistics::Summarize;
 using statistics::Summary;
@@ -24,8 +25,10 @@ TEST(Summary, OfEightNumbers) {
     EXPECT_EQ(summary.mean, 5);
     // python3 -c "import statistics; print(statistics.stdev([2,4,4,4,5,5,7,9]))"
     EXPECT_DOUBLE_EQ(summary.standardDeviation.value(), 2.138089935299395);
-    EXPECT_DOUBLE_EQ(summary.median, 4.5);
     EXPECT_DOUBLE_EQ(summary.quantile5, 2.7);  // h = 0.35: 0.35 of the way from 2 to 4
+    EXPECT_DOUBLE_EQ(summary.quantile25, 4);   // h = 1.75: between 4 and 4
+    EXPECT_DOUBLE_EQ(summary.median, 4.5);     // h = 3.5: half the way from 4 to 5
+    EXPECT_DOUBLE_EQ(summary.quantile75, 5.5); // h = 5.25: 0.25 of the way from 5 to 7
     EXPECT_DOUBLE_EQ(summary.quantile95, 8.3); // h = 6.65: 0.65 of the way from 7 to 9
 }
 
@@ -41,8 +44,8 @@ TEST(Summary, OfOneNumberHasNoStandardDeviation) {
     const Summary summary = Summarize(std::vector<double>{-3.5});
     EXPECT_EQ(summary.count, 1u);
     EXPECT_FALSE(summary.standardDeviation.has_value());
-    for (const double value :
-         {summary.minimum, summary.maximum, summary.mean, summary.quantile5, summary.median, summary.quantile95})
+    for (const double value : {summary.minimum, summary.maximum, summary.mean, summary.quantile5, summary.quantile25,
+                               summary.median, summary.quantile75, summary.quantile95})
         EXPECT_EQ(value, -3.5);
 }
 
@@ -97,22 +100,35 @@ TEST(Summary, SmallNumbersBesideALargeOneAreNotLost) {
     EXPECT_DOUBLE_EQ(Summarize(numbers).mean, 10000.0 / 10002.0);
 }
 
-TEST(Quantile, InterpolatesBetweenOrderStatistics) {
+TEST(Quantiles, InterpolateBetweenOrderStatistics) {
     std::vector<double> numbers{40, 10, 30, 20};
-    EXPECT_EQ(Quantile(numbers, 0), 10);
-    EXPECT_EQ(Quantile(numbers, 1), 40);
-    EXPECT_EQ(Quantile(numbers, 0.5), 25);
-    EXPECT_DOUBLE_EQ(Quantile(numbers, 0.05), 11.5);
-    EXPECT_DOUBLE_EQ(Quantile(numbers, 0.95), 38.5);
-    EXPECT_DOUBLE_EQ(Quantile(numbers, 1.0 / 3), 20);
+    const std::vector<double> quantiles = Quantiles(numbers, {0, 0.05, 1.0 / 3, 0.5, 0.95, 1});
+    ASSERT_EQ(quantiles.size(), 6u);
+    EXPECT_EQ(quantiles[0], 10);
+    EXPECT_DOUBLE_EQ(quantiles[1], 11.5);
+    EXPECT_DOUBLE_EQ(quantiles[2], 20);
+    EXPECT_EQ(quantiles[3], 25);
+    EXPECT_DOUBLE_EQ(quantiles[4], 38.5);
+    EXPECT_EQ(quantiles[5], 40);
 }
 
-TEST(Quantile, OfTwentyOneNumbersFallsOnThem) {
+TEST(Quantiles, OfTwentyOneNumbersFallOnThem) {
     std::vector<double> numbers(21);
     std::iota(numbers.begin(), numbers.end(), 0.0);
-    EXPECT_EQ(Quantile(numbers, 0.05), 1);
-    EXPECT_EQ(Quantile(numbers, 0.5), 10);
-    EXPECT_EQ(Quantile(numbers, 0.95), 19);
+    std::reverse(numbers.begin(), numbers.end());
+    EXPECT_EQ(Quantiles(numbers, {0.05, 0.5, 0.5, 0.95}), (std::vector<double>{1, 10, 10, 19}));
+}
+
+TEST(Quantiles, AreThoseOfTheSortedNumbers) {
+    std::vector<double> numbers;
+    for (int i = 0; i < 1009; ++i)
+        numbers.push_back(i * 389 % 1009 % 300); // mixed, most of them more than once
+    std::vector<double> sorted = numbers;
+    std::sort(sorted.begin(), sorted.end());
+    // 1008 divides by 16: each of these falls on a number.
+    const std::vector<double> quantiles = Quantiles(numbers, {0.0625, 0.25, 0.3125, 0.5, 0.5625, 0.9375});
+    EXPECT_EQ(quantiles,
+              (std::vector<double>{sorted[63], sorted[252], sorted[315], sorted[504], sorted[567], sorted[945]}));
 }
 
 TEST(ShareInside, TheIntervalIsClosed) {

@@ -321,23 +321,30 @@ TEST(TableReader, UnreadableCellsWithoutEndAreCutAndCounted) {
     EXPECT_EQ(Text(result.messages.back()), "t.csv: 2950 more messages like these are not listed.");
 }
 
-TEST(TableReader, ProgressRisesFromZeroToOne) {
+TEST(TableReader, ProgressRisesFromZeroToOneAndCountsTheRows) {
     std::string bytes = "a,b\n1,1\n2,2\n3,3\n4,4\n";
     for (int i = 0; i < 100; ++i)
         bytes += "x,5\n";
-    std::vector<double> told;
+    std::vector<double> fractions;
+    std::vector<std::size_t> rows;
     csv::ReadOptions options;
     options.sample = 16;
     options.chunk = 32;
-    options.progress = [&](double fraction) {
-        told.push_back(fraction);
+    options.progress = [&](const csv::ReadState& state) {
+        fractions.push_back(state.fraction);
+        rows.push_back(state.rows);
         return true;
     };
     EXPECT_EQ(Read(bytes, options).outcome, ReadResult::Outcome::Read);
-    ASSERT_GT(told.size(), 10u);
-    EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));
-    EXPECT_EQ(told.front(), 0);
-    EXPECT_EQ(told.back(), 1);
+    ASSERT_GT(fractions.size(), 10u);
+    EXPECT_TRUE(std::is_sorted(fractions.begin(), fractions.end()));
+    EXPECT_EQ(fractions.front(), 0);
+    EXPECT_EQ(fractions.back(), 1);
+    // The file is read twice, because its first column only begins like numbers; rows are counted once.
+    EXPECT_TRUE(std::is_sorted(rows.begin(), rows.end()));
+    EXPECT_EQ(rows.front(), 0u);
+    EXPECT_TRUE(std::any_of(rows.begin(), rows.end(), [](std::size_t count) { return count > 0 && count < 104; }));
+    EXPECT_EQ(rows.back(), 104u);
 }
 
 TEST(TableReader, GivingUpEndsTheReadingAtAnyPoint) {
@@ -349,7 +356,7 @@ TEST(TableReader, GivingUpEndsTheReadingAtAnyPoint) {
         csv::ReadOptions options;
         options.sample = 16;
         options.chunk = 32;
-        options.progress = [&](double) { return ++calls <= patience; };
+        options.progress = [&](const csv::ReadState&) { return ++calls <= patience; };
         const ReadResult result = Read(bytes, options);
         EXPECT_EQ(result.outcome, ReadResult::Outcome::Cancelled);
         EXPECT_TRUE(result.table.columns.empty());

@@ -297,16 +297,37 @@ x_key Return
 expect status '.* is a folder\. Choose a CSV file in it\.' "and the program goes on"
 x_close
 
-# Reading this takes some seconds, and Escape ends it.
+# Reading this takes more than a second, and Escape ends it.
 big=$x_out/big.csv
 { echo 'a,b,c,d' && yes '123.456789012,123.456789012,123.456789012,123.456789012'; } 2>/dev/null |
     head -c 250M >"$big" || true
 start "$(ky_windows_path "$big")"
+x_wait_window 'big\.csv'
+x_key F5
+expect status 'Reading big\.csv: [0-9]+ %, [0-9,]+ rows\. Escape cancels\.' "the status bar tells how far reading has come"
+x_shot reading
 x_key Escape
 expect status 'Cancelled: the file was not opened\.' "Escape gives up reading"
-expect title 'Column Profiler' "and no file is open"
+expect title 'big\.csv – Column Profiler' "and the file that was open stays"
+x_key F5
 x_close
 rm "$big"
+
+exported=$x_out/exported.csv
+rm -f "$exported"
+if wine "$program" --export "$(ky_windows_path "$exported")" "$(ky_windows_path "$data")" 9>&- &&
+    tr -d '\r' <"$exported" | grep -qx 'Body Mass (g),number,342,2,,2700,6300,4201\.75.*,3150,3550,4050,4750,5650'; then
+    echo "ok: the statistics can be exported without a window"
+else
+    fail "the statistics can be exported without a window"
+fi
+if wine "$program" --export "$(ky_windows_path "$exported")" no-such-file.csv 9>&- 2>"$x_out/export.log"; then
+    fail "an export that fails says so with its exit code"
+elif grep -q '^no-such-file\.csv cannot be found' "$x_out/export.log"; then
+    echo "ok: an export that fails says why"
+else
+    fail "an export that fails says why"
+fi
 
 if [ "$failures" -gt 0 ]; then
     printf '%s expectations failed; pictures are in %s\n' "$failures" "$x_out" >&2

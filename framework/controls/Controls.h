@@ -1,4 +1,5 @@
-// Controls.h - the standard controls as classes: thin covers of their messages.
+/// @file
+/// The standard controls as classes: thin covers of their messages.
 #pragma once
 
 #include "CButton.h"

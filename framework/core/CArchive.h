@@ -1,4 +1,5 @@
-// CArchive.h - reads values and objects from a file, or writes them, through a buffer.
+/// @file
+/// Reads values and objects from a file, or writes them, through a buffer.
 #pragma once
 
 #include "CArchiveException.h"
@@ -13,46 +14,61 @@ class ArchiveObjects;
 /// FF FE FF when its characters are 16 bits wide, and the characters.
 ///
 /// Data that ends inside a value throws CArchiveException* with endOfFile; a read from a storing archive throws
-/// writeOnly, a write to a loading one readOnly. A length read from the data is never trusted for an allocation.
+/// writeOnly, a write to a loading one readOnly, either on a closed archive genericException. What the file throws
+/// passes through. A length read from the data is never trusted for an allocation.
+/// @ingroup framework_files
 class KY_FRAMEWORK_API CArchive {
 public:
-    enum Mode { store = 0, load = 1, bNoFlushOnDelete = 2, bNoByteSwap = 4 };
+    /// The direction, store or load, joined with options.
+    enum Mode {
+        store = 0,            ///< Writes.
+        load = 1,             ///< Reads.
+        bNoFlushOnDelete = 2, ///< The destructor does not call Close.
+        bNoByteSwap = 4       ///< Without effect: nothing is swapped on this processor.
+    };
 
-    /// `buffer`, when given, has `bufferSize` bytes and outlives the archive.
+    /// Begins at the current position of the file. `mode` is a Mode. `buffer`, when given, has `bufferSize` bytes and
+    /// outlives the archive; under 128 bytes the archive takes a buffer of 128 of its own.
     CArchive(CFile* file, UINT mode, int bufferSize = 4096, void* buffer = nullptr);
     /// Closes the archive, unless bNoFlushOnDelete was given or Close was called; errors are swallowed.
     ~CArchive();
     CArchive(const CArchive&) = delete;
     CArchive& operator=(const CArchive&) = delete;
 
-    BOOL IsLoading() const { return (m_nMode & load) != 0; }
-    BOOL IsStoring() const { return (m_nMode & load) == 0; }
+    BOOL IsLoading() const { return (m_nMode & load) != 0; } ///< Reads: `>>`, Read, ReadString.
+    BOOL IsStoring() const { return (m_nMode & load) == 0; } ///< Writes: `<<`, Write, WriteString.
     /// True when the next read has to ask the file.
     BOOL IsBufferEmpty() const { return m_next == m_end; }
-    CFile* GetFile() const { return m_file; }
+    CFile* GetFile() const { return m_file; } ///< Null once the archive is closed.
+    /// In Serialize while loading: the stored version of the object's class. It may be asked for once per object, so
+    /// that a base class does not take a derived class's for its own; otherwise -1 (UINT).
     UINT GetObjectSchema();
+    /// Makes the next GetObjectSchema answer that number, for a class that reads a base class stored otherwise.
     void SetObjectSchema(UINT schema) { m_objectSchema = schema; }
 
-    /// The number of bytes read; fewer than asked for only at the end of the data.
+    /// Reads bytes as they are. The number of bytes read; fewer than asked for only at the end of the data.
     UINT Read(void* buffer, UINT count);
-    /// Reads exactly that many bytes or throws endOfFile.
+    /// Reads exactly that many bytes, and returns that number, or throws endOfFile.
     UINT EnsureRead(void* buffer, UINT count);
+    /// Writes the bytes as they are, without their number.
     void Write(const void* buffer, UINT count);
-    /// Writes the characters without length or terminator.
+    /// Writes the characters (16 bits each) without length or terminator. Lines end where the text has a line feed.
     void WriteString(LPCTSTR text);
     /// Reads one line: up to the next line feed, carriage return with line feed, or NUL, which is dropped, and at most
     /// `maxCount - 1` characters. Null when the data ends before the first character.
     LPTSTR ReadString(LPTSTR buffer, UINT maxCount);
-    /// As above for a line of any length; FALSE when the data ends before the first character.
+    /// As above for a line of any length; FALSE, with an empty text, when the data ends before the first character.
     BOOL ReadString(CString& text);
 
     /// Storing: writes what is buffered. Loading: moves the file back to the first byte not yet read.
     void Flush();
-    /// Flushes and detaches from the file.
+    /// Flushes and detaches from the file, which stays open.
     void Close();
     /// Detaches from the file; what is buffered is lost. Nothing is thrown.
     void Abort();
 
+    /** @{ */
+    /// Writes the value in its memory form; `bool` is one byte, `wchar_t` two, `int` and `LONG` four.
     CArchive& operator<<(BYTE value);
     CArchive& operator<<(WORD value);
     CArchive& operator<<(LONG value);
@@ -66,8 +82,12 @@ public:
     CArchive& operator<<(char value);
     CArchive& operator<<(wchar_t value);
     CArchive& operator<<(unsigned value);
-    CArchive& operator<<(bool value); ///< one byte
+    CArchive& operator<<(bool value);
+    /** @} */
 
+    /** @{ */
+    /// Reads what `<<` of the same type wrote. When the data ends inside, endOfFile is thrown and the value stays as it
+    /// was. A `bool` is true for any byte but 0.
     CArchive& operator>>(BYTE& value);
     CArchive& operator>>(WORD& value);
     CArchive& operator>>(LONG& value);
@@ -82,21 +102,27 @@ public:
     CArchive& operator>>(wchar_t& value);
     CArchive& operator>>(unsigned& value);
     CArchive& operator>>(bool& value);
+    /** @} */
 
+    /** @{ */
     /// Counts of collections: a word, or FFFF and a double word, or FFFF FFFFFFFF and a quad word.
     void WriteCount(DWORD_PTR count);
     DWORD_PTR ReadCount();
+    /** @} */
 
     /// Writes the object, or only its number when it was written before; null is kept as null. The object's class must
     /// be declared with DECLARE_SERIAL, else CNotSupportedException* is thrown.
     void WriteObject(const CObject* object);
-    /// Reads an object made on the heap, which the caller owns. An object of a class other than `expected` or one
-    /// derived from it throws badClass, one of another version badSchema (unless the class is VERSIONABLE_SCHEMA).
+    /// Reads an object made on the heap, which the caller owns; the same pointer again where the same object was
+    /// written again, and null for null. An object of a class other than `expected` (null: any) or one derived from it
+    /// throws badClass, one of another version badSchema (unless the class is VERSIONABLE_SCHEMA), a number without an
+    /// object badIndex.
     CObject* ReadObject(const CRuntimeClass* expected);
-    /// Makes an object that is stored otherwise known under the next number.
+    /// Makes an object that is stored otherwise, such as the one whose Serialize runs, known under the next number.
+    /// Call it at the same place when storing and when loading.
     void MapObject(const CObject* object);
 
-    CString m_strFileName; ///< named in the exceptions that are thrown
+    CString m_strFileName; ///< Named in the exceptions that are thrown.
 
 private:
     friend class ArchiveObjects;
@@ -122,15 +148,31 @@ private:
     std::unique_ptr<ArchiveObjects> m_objects;
 };
 
-/// Set in a class's schema number when its Serialize reads older versions by itself.
+/// Added to a class's schema number when its Serialize reads older versions by itself.
+/// @ingroup framework_files
 inline constexpr UINT VERSIONABLE_SCHEMA = 0x80000000u;
 
+/// @addtogroup framework_files
+/// @{
+
+/// Writes a text with its length, 16 bits per character.
 KY_FRAMEWORK_API CArchive& operator<<(CArchive& archive, const CString& text);
+/// Reads a text with its length, also one of 8-bit characters, which are in the ANSI code page. A length that cannot be
+/// one throws CArchiveException::badIndex.
 KY_FRAMEWORK_API CArchive& operator>>(CArchive& archive, CString& text);
+/// As CArchive::WriteObject; DECLARE_SERIAL declares the `>>` that reads it.
 KY_FRAMEWORK_API CArchive& operator<<(CArchive& archive, const CObject* object);
+/// Writes the two numbers of the structure in their order, four bytes each.
 KY_FRAMEWORK_API CArchive& operator<<(CArchive& archive, POINT point);
+/// Reads the two numbers of the structure.
 KY_FRAMEWORK_API CArchive& operator>>(CArchive& archive, POINT& point);
+/// Writes the two numbers of the structure in their order, four bytes each.
 KY_FRAMEWORK_API CArchive& operator<<(CArchive& archive, SIZE size);
+/// Reads the two numbers of the structure.
 KY_FRAMEWORK_API CArchive& operator>>(CArchive& archive, SIZE& size);
+/// Writes the four numbers of the structure in their order, four bytes each.
 KY_FRAMEWORK_API CArchive& operator<<(CArchive& archive, const RECT& rect);
+/// Reads the four numbers of the structure.
 KY_FRAMEWORK_API CArchive& operator>>(CArchive& archive, RECT& rect);
+
+/// @}

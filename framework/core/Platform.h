@@ -1,4 +1,5 @@
-// Platform.h - the Windows headers and the few calling-convention words that every framework header builds on.
+/// @file
+/// The Windows headers and the few calling-convention words that every framework header builds on.
 #pragma once
 
 #include <windows.h>
@@ -16,6 +17,9 @@
 
 #include "Export.h"
 
+/// Calling convention of the framework's plain functions; on 64-bit Windows there is only one.
 #define AFXAPI __stdcall
+/// Calling convention of functions with a variable number of arguments.
 #define AFX_CDECL __cdecl
-#define afx_msg // marks message handlers for the reader; the message map finds them by address
+/// Marks message handlers for the reader; the message map finds them by address.
+#define afx_msg

@@ -1,4 +1,5 @@
-// Gdi.h - all device contexts and GDI objects.
+/// @file
+/// All device contexts and GDI objects.
 #pragma once
 
 #include "CBitmap.h"

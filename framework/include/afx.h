@@ -1,4 +1,5 @@
-// afx.h - objects, strings, geometry, exceptions, files and archives.
+/// @file
+/// Objects, strings, geometry, exceptions, files and archives.
 #pragma once
 
 #include "../core/CArchive.h"

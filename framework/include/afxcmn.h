@@ -1,4 +1,5 @@
-// afxcmn.h - the common controls.
+/// @file
+/// The common controls.
 #pragma once
 
 #include "afxwin.h"

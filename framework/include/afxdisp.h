@@ -1,4 +1,5 @@
-// afxdisp.h - COM support: the exception of failed COM calls.
+/// @file
+/// COM support: the exception of failed COM calls.
 #pragma once
 
 #include "afx.h"

@@ -1,4 +1,5 @@
-// afxdlgs.h - the common dialogs.
+/// @file
+/// The common dialogs.
 #pragma once
 
 #include "afxwin.h"

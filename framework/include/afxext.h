@@ -1,4 +1,5 @@
-// afxext.h - control bars.
+/// @file
+/// Control bars.
 #pragma once
 
 #include "afxwin.h"

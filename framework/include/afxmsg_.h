@@ -1,9 +1,10 @@
-// Message maps: the table types, the macros that fill them, and the unpackers that turn a message's WPARAM and LPARAM
-// into the arguments of its handler. Comes with <afxwin.h>.
-//
-// Every entry macro expands to a captureless lambda that names the handler as a member pointer of the exact documented
-// type, so a handler with another signature does not compile. The lambda is made inside a member function of the class,
-// so handlers may be protected or private.
+/// @file
+/// Message maps: the table types, the macros that fill them, and the unpackers that turn a message's WPARAM and LPARAM
+/// into the arguments of its handler. Comes with `<afxwin.h>`.
+///
+/// Every entry macro expands to a captureless lambda that names the handler as a member pointer of the exact documented
+/// type, so a handler with another signature does not compile. The lambda is made inside a member function of the
+/// class, so handlers may be protected or private.
 #pragma once
 
 class CCmdTarget;
@@ -15,63 +16,77 @@ class CWnd;
 struct AFX_MSGMAP_ENTRY;
 
 /// One message, command or notification on its way to a handler.
+/// @ingroup framework_messages
 struct AFX_MESSAGE {
-    UINT message = 0;
-    WPARAM wParam = 0;
-    LPARAM lParam = 0;
+    UINT message = 0;      ///< The message; WM_COMMAND for commands.
+    WPARAM wParam = 0;     ///< As Windows sent it; 0 for commands.
+    LPARAM lParam = 0;     ///< As Windows sent it; 0 for commands.
     LRESULT result = 0;    ///< What the handler answers.
     UINT id = 0;           ///< Command or control id, of commands and notifications.
     void* extra = nullptr; ///< CCmdUI* of update commands, AFX_NOTIFY* of WM_NOTIFY.
 };
 
 /// Calls one handler. False: the handler passes the command or notification on along its route.
+/// @ingroup framework_messages
 using AFX_THUNK = bool (*)(CCmdTarget* target, AFX_MESSAGE& message);
 
 /// One line of a message map: which message it is for, and the typed thunk that calls the handler.
+/// @ingroup framework_messages
 struct AFX_MSGMAP_ENTRY {
-    UINT nMessage; ///< The message; WM_COMMAND for commands; zero ends the table.
-    UINT nCode;    ///< Notification code (16 bits), CN_COMMAND or CN_UPDATE_COMMAND_UI; zero for plain messages.
-    UINT nID;      ///< First id of commands and notifications.
-    UINT nLastID;  ///< Last id.
-    AFX_THUNK pfnThunk;
+    UINT nMessage;      ///< The message; WM_COMMAND for commands; zero ends the table.
+    UINT nCode;         ///< Notification code (16 bits), CN_COMMAND or CN_UPDATE_COMMAND_UI; zero for plain messages.
+    UINT nID;           ///< First id of commands and notifications.
+    UINT nLastID;       ///< Last id.
+    AFX_THUNK pfnThunk; ///< Unpacks the message and calls the handler.
     const UINT* pnRegistered; ///< Where the number of a registered message stands, else null.
 };
 
 /// A class's table and the way to its base class's map. The base is a function, because the address of another DLL's
 /// table is not a constant.
+/// @ingroup framework_messages
 struct AFX_MSGMAP {
-    const AFX_MSGMAP* (*pfnGetBaseMap)();
-    const AFX_MSGMAP_ENTRY* lpEntries;
+    const AFX_MSGMAP* (*pfnGetBaseMap)(); ///< Null at the root.
+    const AFX_MSGMAP_ENTRY* lpEntries;    ///< Ends with an entry for message 0.
 };
 
 /// What OnCmdMsg carries as pExtra for WM_NOTIFY.
+/// @ingroup framework_messages
 struct AFX_NOTIFY {
-    LRESULT* pResult;
-    NMHDR* pNMHDR;
+    LRESULT* pResult; ///< What the handler answers; never null.
+    NMHDR* pNMHDR;    ///< The notification, which belongs to the sender.
 };
 
 /// What the internal colour message WM_CTLCOLOR carries in lParam.
+/// @ingroup framework_messages
 struct AFX_CTLCOLOR {
-    HWND hWnd;
-    HDC hDC;
+    HWND hWnd;     ///< The control.
+    HDC hDC;       ///< Where its colours are set.
     UINT nCtlType; ///< CTLCOLOR_BTN and so on.
 };
 
 /// Filled by OnCmdMsg instead of calling the handler when the caller only wants to know whether there is one.
+/// @ingroup framework_messages
 struct AFX_CMDHANDLERINFO {
-    CCmdTarget* pTarget;
-    AFX_THUNK pfnThunk;
+    CCmdTarget* pTarget; ///< The object whose map has the entry.
+    AFX_THUNK pfnThunk;  ///< Calls the handler for that object.
 };
 
 #ifndef WM_CTLCOLOR
+/// One message for what Windows tells as several, WM_CTLCOLORBTN and so on: the colours of a control. lParam:
+/// AFX_CTLCOLOR*.
 #define WM_CTLCOLOR 0x0019
 #endif
+/// Added to the number of a message that a parent hands back to the control that it is about.
 #define WM_REFLECT_BASE 0xBC00
 
+/// For CCmdTarget::OnCmdMsg: a command is to be carried out.
 constexpr int CN_COMMAND = 0;
+/// For CCmdTarget::OnCmdMsg: a command's user interface is to be brought up to date.
 constexpr int CN_UPDATE_COMMAND_UI = -1;
+/// Numbers from this one on are those of registered messages; it marks their entries in the maps.
 constexpr UINT AFX_REGISTERED_MESSAGE = 0xC000;
 
+/// @cond
 // The unpackers, named after the arguments that they produce. `Owner` is the class whose map holds the entry; it is
 // named by the caller, so that a member of a base class converts and one of another type is refused.
 namespace afxmsg {
@@ -352,12 +367,19 @@ bool NotifyEx(Owner* object, BOOL (Owner::*handler)(UINT, NMHDR*, LRESULT*), AFX
 }
 
 } // namespace afxmsg
+/// @endcond
 
+/// In a class derived from CCmdTarget: it has a message map. BEGIN_MESSAGE_MAP belongs beside the class's code. What
+/// follows it in the class is protected.
+/// @ingroup framework_messages
 #define DECLARE_MESSAGE_MAP()                                                                                          \
 protected:                                                                                                             \
     static const AFX_MSGMAP* GetThisMessageMap();                                                                      \
     const AFX_MSGMAP* GetMessageMap() const override;
 
+/// In one source file: begins the message map of a class. Entries follow, one per line, then END_MESSAGE_MAP. Messages
+/// without an entry go to the map of the base class.
+/// @ingroup framework_messages
 #define BEGIN_MESSAGE_MAP(theClass, baseClass)                                                                         \
     const AFX_MSGMAP* theClass::GetMessageMap() const { return GetThisMessageMap(); }                                  \
     const AFX_MSGMAP* theClass::GetThisMessageMap() {                                                                  \
@@ -365,6 +387,8 @@ protected:                                                                      
         using TheBaseClass = baseClass;                                                                                \
         static const AFX_MSGMAP_ENTRY entries[] = {
 
+/// Ends what BEGIN_MESSAGE_MAP began.
+/// @ingroup framework_messages
 #define END_MESSAGE_MAP()                                                                                              \
     { 0, 0, 0, 0, nullptr, nullptr }                                                                                   \
     }                                                                                                                  \
@@ -373,6 +397,7 @@ protected:                                                                      
     return &map;                                                                                                       \
     }
 
+/// @cond
 // A plain message is handled once its handler was called; a command's unpacker says whether it was.
 #define AFX_MESSAGE_THUNK(unpack, member)                                                                              \
     [](CCmdTarget* target, AFX_MESSAGE& message) -> bool {                                                             \
@@ -392,33 +417,69 @@ protected:                                                                      
      AFX_COMMAND_THUNK(unpack, member),                                                                                \
      nullptr},
 
+/// @endcond
+
 // Commands.
+/// A command from a menu, accelerator or button: `void OnX()`.
+/// @ingroup framework_messages
 #define ON_COMMAND(id, member) AFX_COMMAND_ENTRY(WM_COMMAND, CN_COMMAND, id, id, Command, member)
+/// Commands `first` to `last`: `void OnX(UINT id)`.
+/// @ingroup framework_messages
 #define ON_COMMAND_RANGE(first, last, member) AFX_COMMAND_ENTRY(WM_COMMAND, CN_COMMAND, first, last, CommandId, member)
+/// A command: `BOOL OnX(UINT id)`; FALSE passes it on along its route.
+/// @ingroup framework_messages
 #define ON_COMMAND_EX(id, member) AFX_COMMAND_ENTRY(WM_COMMAND, CN_COMMAND, id, id, CommandEx, member)
+/// Commands `first` to `last`: `BOOL OnX(UINT id)`; FALSE passes the command on along its route.
+/// @ingroup framework_messages
 #define ON_COMMAND_EX_RANGE(first, last, member)                                                                       \
     AFX_COMMAND_ENTRY(WM_COMMAND, CN_COMMAND, first, last, CommandEx, member)
+/// The user interface of a command: `void OnUpdateX(CCmdUI* pCmdUI)`, called before a menu shows and at idle time.
+/// @ingroup framework_messages
 #define ON_UPDATE_COMMAND_UI(id, member)                                                                               \
     AFX_COMMAND_ENTRY(WM_COMMAND, CN_UPDATE_COMMAND_UI, id, id, UpdateCommand, member)
+/// The user interface of commands `first` to `last`: `void OnUpdateX(CCmdUI* pCmdUI)`; m_nID says which.
+/// @ingroup framework_messages
 #define ON_UPDATE_COMMAND_UI_RANGE(first, last, member)                                                                \
     AFX_COMMAND_ENTRY(WM_COMMAND, CN_UPDATE_COMMAND_UI, first, last, UpdateCommand, member)
+/// In a control's own class, its own user interface: `void OnUpdate(CCmdUI* pCmdUI)`.
+/// @ingroup framework_messages
 #define ON_UPDATE_COMMAND_UI_REFLECT(member)                                                                           \
     AFX_COMMAND_ENTRY(WM_COMMAND + WM_REFLECT_BASE, CN_UPDATE_COMMAND_UI, 0, 0, UpdateCommand, member)
 
-// Notifications of child controls, and those that come back to the control itself. The EX forms answer whether they
-// are done with it; FALSE lets the parent see it as well.
+// Notifications of child controls, and those that come back to the control itself.
+/// A notification of the child `id` by WM_COMMAND: `void OnX()`.
+/// @ingroup framework_messages
 #define ON_CONTROL(code, id, member) AFX_COMMAND_ENTRY(WM_COMMAND, code, id, id, Command, member)
+/// A notification of the children `first` to `last` by WM_COMMAND: `void OnX(UINT id)`.
+/// @ingroup framework_messages
 #define ON_CONTROL_RANGE(code, first, last, member) AFX_COMMAND_ENTRY(WM_COMMAND, code, first, last, CommandId, member)
+/// In a control's own class, its own notification by WM_COMMAND: `void OnX()`. The parent does not see it.
+/// @ingroup framework_messages
 #define ON_CONTROL_REFLECT(code, member) AFX_COMMAND_ENTRY(WM_COMMAND + WM_REFLECT_BASE, code, 0, 0, Command, member)
+/// As ON_CONTROL_REFLECT with `BOOL OnX()`; FALSE lets the parent see it as well.
+/// @ingroup framework_messages
 #define ON_CONTROL_REFLECT_EX(code, member)                                                                            \
     AFX_COMMAND_ENTRY(WM_COMMAND + WM_REFLECT_BASE, code, 0, 0, ReflectedControlEx, member)
+/// A notification of the child `id` by WM_NOTIFY: `void OnX(NMHDR* pNMHDR, LRESULT* pResult)`.
+/// @ingroup framework_messages
 #define ON_NOTIFY(code, id, member) AFX_COMMAND_ENTRY(WM_NOTIFY, code, id, id, Notify, member)
+/// As ON_NOTIFY with `BOOL OnX(UINT id, NMHDR* pNMHDR, LRESULT* pResult)`; FALSE passes it on along its route.
+/// @ingroup framework_messages
 #define ON_NOTIFY_EX(code, id, member) AFX_COMMAND_ENTRY(WM_NOTIFY, code, id, id, NotifyEx, member)
+/// A notification of the children `first` to `last` by WM_NOTIFY: `void OnX(UINT id, NMHDR* pNMHDR, LRESULT* pResult)`.
+/// @ingroup framework_messages
 #define ON_NOTIFY_RANGE(code, first, last, member) AFX_COMMAND_ENTRY(WM_NOTIFY, code, first, last, NotifyId, member)
+/// In a control's own class, its own notification by WM_NOTIFY: `void OnX(NMHDR* pNMHDR, LRESULT* pResult)`. The parent
+/// does not see it.
+/// @ingroup framework_messages
 #define ON_NOTIFY_REFLECT(code, member) AFX_COMMAND_ENTRY(WM_NOTIFY + WM_REFLECT_BASE, code, 0, 0, Notify, member)
+/// As ON_NOTIFY_REFLECT with `BOOL OnX(NMHDR* pNMHDR, LRESULT* pResult)`; FALSE lets the parent see it as well.
+/// @ingroup framework_messages
 #define ON_NOTIFY_REFLECT_EX(code, member)                                                                             \
     AFX_COMMAND_ENTRY(WM_NOTIFY + WM_REFLECT_BASE, code, 0, 0, ReflectedNotifyEx, member)
 
+/** @{ */
+/// The notification of that name of the child `id`: `void OnX()`.
 #define ON_BN_CLICKED(id, member) ON_CONTROL(BN_CLICKED, id, member)
 #define ON_BN_DOUBLECLICKED(id, member) ON_CONTROL(BN_DOUBLECLICKED, id, member)
 #define ON_EN_CHANGE(id, member) ON_CONTROL(EN_CHANGE, id, member)
@@ -433,12 +494,21 @@ protected:                                                                      
 #define ON_CBN_DROPDOWN(id, member) ON_CONTROL(CBN_DROPDOWN, id, member)
 #define ON_CBN_CLOSEUP(id, member) ON_CONTROL(CBN_CLOSEUP, id, member)
 #define ON_STN_CLICKED(id, member) ON_CONTROL(STN_CLICKED, id, member)
+/** @} */
 
 // Any message, by its number or by the variable that holds a registered one.
+/// Any message by its number: `LRESULT OnX(WPARAM wParam, LPARAM lParam)`. The answer is the message's result.
+/// @ingroup framework_messages
 #define ON_MESSAGE(message, member) AFX_MESSAGE_ENTRY(message, Raw, member)
+/// A message of RegisterWindowMessage by the variable of static storage that holds its number; the handler is as that
+/// of ON_MESSAGE.
+/// @ingroup framework_messages
 #define ON_REGISTERED_MESSAGE(variable, member)                                                                        \
     {AFX_REGISTERED_MESSAGE, 0, 0, 0, AFX_MESSAGE_THUNK(Raw, member), &(variable)},
 
+/** @{ */
+/// The message of that name: calls the member of the class that has name and signature of CWnd's handler for it,
+/// ON_WM_LBUTTONDOWN for example `void OnLButtonDown(UINT nFlags, CPoint point)`.
 // Windows: life, size, focus, activation.
 #define ON_WM_CREATE() AFX_MESSAGE_ENTRY(WM_CREATE, Create, &ThisClass::OnCreate)
 #define ON_WM_NCCREATE() AFX_MESSAGE_ENTRY(WM_NCCREATE, NcCreate, &ThisClass::OnNcCreate)
@@ -530,11 +600,24 @@ protected:                                                                      
 #define ON_WM_EXITMENULOOP() AFX_MESSAGE_ENTRY(WM_EXITMENULOOP, Flag, &ThisClass::OnExitMenuLoop)
 #define ON_WM_SYSCOMMAND() AFX_MESSAGE_ENTRY(WM_SYSCOMMAND, SystemCommand, &ThisClass::OnSysCommand)
 
+/** @} */
+
 // Messages that the parent hands back to the control that caused them.
+/// In a control's own class, its own colours: `HBRUSH CtlColor(CDC* pDC, UINT nCtlColor)`. Null leaves them to the
+/// parent.
+/// @ingroup framework_messages
 #define ON_WM_CTLCOLOR_REFLECT() AFX_MESSAGE_ENTRY(WM_CTLCOLOR + WM_REFLECT_BASE, ReflectedColor, &ThisClass::CtlColor)
+/// In a control's own class, one of its items has to be drawn: `void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)`.
+/// @ingroup framework_messages
 #define ON_WM_DRAWITEM_REFLECT()                                                                                       \
     AFX_MESSAGE_ENTRY(WM_DRAWITEM + WM_REFLECT_BASE, ReflectedDrawItem, &ThisClass::DrawItem)
+/// In a control's own class, the size of its items: `void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct)`.
+/// @ingroup framework_messages
 #define ON_WM_MEASUREITEM_REFLECT()                                                                                    \
     AFX_MESSAGE_ENTRY(WM_MEASUREITEM + WM_REFLECT_BASE, ReflectedMeasureItem, &ThisClass::MeasureItem)
+/// In a horizontal scroll bar's own class: `void HScroll(UINT nSBCode, UINT nPos)`.
+/// @ingroup framework_messages
 #define ON_WM_HSCROLL_REFLECT() AFX_MESSAGE_ENTRY(WM_HSCROLL + WM_REFLECT_BASE, ReflectedScroll, &ThisClass::HScroll)
+/// In a vertical scroll bar's own class: `void VScroll(UINT nSBCode, UINT nPos)`.
+/// @ingroup framework_messages
 #define ON_WM_VSCROLL_REFLECT() AFX_MESSAGE_ENTRY(WM_VSCROLL + WM_REFLECT_BASE, ReflectedScroll, &ThisClass::VScroll)

@@ -1,4 +1,5 @@
-// afxstr.h - the string class.
+/// @file
+/// The string class.
 #pragma once
 
 #include "../core/CString.h"

@@ -1,4 +1,5 @@
-// afxwin.h - windows, menus, controls, frames, dialogs, the application object; and everything of afx.h.
+/// @file
+/// Windows, menus, controls, frames, dialogs, the application object; and everything of afx.h.
 #pragma once
 
 #include "afx.h"

@@ -1,4 +1,5 @@
-// atltypes.h - points, sizes and rectangles.
+/// @file
+/// Points, sizes and rectangles.
 #pragma once
 
 #include "../core/Geometry.h"

@@ -4,7 +4,7 @@
 #   bin                          DLLs, those of the compiler's runtime and Boost.Locale among them; locale/
 #   lib, lib/cmake/KyControls    import libraries, the entry point's library, the package's description
 #   include/kycontrols           framework/, toolkit/, ky/: each house's headers, in folders as in the source
-#   share/doc/kycontrols         how to use it; licenses/
+#   share/doc/kycontrols         how to use it; reference/, the pages of every class; licenses/
 include(CMakePackageConfigHelpers)
 
 include(KyPublicHeaders)
@@ -40,6 +40,8 @@ install(FILES ${CMAKE_BINARY_DIR}/KyControlsConfig.cmake ${CMAKE_BINARY_DIR}/KyC
 install(PROGRAMS ${KY_RUNTIME_DLLS} DESTINATION bin)
 install(DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/locale DESTINATION bin)
 install(FILES docs/using.md DESTINATION share/doc/kycontrols)
+# The reference pages, where tools/reference has made them, as tools/package lets it do.
+install(DIRECTORY build/reference/html/ DESTINATION share/doc/kycontrols/reference OPTIONAL)
 
 # Notices, by the Debian package that each shipped library comes from. Debian refers to the long texts of the GNU
 # licences, which Windows does not have; they go along.

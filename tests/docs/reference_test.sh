@@ -79,4 +79,37 @@ END
 check_equal "a header without a @file comment fails" 1 "$code"
 check_contains "the header is named" "framework/include/afx.h:1: has no @file comment" "$output"
 
+reference_of <<'END'
+/// @file
+/// Houses.
+
+///@{
+/// Warm ones.
+int huts();
+int sheds();
+///@}
+
+/// @addtogroup framework
+/// @{
+
+/** @{ */
+/// Cold ones.
+int barns();
+int stables();
+/** @} */
+
+/// @}
+
+/** @{ */
+/// Small ones.
+/// @ingroup framework
+int tents();
+int kennels();
+/** @} */
+END
+check_equal "words that members share, written so that Doxygen mixes them up, fail" 1 "$code"
+check_contains "the short mark" "framework/include/afx.h:4: members that share their words stand between" "$output"
+check_contains "inside a topic" "framework/include/afx.h:13: members that share their words cannot do so" "$output"
+check_contains "naming a topic" "framework/include/afx.h:23: members that share their words cannot name" "$output"
+
 check_end

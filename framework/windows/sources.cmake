@@ -10,4 +10,5 @@ list(APPEND kyframework_windows_SOURCES
     windows/CWndMessages.cpp
     windows/CWndModal.cpp
     windows/CWndPlacement.cpp
+    windows/WindowDpi.cpp
     windows/WindowState.cpp)

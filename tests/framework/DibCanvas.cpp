@@ -2,6 +2,7 @@
 #include "DibCanvas.h"
 
 #include <algorithm>
+#include <vector>
 
 DibCanvas::DibCanvas(int width, int height, COLORREF background) : m_width(width), m_height(height) {
     BITMAPINFO info{};
@@ -41,4 +42,30 @@ CRect DibCanvas::BoxOf(COLORREF color) const {
             if (At(x, y) == color)
                 box |= CRect(x, y, x + 1, y + 1);
     return box;
+}
+
+bool DibCanvas::SaveAs(LPCTSTR path) const {
+    ::GdiFlush();
+    BITMAPFILEHEADER file{};
+    BITMAPINFOHEADER info{};
+    file.bfType = 0x4D42; // "BM"
+    file.bfOffBits = sizeof(file) + sizeof(info);
+    info.biSize = sizeof(info);
+    info.biWidth = m_width;
+    info.biHeight = -m_height;
+    info.biPlanes = 1;
+    info.biBitCount = 32;
+    const UINT size = static_cast<UINT>(m_width * m_height) * sizeof(DWORD);
+    file.bfSize = file.bfOffBits + size;
+    CFile output;
+    if (!output.Open(path, CFile::modeCreate | CFile::modeWrite))
+        return false;
+    output.Write(&file, sizeof(file));
+    output.Write(&info, sizeof(info));
+    // Drawing leaves anything in the fourth byte, which some readers take for a transparency.
+    std::vector<DWORD> pixels(m_pixels, m_pixels + m_width * m_height);
+    for (DWORD& pixel : pixels)
+        pixel &= 0xFFFFFF;
+    output.Write(pixels.data(), size);
+    return true;
 }

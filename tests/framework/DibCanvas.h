@@ -17,6 +17,8 @@ public:
     int Count(COLORREF color) const;
     /// The smallest rectangle around all pixels of that colour.
     CRect BoxOf(COLORREF color) const;
+    /// Writes the picture as a .bmp file; false when that fails.
+    bool SaveAs(LPCTSTR path) const;
 
 private:
     int m_width;

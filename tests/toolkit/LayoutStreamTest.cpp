@@ -63,6 +63,50 @@ TEST(LayoutStream, HasTheDocumentedBytes) {
     EXPECT_EQ(bytes, Patched(expected, 6, static_cast<std::uint32_t>(expected.size() - HeaderSize), 4));
 }
 
+TEST(LayoutStream, KeepsTheResolutionBehindTheSectionsThatOlderReadersKnow) {
+    ReportLayout layout = ThreeColumns();
+    const auto without = Encode(layout);
+    layout.dpi = 144;
+    const auto with = Encode(layout);
+    EXPECT_EQ(Decode(with).layout, layout);
+    const std::vector<std::uint8_t> section = {4, 0, 4, 0, 0, 0, 144, 0, 0, 0};
+    ASSERT_EQ(with.size(), without.size() + section.size());
+    EXPECT_TRUE(std::equal(section.begin(), section.end(), with.end() - 10));
+    EXPECT_TRUE(std::equal(without.begin() + HeaderSize, without.end(), with.begin() + HeaderSize));
+    EXPECT_EQ(Decode(without).layout.dpi, 0) << "a stream of before";
+}
+
+TEST(LayoutStream, RefusesAResolutionThatIsNone) {
+    ReportLayout layout = ThreeColumns();
+    layout.dpi = 96;
+    const auto bytes = Encode(layout);
+    for (const std::uint32_t dpi : {0u, MaxDpi + 1, 0xFFFFFFFFu})
+        EXPECT_EQ(Decode(Patched(bytes, bytes.size() - 4, dpi, 4)).status, Status::Broken) << dpi;
+    EXPECT_EQ(Decode(Patched(bytes, bytes.size() - 4, MaxDpi, 4)).status, Status::Ok);
+}
+
+TEST(LayoutStream, ScalesWidthsToTheResolutionOfTheGrid) {
+    ReportLayout layout = ThreeColumns(); // 120, 80 and 60 pixels wide
+    layout.dpi = 144;
+    const auto widths = [&layout](int dpi) {
+        std::vector<int> result;
+        for (const auto& column : ApplyLayout(layout, LiveThree(), dpi).columns)
+            result.push_back(column.width);
+        return result;
+    };
+    EXPECT_EQ(widths(96), (std::vector<int>{80, 53, 40}));
+    EXPECT_EQ(widths(144), (std::vector<int>{120, 80, 60}));
+    EXPECT_EQ(widths(288), (std::vector<int>{240, 160, 120}));
+    EXPECT_EQ(widths(0), (std::vector<int>{120, 80, 60})) << "not known";
+    layout.columns[0].width = 2000000000;
+    EXPECT_EQ(widths(9600)[0], 500) << "the column's largest width";
+    layout.columns[0].width = -2000000000;
+    EXPECT_EQ(widths(9600)[0], 10);
+    layout.dpi = 0;
+    layout.columns[0].width = 120;
+    EXPECT_EQ(widths(96)[0], 120) << "a layout of before";
+}
+
 TEST(LayoutStream, LeavesWhatFollowsTheStreamAlone) {
     auto bytes = Encode(ThreeColumns());
     bytes.push_back(0xFF);

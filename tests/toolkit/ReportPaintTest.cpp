@@ -8,6 +8,8 @@ protected:
     PaintTest() {
         m_grid.SetTheme(xtpReportThemeWindows7);
         m_look = m_grid.GetPaintManager();
+        m_grid.MoveWindow(0, 0, Width, HeaderHeight() + VisibleRows * RowHeight());
+        Settle();
     }
     CXTPReportPaintManager* m_look;
 };
@@ -162,18 +164,173 @@ TEST_F(PaintTest, AHyperlinkIsUnderlinedAndKnowsItsPlace) {
 }
 
 TEST_F(PaintTest, SortedColumnsHaveAnArrowBesideTheCaption) {
+    m_look->SetColumnStyle(xtpReportColumnFlat);
+    m_look->m_clrSortArrow = RGB(1, 2, 3);
     AddRecords(2);
-    const int before = Printed()->Count(m_look->m_clrSortArrow);
+    EXPECT_EQ(Printed()->Count(RGB(1, 2, 3)), 0);
     m_grid.GetColumns()->SetSortColumn(m_columns[0], TRUE);
     const auto up = Printed();
-    EXPECT_EQ(up->Count(m_look->m_clrSortArrow) - before, 1 + 3 + 5 + 7);
+    EXPECT_EQ(up->Count(RGB(1, 2, 3)), 1 + 3 + 5 + 7);
+    EXPECT_EQ(up->BoxOf(RGB(1, 2, 3)).right, 99 - m_look->GetCellPadding());
     m_columns[0]->SetSortIncreasing(FALSE);
     const auto down = Printed();
-    EXPECT_EQ(down->Count(m_look->m_clrSortArrow) - before, 1 + 3 + 5 + 7);
+    EXPECT_EQ(down->Count(RGB(1, 2, 3)), 1 + 3 + 5 + 7);
+    EXPECT_EQ(down->BoxOf(RGB(1, 2, 3)), up->BoxOf(RGB(1, 2, 3)));
     EXPECT_GT(Difference(*up, *down), 0);
     m_columns[0]->SetWidth(2 * m_look->GetCellPadding() + m_look->GetSortArrowSpace());
-    EXPECT_EQ(Printed()->Count(m_look->m_clrSortArrow), before) << "no room for the arrow and a letter";
+    EXPECT_EQ(Printed()->Count(RGB(1, 2, 3)), 0) << "no room for the arrow and a letter";
 }
+
+TEST_F(PaintTest, ExplorerColumnsHaveTheirArrowAboveTheCaption) {
+    m_look->m_clrSortArrow = RGB(1, 2, 3);
+    AddRecords(2);
+    EXPECT_EQ(m_look->GetSortArrowSpace(), 0);
+    m_grid.GetColumns()->SetSortColumn(m_columns[0], TRUE);
+    const auto picture = Printed();
+    EXPECT_EQ(picture->BoxOf(RGB(1, 2, 3)), CRect(46, 1, 53, 5)) << "in the middle of 100 pixels, at the top";
+    EXPECT_EQ(picture->Count(RGB(1, 2, 3)), 1 + 3 + 5 + 7);
+}
+
+TEST_F(PaintTest, SortedColumnsAreTintedUnlessTheyAreHot) {
+    AddRecords(2);
+    const int y = HeaderHeight() - 5;
+    const COLORREF idle = Printed()->At(20, y);
+    m_grid.GetColumns()->SetSortColumn(m_columns[0], TRUE);
+    const COLORREF sorted = Printed()->At(20, y);
+    EXPECT_NE(sorted, idle);
+    EXPECT_EQ(Printed()->At(120, y), idle) << "another column";
+    Move(HeaderOf(0), 0);
+    EXPECT_NE(Printed()->At(20, y), sorted);
+    EXPECT_NE(Printed()->At(20, y), idle);
+}
+
+TEST_F(PaintTest, ShadedColumnsSinkWhenPressed) {
+    m_look->SetColumnStyle(xtpReportColumnShaded);
+    m_look->m_clrHeaderText = RGB(1, 2, 3);
+    m_columns[1]->SetCaption(_T(""));
+    m_columns[2]->SetCaption(_T(""));
+    const CRect idle = Printed()->BoxOf(RGB(1, 2, 3));
+    ASSERT_FALSE(idle.IsRectEmpty());
+    Press(HeaderOf(0));
+    CRect sunk(idle);
+    sunk.OffsetRect(1, 1);
+    EXPECT_EQ(Printed()->BoxOf(RGB(1, 2, 3)), sunk);
+    Release(HeaderOf(1));
+    EXPECT_EQ(Printed()->BoxOf(RGB(1, 2, 3)), idle);
+}
+
+// --- Alternate rows -------------------------------------------------------------------------------------------------
+
+TEST_F(PaintTest, EverySecondRowMayHaveABackgroundOfItsOwn) {
+    AddRecords(4);
+    EXPECT_FALSE(m_look->IsAlternateRowBackground());
+    EXPECT_EQ(Printed()->Count(m_look->m_clrAlternateRow), 0);
+    m_look->UseAlternateRowBackground(TRUE);
+    const auto picture = Printed();
+    for (int row = 0; row < 4; ++row) {
+        const COLORREF expected = row % 2 == 1 ? m_look->m_clrAlternateRow : m_look->m_clrWindow;
+        for (const int x : {1, 101, Width - 1})
+            EXPECT_EQ(picture->At(x, HeaderHeight() + row * RowHeight() + 1), expected) << row << " at " << x;
+    }
+    EXPECT_EQ(picture->At(1, HeaderHeight() + 5 * RowHeight() + 1), COLORREF(m_look->m_clrWindow)) << "below the rows";
+}
+
+TEST_F(PaintTest, AlternateRowsHideNeitherItemBackgroundsNorTheSelection) {
+    AddRecords(4);
+    m_look->UseAlternateRowBackground(TRUE);
+    Item(1, 1)->SetBackgroundColor(RGB(255, 255, 255));
+    m_grid.GetSelectedRows()->Add(m_grid.GetRows()->GetAt(3));
+    const auto picture = Printed();
+    const int second = HeaderHeight() + RowHeight() + 1;
+    EXPECT_EQ(picture->At(101, second), RGB(255, 255, 255));
+    EXPECT_EQ(picture->At(1, second), COLORREF(m_look->m_clrAlternateRow));
+    EXPECT_EQ(picture->At(1, second + 2 * RowHeight()), COLORREF(m_look->m_clrHighlight));
+}
+
+TEST_F(PaintTest, AlternateRowsScrollWithTheirRecordsAndOutliveTheTheme) {
+    AddRecords(100);
+    m_look->UseAlternateRowBackground(TRUE);
+    m_grid.RedrawControl();
+    m_grid.UpdateWindow();
+    m_grid.SetTopRow(3);
+    EXPECT_EQ(OnScreen()->At(1, HeaderHeight() + 1), COLORREF(m_look->m_clrAlternateRow));
+    EXPECT_EQ(Difference(*OnScreen(), *Printed()), 0);
+    m_grid.SetTheme(xtpReportThemeResource);
+    EXPECT_TRUE(m_grid.GetPaintManager()->IsAlternateRowBackground());
+}
+
+// --- High contrast --------------------------------------------------------------------------------------------------
+
+/// A paint manager for a system whose high contrast the test switches.
+class ContrastLook : public CXTPReportPaintManager {
+public:
+    using CXTPReportPaintManager::CXTPReportPaintManager;
+    static inline BOOL isOn = FALSE;
+
+protected:
+    BOOL IsHighContrast() const override { return isOn; }
+};
+
+class ContrastTest : public PaintTest, public ::testing::WithParamInterface<std::tuple<int, int>> {
+protected:
+    ContrastTest() {
+        const auto [theme, style] = GetParam();
+        ContrastLook::isOn = FALSE;
+        m_look = new ContrastLook(static_cast<XTPReportPaintTheme>(theme));
+        m_grid.SetPaintManager(m_look);
+        m_look->SetColumnStyle(static_cast<XTPReportColumnStyle>(style));
+        AddRecords(3);
+    }
+    ~ContrastTest() override { ContrastLook::isOn = FALSE; }
+};
+
+TEST_P(ContrastTest, HighContrastReplacesEveryColourByOneOfTheSystem) {
+    m_look->UseAlternateRowBackground(TRUE);
+    m_grid.GetColumns()->SetSortColumn(m_columns[0], TRUE);
+    const auto ordinary = Printed();
+    ContrastLook::isOn = TRUE;
+    EXPECT_EQ(Difference(*Printed(), *ordinary), 0) << "before the system says so";
+    m_grid.SendMessage(WM_SETTINGCHANGE, SPI_SETHIGHCONTRAST);
+
+    const CXTPReportPaintManager& look = *m_look;
+    const auto system = [](int index) { return ::GetSysColor(index); };
+    for (const CXTPPaintManagerColor& window : {look.m_clrWindow, look.m_clrAlternateRow, look.m_clrDisabledWindow})
+        EXPECT_EQ(COLORREF(window), system(COLOR_WINDOW));
+    EXPECT_EQ(COLORREF(look.m_clrWindowText), system(COLOR_WINDOWTEXT));
+    EXPECT_EQ(COLORREF(look.m_clrDisabledText), system(COLOR_GRAYTEXT));
+    EXPECT_EQ(COLORREF(look.m_clrGridLine), system(COLOR_GRAYTEXT));
+    EXPECT_EQ(COLORREF(look.m_clrHyperlink), system(COLOR_HOTLIGHT));
+    for (const CXTPPaintManagerColor& back : {look.m_clrHighlight, look.m_clrInactiveHighlight, look.m_clrDropMark})
+        EXPECT_EQ(COLORREF(back), system(COLOR_HIGHLIGHT));
+    for (const CXTPPaintManagerColor& text : {look.m_clrHighlightText, look.m_clrInactiveHighlightText})
+        EXPECT_EQ(COLORREF(text), system(COLOR_HIGHLIGHTTEXT));
+    for (const CXTPPaintManagerColor& face :
+         {look.m_clrHeader, look.m_clrHeaderLight, look.m_clrHeaderSorted, look.m_clrHeaderSortedLight,
+          look.m_clrHeaderHot, look.m_clrHeaderHotLight, look.m_clrHeaderPressed, look.m_clrHeaderPressedLight})
+        EXPECT_EQ(COLORREF(face), system(COLOR_BTNFACE));
+    for (const CXTPPaintManagerColor& text : {look.m_clrHeaderText, look.m_clrSortArrow})
+        EXPECT_EQ(COLORREF(text), system(COLOR_BTNTEXT));
+    for (const CXTPPaintManagerColor& line : {look.m_clrHeaderDivider, look.m_clrHeaderLine})
+        EXPECT_EQ(COLORREF(line), system(COLOR_WINDOWFRAME));
+    EXPECT_EQ(COLORREF(look.m_clrHeaderFrame), system(COLOR_HIGHLIGHT));
+    EXPECT_EQ(COLORREF(look.m_clrFocusFrame), CXTPPaintManagerColor::Unset) << "the system's dotted rectangle";
+    EXPECT_GT(Difference(*Printed(), *ordinary), 0);
+
+    ContrastLook::isOn = FALSE;
+    m_grid.SendMessage(WM_SYSCOLORCHANGE);
+    EXPECT_EQ(Difference(*Printed(), *ordinary), 0);
+}
+
+TEST_P(ContrastTest, HighContrastIsTheSameInEveryTheme) {
+    ContrastLook::isOn = TRUE;
+    m_grid.SendMessage(WM_SETTINGCHANGE, SPI_SETHIGHCONTRAST);
+    Move(HeaderOf(1), 0);
+    const COLORREF frame = ::GetSysColor(COLOR_HIGHLIGHT);
+    EXPECT_EQ(Printed()->BoxOf(frame), CRect(100, 0, 179, HeaderHeight() - 1)) << "around the hot column";
+}
+
+INSTANTIATE_TEST_SUITE_P(Looks, ContrastTest,
+                         ::testing::Combine(::testing::Values(0, 1, 4, 8, 9), ::testing::Range(0, 5)));
 
 TEST_F(PaintTest, EveryThemeAndEveryColumnStyleLooksDifferent) {
     AddRecords(3);
@@ -230,8 +387,14 @@ TEST_F(PaintTest, ADisabledGridIsGrey) {
     AddRecords(1);
     m_look->m_clrDisabledText = RGB(7, 8, 9);
     EXPECT_EQ(Printed()->Count(RGB(7, 8, 9)), 0);
+    m_look->m_clrDisabledWindow = RGB(200, 201, 202);
+    m_look->m_clrWindow = RGB(9, 10, 11);
     m_grid.EnableWindow(FALSE);
-    EXPECT_GT(OnScreen()->Count(RGB(7, 8, 9)), 0);
+    const auto picture = OnScreen();
+    EXPECT_GT(picture->Count(RGB(7, 8, 9)), 0);
+    EXPECT_EQ(picture->At(1, HeaderHeight() + 1), RGB(200, 201, 202));
+    EXPECT_EQ(picture->At(1, HeaderHeight() + 3 * RowHeight()), RGB(200, 201, 202)) << "below the rows";
+    EXPECT_EQ(picture->Count(RGB(9, 10, 11)), 0);
 }
 
 TEST_F(PaintTest, WhatIsPrintedIsWhatIsOnTheScreen) {

@@ -20,7 +20,9 @@ CXTPReportColumn::CXTPReportColumn(int nItemIndex, LPCTSTR strDisplayName, LPCTS
                                    BOOL bAutoSize, int nIconID, BOOL bSortable, BOOL bVisible)
     : m_strCaption(strDisplayName), m_strInternalName(strInternalName), m_nItemIndex(nItemIndex),
       m_nWidth(std::clamp(nWidth, m_nMinWidth, m_nMaxWidth)), m_nIconID(nIconID), m_bAutoSize(bAutoSize),
-      m_bSortable(bSortable), m_bVisible(bVisible) {}
+      m_bSortable(bSortable), m_bVisible(bVisible) {
+    m_setWidth = {m_nWidth};
+}
 
 CXTPReportControl* CXTPReportColumn::GetControl() const { return m_pColumns ? m_pColumns->GetControl() : nullptr; }
 
@@ -46,20 +48,53 @@ void CXTPReportColumn::Set(T& member, const U& value, Effect effect) {
 
 void CXTPReportColumn::SetCaption(LPCTSTR strCaption) { Set(m_strCaption, CString(strCaption), Effect::Look); }
 
+int CXTPReportColumn::GetDpi() const {
+    const CXTPReportControl* const pControl = GetControl();
+    return pControl ? pControl->GetPaintManager()->GetDpi() : 0;
+}
+
 void CXTPReportColumn::SetWidth(int nWidth) {
-    Set(m_nWidth, std::clamp(nWidth, m_nMinWidth, m_nMaxWidth), Effect::Layout);
+    nWidth = std::clamp(nWidth, m_nMinWidth, m_nMaxWidth);
+    if (nWidth != m_nWidth)
+        m_setWidth = {nWidth, GetDpi()};
+    Set(m_nWidth, nWidth, Effect::Layout);
+}
+
+void CXTPReportColumn::RestoreWidth(const DpiLength& width) {
+    m_setWidth = width;
+    Set(m_nWidth, std::clamp(width.At(GetDpi()), m_nMinWidth, m_nMaxWidth), Effect::Layout);
 }
 
 void CXTPReportColumn::SetMinWidth(int nMinWidth) {
     m_nMinWidth = std::max(nMinWidth, 0);
-    m_nMaxWidth = std::max(m_nMaxWidth, m_nMinWidth);
+    m_setMinWidth = {m_nMinWidth, GetDpi()};
+    if (m_nMaxWidth < m_nMinWidth) {
+        m_nMaxWidth = m_nMinWidth;
+        m_setMaxWidth = m_setMinWidth;
+    }
     SetWidth(m_nWidth);
 }
 
 void CXTPReportColumn::SetMaxWidth(int nMaxWidth) {
     m_nMaxWidth = std::max(nMaxWidth, 0);
-    m_nMinWidth = std::min(m_nMinWidth, m_nMaxWidth);
+    m_setMaxWidth = {m_nMaxWidth, GetDpi()};
+    if (m_nMinWidth > m_nMaxWidth) {
+        m_nMinWidth = m_nMaxWidth;
+        m_setMinWidth = m_setMaxWidth;
+    }
     SetWidth(m_nWidth);
+}
+
+void CXTPReportColumn::FollowDpi() {
+    const int dpi = GetDpi();
+    for (DpiLength* length : {&m_setMinWidth, &m_setMaxWidth, &m_setWidth}) {
+        if (length->dpi == 0)
+            length->dpi = dpi;
+    }
+    // Both limits are rounded alike, so that they stay in order.
+    m_nMinWidth = m_setMinWidth.At(dpi);
+    m_nMaxWidth = m_setMaxWidth.At(dpi);
+    m_nWidth = std::clamp(m_setWidth.At(dpi), m_nMinWidth, m_nMaxWidth);
 }
 
 void CXTPReportColumn::SetAlignment(int nAlignment) { Set(m_nAlignment, nAlignment, Effect::Look); }

@@ -2,12 +2,14 @@
 /// One column of a report control.
 #pragma once
 
+#include "DpiLength.h"
 #include "XTPReportDefines.h"
 
 /// A column: its caption, its width in pixels, and which item of each record it shows. Created by the host with `new`
 /// and owned by the control's column collection from `CXTPReportControl::AddColumn` on. Setters that change the look
 /// ask the control for a redraw, those that change widths or visibility for a new layout; they do nothing when the
-/// value stays the same.
+/// value stays the same. Widths are pixels at the resolution of the control's paint manager, before the column is added
+/// at that of the control which it will have; they follow when that changes, and are the same when it changes back.
 /// @ingroup toolkit_report
 class KY_TOOLKIT_API CXTPReportColumn : public CCmdTarget {
     DECLARE_DYNAMIC(CXTPReportColumn)
@@ -46,6 +48,9 @@ public:
     void SetMinWidth(int nMinWidth);                ///< negative limits count as 0
     int GetMaxWidth() const { return m_nMaxWidth; } ///< pixels
     void SetMaxWidth(int nMaxWidth);                ///< negative limits count as 0
+    /// The width together with the resolution for which it was set, to be put back as it was.
+    DpiLength GetSetWidth() const { return m_setWidth; }
+    void RestoreWidth(const DpiLength& width); ///< as `GetSetWidth` told it; clamped to the limits
 
     /// DT_LEFT, DT_CENTER or DT_RIGHT for the cells of the column.
     int GetAlignment() const { return m_nAlignment; }
@@ -94,12 +99,17 @@ private:
     void Changed(Effect effect);
     template <class T, class U>
     void Set(T& member, const U& value, Effect effect);
+    int GetDpi() const;
+    /// Takes the lengths that were set before the column had a control as lengths at the control's resolution, and
+    /// works out the present ones; the control lays out afterwards.
+    void FollowDpi();
 
     CXTPReportColumns* m_pColumns = nullptr;
     CString m_strCaption, m_strInternalName, m_strTooltip;
     int m_nItemIndex;
+    DpiLength m_setMinWidth{10}, m_setMaxWidth{32000}, m_setWidth;
     int m_nMinWidth = 10, m_nMaxWidth = 32000; // in front of the width, which is clamped to them from the start
-    int m_nWidth;
+    int m_nWidth;                              ///< the three as they are at the present resolution
     int m_nAlignment = DT_LEFT;
     int m_nHeaderAlignment = -1;
     int m_nIconID;

@@ -55,6 +55,7 @@ void CXTPReportColumns::Add(CXTPReportColumn* pColumn) {
     ASSERT(!pColumn->m_pColumns);
     m_columns.emplace_back(pColumn);
     pColumn->m_pColumns = this;
+    pColumn->FollowDpi();
     Changed();
 }
 
@@ -140,6 +141,11 @@ void CXTPReportColumns::Arrange(const std::vector<CXTPReportColumn*>& columns) {
         std::swap(m_columns[i], m_columns[nIndex]);
     }
     Changed();
+}
+
+void CXTPReportColumns::OnDpiChanged() {
+    for (const auto& column : m_columns)
+        column->FollowDpi();
 }
 
 void CXTPReportColumns::SetSortColumn(CXTPReportColumn* pColumn, BOOL bIncreasing) {

@@ -69,6 +69,8 @@ public:
     CXTPReportColumnOrder* GetGroupsOrder() { return &m_groupsOrder; }
 
     CXTPReportControl* GetControl() const { return m_pControl; } ///< the control that owns the collection
+    /// The resolution of the control's paint manager has changed: the widths follow. The control lays out afterwards.
+    void OnDpiChanged();
 
 private:
     struct Release {

@@ -6,7 +6,18 @@
 #include "ReportControlImpl.h"
 #include "ReportSort.h"
 
+#include "../../framework/windows/WindowDpi.h"
+
 #include <algorithm>
+
+// Windows 8.1 and 10 send these.
+#ifndef WM_DPICHANGED
+#define WM_DPICHANGED 0x02E0
+#endif
+#ifndef WM_DPICHANGED_BEFOREPARENT
+#define WM_DPICHANGED_BEFOREPARENT 0x02E2
+#define WM_DPICHANGED_AFTERPARENT 0x02E3
+#endif
 
 IMPLEMENT_DYNCREATE(CXTPReportControl, CWnd)
 
@@ -43,6 +54,9 @@ BEGIN_MESSAGE_MAP(CXTPReportControl, CWnd)
     ON_WM_ENABLE()
     ON_WM_SYSCOLORCHANGE()
     ON_WM_SETTINGCHANGE()
+    ON_MESSAGE(WM_DPICHANGED, &CXTPReportControl::OnDpiChanged)
+    ON_MESSAGE(WM_DPICHANGED_BEFOREPARENT, &CXTPReportControl::OnDpiChangedAroundParent)
+    ON_MESSAGE(WM_DPICHANGED_AFTERPARENT, &CXTPReportControl::OnDpiChangedAroundParent)
     ON_MESSAGE(WM_SETFONT, &CXTPReportControl::OnSetFont)
     ON_MESSAGE(WM_GETFONT, &CXTPReportControl::OnGetFont)
 END_MESSAGE_MAP()
@@ -75,7 +89,9 @@ CXTPReportControl::Impl::Impl(CXTPReportControl& owner)
       columns(std::make_unique<CXTPReportColumns>(&owner)), rows(std::make_unique<CXTPReportRows>(&owner)),
       selectedRows(std::make_unique<CXTPReportSelectedRows>(&owner)),
       records(std::make_unique<CXTPReportRecords>(&owner)),
-      header(std::make_unique<CXTPReportHeader>(&owner, columns.get())) {}
+      header(std::make_unique<CXTPReportHeader>(&owner, columns.get())) {
+    paintManager->SetControl(&owner);
+}
 
 CXTPReportControl::Impl::~Impl() = default;
 
@@ -99,12 +115,14 @@ BOOL CXTPReportControl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd
 
 void CXTPReportControl::PreSubclassWindow() {
     CWnd::PreSubclassWindow();
+    m_impl->FollowDpi(windowdpi::OfWindow(m_hWnd));
     AdjustLayout(); // a window that is taken over gets no WM_CREATE
 }
 
 int CXTPReportControl::OnCreate(LPCREATESTRUCT lpCreateStruct) {
     if (CWnd::OnCreate(lpCreateStruct) == -1)
         return -1;
+    m_impl->FollowDpi(windowdpi::OfWindow(m_hWnd));
     AdjustLayout();
     return 0;
 }
@@ -133,6 +151,7 @@ void CXTPReportControl::Populate() {
         m_impl->rows->Rebuild(reportsort::SortedVisibleRecords(*m_impl->records, *m_impl->columns));
     m_impl->focusedRow = keeper.Restore();
     AdjustLayout();
+    m_impl->chosenTopRow = m_impl->topRow;
 }
 
 void CXTPReportControl::ResetContent() {
@@ -158,12 +177,13 @@ void CXTPReportControl::OnRowRemoved(int nRowIndex) {
     focused = std::min(focused, m_impl->rows->GetCount() - 1);
     if (m_impl->topRow > nRowIndex)
         --m_impl->topRow;
+    m_impl->chosenTopRow = m_impl->topRow;
     AdjustLayout();
 }
 
 void CXTPReportControl::OnRowsCleared() {
     m_impl->focusedRow = -1;
-    m_impl->topRow = 0;
+    m_impl->topRow = m_impl->chosenTopRow = 0;
     m_impl->wantedRow = -1;
     AdjustLayout();
 }
@@ -195,20 +215,46 @@ void CXTPReportControl::SetReportHeader(CXTPReportHeader* pHeader) {
 void CXTPReportControl::SetPaintManager(CXTPReportPaintManager* pPaintManager) {
     if (!pPaintManager || pPaintManager == m_impl->paintManager.get())
         return;
-    m_impl->paintManager.reset(pPaintManager);
-    AdjustLayout();
+    m_impl->TakePaintManager(std::unique_ptr<CXTPReportPaintManager>(pPaintManager));
 }
 
 void CXTPReportControl::SetTheme(XTPReportPaintTheme theme, BOOL bRedraw) {
     auto paintManager = std::make_unique<CXTPReportPaintManager>(theme);
     paintManager->TakeOver(*m_impl->paintManager);
-    m_impl->paintManager = std::move(paintManager);
-    AdjustLayout();
+    m_impl->TakePaintManager(std::move(paintManager));
     if (bRedraw && m_hWnd)
         UpdateWindow();
 }
 
+void CXTPReportControl::Impl::TakePaintManager(std::unique_ptr<CXTPReportPaintManager> taken) {
+    const int dpi = paintManager->GetDpi();
+    paintManager = std::move(taken);
+    paintManager->SetControl(&control);
+    paintManager->SetDpi(dpi); // that of the window, whatever it was made for
+    control.AdjustLayout();
+}
+
 // --- What the system changes ----------------------------------------------------------------------------------------
+
+LRESULT CXTPReportControl::OnDpiChanged(WPARAM wParam, LPARAM) {
+    m_impl->FollowDpi(LOWORD(wParam));
+    return 0;
+}
+
+LRESULT CXTPReportControl::OnDpiChangedAroundParent(WPARAM, LPARAM) {
+    m_impl->FollowDpi(windowdpi::OfWindow(m_hWnd));
+    return 0;
+}
+
+void CXTPReportControl::Impl::FollowDpi(int dpi) {
+    if (dpi < 1 || dpi == paintManager->GetDpi())
+        return;
+    CancelGesture();
+    toolTips.CancelToolTips();
+    paintManager->SetDpi(dpi);
+    columns->OnDpiChanged();
+    control.AdjustLayout();
+}
 
 void CXTPReportControl::OnSysColorChange() {
     CWnd::OnSysColorChange();

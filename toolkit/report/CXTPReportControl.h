@@ -33,6 +33,10 @@
 /// height. `OnSelectionChanged` runs once per action of the user, and when the host focuses a row with its selection,
 /// not when the host changes `GetSelectedRows` or populates. Notifications (XTPReportDefines.h) are sent after what
 /// they tell of; the owner may change the content in them, and destroy the control.
+///
+/// Resolution. Fonts, heights, paddings and column widths are pixels at the resolution of the paint manager, which is
+/// that of the window's monitor. It follows what the system tells child windows; a parent on a system that tells only
+/// top-level windows passes its WM_DPICHANGED on. Going to another monitor and back changes nothing.
 /// @ingroup toolkit_report
 class KY_TOOLKIT_API CXTPReportControl : public CWnd {
     DECLARE_DYNCREATE(CXTPReportControl)
@@ -118,6 +122,7 @@ public:
     /// Writes or reads the layout: columns by identity with order, width and visibility, sort order and grouping.
     /// Reading checks the whole stream first and throws CArchiveException* on anything broken, before it changes
     /// anything; unknown columns are dropped, columns the stream does not know keep their state and go to the end.
+    /// Widths keep their proportions when they were written at another resolution.
     virtual void SerializeState(CArchive& ar);
 
     // --- Editing commands -----------------------------------------------------------------------------------------
@@ -185,7 +190,9 @@ protected:
     void OnEnable(BOOL bEnable);     ///< ends gestures; a disabled grid has grey texts
     void OnSysColorChange();         ///< the theme takes the new colours
     void OnSettingChange(UINT uFlags, LPCTSTR lpszSection); ///< the theme takes the new fonts and metrics
-    LRESULT OnPrintClient(CDC* pDC, UINT nFlags);           ///< draws the client area into `pDC`, whatever the flags
+    LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);     ///< a parent's WM_DPICHANGED, passed on: everything scales
+    LRESULT OnDpiChangedAroundParent(WPARAM wParam, LPARAM lParam); ///< the system's word to child windows
+    LRESULT OnPrintClient(CDC* pDC, UINT nFlags);    ///< draws the client area into `pDC`, whatever the flags
     LRESULT OnSetFont(WPARAM wParam, LPARAM lParam); ///< a copy of the font, for all texts; a null font changes nothing
     LRESULT OnGetFont(WPARAM wParam, LPARAM lParam); ///< the paint manager's font; not the handle that was set
     DECLARE_MESSAGE_MAP()

@@ -3,6 +3,8 @@
 
 #include "CXTPReportColumn.h"
 
+#include "../../framework/windows/WindowDpi.h"
+
 #include <algorithm>
 #include <cstdlib>
 
@@ -66,8 +68,9 @@ void CXTPReportControl::Impl::LayOut() {
         return;
     isLayingOut = true;
     FitBars();
-    topRow = RowGrid().ClampTopRow(topRow);
-    leftOffset = gridgeometry::ClampLeftOffset(leftOffset, header->GetTotalWidth(), ClientRect().Width());
+    topRow = RowGrid().ClampTopRow(chosenTopRow);
+    leftOffset = gridgeometry::ClampLeftOffset(chosenLeftOffset.At(paintManager->GetDpi()), header->GetTotalWidth(),
+                                               ClientRect().Width());
     header->AdjustLayout(control.GetHeaderRect());
     UpdateThumbs();
     movedRows.Clear();
@@ -78,8 +81,9 @@ void CXTPReportControl::Impl::FitBars() {
     if (!control.m_hWnd)
         return;
     // A bar that is there already has taken its room from the client area.
-    const int barWidth = ::GetSystemMetrics(SM_CXVSCROLL);
-    const int barHeight = ::GetSystemMetrics(SM_CYHSCROLL);
+    const int dpi = windowdpi::OfWindow(control.m_hWnd);
+    const int barWidth = windowdpi::SystemMetric(SM_CXVSCROLL, dpi);
+    const int barHeight = windowdpi::SystemMetric(SM_CYHSCROLL, dpi);
     const DWORD style = control.GetStyle();
     CRect rcView = ClientRect();
     rcView.right += style & WS_VSCROLL ? barWidth : 0;
@@ -157,7 +161,7 @@ void CXTPReportControl::Impl::ShowRow(int rowIndex) {
 
 void CXTPReportControl::Impl::ScrollRowsTo(std::int64_t top) {
     const int former = topRow;
-    topRow = RowGrid().ClampTopRow(top);
+    chosenTopRow = topRow = RowGrid().ClampTopRow(top);
     if (topRow == former)
         return;
     toolTips.CancelToolTips();
@@ -197,6 +201,7 @@ void CXTPReportControl::Impl::ScrollSidewaysTo(int offset) {
     leftOffset = gridgeometry::ClampLeftOffset(offset, header->GetTotalWidth(), ClientRect().Width());
     if (leftOffset == former)
         return;
+    chosenLeftOffset = {leftOffset, paintManager->GetDpi()};
     toolTips.CancelToolTips();
     header->AdjustLayout(control.GetHeaderRect());
     UpdateThumbs();

@@ -3,6 +3,7 @@
 
 #include "CXTPReportColumn.h"
 #include "CXTPReportColumns.h"
+#include "CXTPReportPaintManager.h"
 #include "LayoutStream.h"
 
 #include <algorithm>
@@ -24,8 +25,9 @@ std::vector<Key> DescribeOrder(const CXTPReportColumnOrder& order) {
     return keys;
 }
 
-ReportLayout DescribeLayout(CXTPReportColumns& columns) {
+ReportLayout DescribeLayout(CXTPReportColumns& columns, int dpi) {
     ReportLayout layout;
+    layout.dpi = dpi;
     for (int i = 0; i < columns.GetCount(); ++i) {
         const CXTPReportColumn* const column = columns.GetAt(i);
         layout.columns.push_back({ToUtf16(column->GetInternalName()), column->GetItemIndex(), column->GetWidth(),
@@ -104,11 +106,12 @@ ReportLayout ReadLayout(CArchive& ar) {
 
 void CXTPReportControl::SerializeState(CArchive& ar) {
     CXTPReportColumns& columns = *GetColumns();
+    const int dpi = GetPaintManager()->GetDpi();
     if (ar.IsStoring()) {
-        const std::vector<std::uint8_t> bytes = Encode(DescribeLayout(columns));
+        const std::vector<std::uint8_t> bytes = Encode(DescribeLayout(columns, dpi));
         ar.Write(bytes.data(), static_cast<UINT>(bytes.size()));
         return;
     }
-    ApplyPlan(ApplyLayout(ReadLayout(ar), DescribeLiveColumns(columns)), columns);
+    ApplyPlan(ApplyLayout(ReadLayout(ar), DescribeLiveColumns(columns), dpi), columns);
     Populate();
 }

@@ -67,7 +67,8 @@ CXTPReportColumn* CXTPReportHeader::HitTestDivider(CPoint ptPoint) const {
     const CRect rcHeader = m_pControl->GetHeaderRect();
     if (ptPoint.y < rcHeader.top || ptPoint.y >= rcHeader.bottom)
         return nullptr;
-    return m_pColumns->GetVisibleAt(gridgeometry::DividerAt(HeaderExtents(*this), ptPoint.x));
+    const int reach = m_pControl->GetPaintManager()->ScaleForDpi(gridgeometry::DividerReach);
+    return m_pColumns->GetVisibleAt(gridgeometry::DividerAt(HeaderExtents(*this), ptPoint.x, reach));
 }
 
 void CXTPReportHeader::BestFit(CXTPReportColumn* pColumn) {
@@ -90,9 +91,12 @@ void CXTPReportHeader::Draw(CDC* pDC, const CRect& rcHeader) {
         const CRect rcColumn = column->GetRect();
         if (!column->IsVisible() || rcColumn.right <= rcClip.left || rcColumn.left >= rcClip.right)
             continue;
-        paintManager->DrawColumnBackground(pDC, column, rcColumn, column == m_pHotColumn,
-                                           isPressedShown && column == m_pPressedColumn);
-        paintManager->DrawColumnCaption(pDC, column, rcColumn);
+        const bool isPressed = isPressedShown && column == m_pPressedColumn;
+        paintManager->DrawColumnBackground(pDC, column, rcColumn, column == m_pHotColumn, isPressed);
+        CRect rcCaption(rcColumn);
+        if (isPressed)
+            rcCaption.OffsetRect(paintManager->GetPressedOffset(), paintManager->GetPressedOffset());
+        paintManager->DrawColumnCaption(pDC, column, rcCaption);
         if (column == focused)
             paintManager->DrawFocusedColumn(pDC, rcColumn);
     }

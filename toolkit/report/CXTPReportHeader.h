@@ -2,6 +2,7 @@
 /// The strip of column headers above the rows.
 #pragma once
 
+#include "DpiLength.h"
 #include "XTPReportDefines.h"
 
 /// Lays out the columns, finds the column or divider under a point, and carries out what the user does there:
@@ -36,7 +37,8 @@ public:
 
     /// The visible column whose header cell contains the point; null if none.
     CXTPReportColumn* HitTest(CPoint ptPoint) const;
-    /// The column whose right divider is under the point (within 4 pixels) and that may be resized; null if none.
+    /// The column whose right divider is under the point (within 4 pixels at 96 DPI) and that may be resized; null if
+    /// none.
     CXTPReportColumn* HitTestDivider(CPoint ptPoint) const;
 
     /// Draws the strip; columns outside the clip box of `pDC` are left out.
@@ -105,6 +107,7 @@ private:
     bool m_bPressedInside = false; ///< the pointer is over the pressed column
     CPoint m_ptPress;
     CPoint m_ptDrag;
+    DpiLength m_resizeStart;
     int m_nResizeStartWidth = 0;
     int m_nDropPos = -1; ///< place among the visible columns before which the dragged column would land, −1 for none
 };

@@ -47,6 +47,7 @@ void CXTPReportHeader::BeginGesture(CXTPReportColumn* pColumn, CPoint ptPoint, X
     m_pPressedColumn = pColumn;
     m_bPressedInside = mode == xtpReportMousePrepareColumnDrag;
     m_ptPress = m_ptDrag = ptPoint;
+    m_resizeStart = pColumn->GetSetWidth();
     m_nResizeStartWidth = pColumn->GetWidth();
     m_nDropPos = -1;
     m_pControl->SetMouseMode(mode);
@@ -74,7 +75,7 @@ void CXTPReportHeader::EndGesture() {
 
 void CXTPReportHeader::OnCancelMode() {
     if (m_pControl->GetMouseMode() == xtpReportMouseColumnResize && m_pPressedColumn)
-        m_pPressedColumn->SetWidth(m_nResizeStartWidth);
+        m_pPressedColumn->RestoreWidth(m_resizeStart);
     EndGesture();
 }
 

@@ -7,6 +7,7 @@
 #include "ReportLook.h"
 
 #include "../../framework/gdi/SelectGuard.h"
+#include "../../framework/windows/WindowDpi.h"
 #include "../common/TextStateGuard.h"
 
 #include <algorithm>
@@ -19,6 +20,9 @@ using ColorMember = CXTPPaintManagerColor CXTPReportPaintManager::*;
 constexpr ColorMember RoleMembers[] = {
     &CXTPReportPaintManager::m_clrWindow,
     &CXTPReportPaintManager::m_clrWindowText,
+    &CXTPReportPaintManager::m_clrAlternateRow,
+    &CXTPReportPaintManager::m_clrDisabledWindow,
+    &CXTPReportPaintManager::m_clrDisabledText,
     &CXTPReportPaintManager::m_clrHighlight,
     &CXTPReportPaintManager::m_clrHighlightText,
     &CXTPReportPaintManager::m_clrInactiveHighlight,
@@ -26,10 +30,11 @@ constexpr ColorMember RoleMembers[] = {
     &CXTPReportPaintManager::m_clrFocusFrame,
     &CXTPReportPaintManager::m_clrGridLine,
     &CXTPReportPaintManager::m_clrHyperlink,
-    &CXTPReportPaintManager::m_clrDisabledText,
     &CXTPReportPaintManager::m_clrDropMark,
     &CXTPReportPaintManager::m_clrHeader,
     &CXTPReportPaintManager::m_clrHeaderLight,
+    &CXTPReportPaintManager::m_clrHeaderSorted,
+    &CXTPReportPaintManager::m_clrHeaderSortedLight,
     &CXTPReportPaintManager::m_clrHeaderHot,
     &CXTPReportPaintManager::m_clrHeaderHotLight,
     &CXTPReportPaintManager::m_clrHeaderPressed,
@@ -44,17 +49,13 @@ constexpr ColorMember RoleMembers[] = {
 static_assert(std::size(RoleMembers) == static_cast<std::size_t>(reportlook::Role::Count));
 
 // Lengths at 96 DPI.
-constexpr int CellPadding = 5;
-constexpr int RowSpacing = 3;    // above and below the text of a row
-constexpr int HeaderSpacing = 4; // above and below a caption
 constexpr int NoItemTextTop = 16;
 constexpr int FocusFrameWidth = 1;
 
 /// The user's font for message texts; 9 point Segoe UI when the system does not tell.
 LOGFONT SystemTextFont(int dpi) {
-    NONCLIENTMETRICS metrics = {};
-    metrics.cbSize = sizeof(metrics);
-    if (::SystemParametersInfo(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0))
+    NONCLIENTMETRICS metrics;
+    if (windowdpi::ReadNonClientMetrics(metrics, dpi))
         return metrics.lfMessageFont;
     LOGFONT font = {};
     font.lfHeight = -::MulDiv(9, dpi, 72);
@@ -71,7 +72,7 @@ bool IsDisabled(const CXTPReportControl* control) {
 } // namespace
 
 CXTPReportPaintManager::CXTPReportPaintManager(XTPReportPaintTheme theme)
-    : m_theme(theme), m_columnStyle(reportlook::LookOf(theme).columnStyle),
+    : m_theme(theme), m_columnStyle(reportlook::OwnColumnStyle(theme)), m_nDpi(windowdpi::OfSystem()),
       m_strNoItems(_T("There are no items to show.")), m_lfHost{} {
     CXTPReportPaintManager::RefreshMetrics();
 }
@@ -85,58 +86,94 @@ void CXTPReportPaintManager::RefreshMetrics() {
     MeasureFont();
 }
 
+BOOL CXTPReportPaintManager::IsHighContrast() const {
+    HIGHCONTRAST contrast = {};
+    contrast.cbSize = sizeof(contrast);
+    return ::SystemParametersInfo(SPI_GETHIGHCONTRAST, sizeof(contrast), &contrast, 0) &&
+           (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
+}
+
+reportlook::Look CXTPReportPaintManager::GetLook() const {
+    using reportlook::Contrast;
+    return reportlook::LookOf(m_theme, m_columnStyle, m_bHighContrast ? Contrast::High : Contrast::Ordinary);
+}
+
 void CXTPReportPaintManager::ApplyColors() {
-    const reportlook::ThemeLook& theme = reportlook::LookOf(m_theme);
-    const bool isOwnStyle = theme.ownHeader && m_columnStyle == theme.columnStyle;
-    const reportlook::HeaderColors& header = isOwnStyle ? *theme.ownHeader : reportlook::LookOf(m_columnStyle).colors;
+    m_bHighContrast = IsHighContrast() != FALSE;
+    const reportlook::Look look = GetLook();
     for (std::size_t role = 0; role < std::size(RoleMembers); ++role) {
         const bool isBody = role < reportlook::BodyRoles;
-        const LookColor& color = isBody ? theme.body[role] : header[role - reportlook::BodyRoles];
+        const LookColor& color = isBody ? (*look.body)[role] : look.header->colors[role - reportlook::BodyRoles];
         (this->*RoleMembers[role]).SetStandardValue(color.Resolve());
     }
 }
 
+LOGFONT CXTPReportPaintManager::MakeFont() const {
+    if (!m_bHostFont)
+        return SystemTextFont(m_nDpi);
+    LOGFONT font = m_lfHost;
+    font.lfHeight = DpiLength{static_cast<int>(font.lfHeight), m_nHostFontDpi}.At(m_nDpi);
+    return font;
+}
+
 void CXTPReportPaintManager::MeasureFont() {
     CClientDC dc(nullptr);
-    m_nDpi = dc.GetDeviceCaps(LOGPIXELSY);
-    LOGFONT font = m_bHostFont ? m_lfHost : SystemTextFont(m_nDpi);
+    LOGFONT font = MakeFont();
     m_fontText.DeleteObject();
     m_fontText.CreateFontIndirect(&font);
     font.lfWeight = FW_BOLD;
     m_fontBold.DeleteObject();
     m_fontBold.CreateFontIndirect(&font);
 
-    TEXTMETRIC metrics = {};
+    TEXTMETRIC text = {};
     const SelectGuard select(dc, m_fontText);
-    dc.GetTextMetrics(&metrics);
-    m_nTextHeight = metrics.tmHeight;
-    m_nTextAscent = metrics.tmAscent;
-    m_nCellPadding = ScaleForDpi(CellPadding);
-    m_nTextRowHeight = m_nTextHeight + 2 * ScaleForDpi(RowSpacing) + 1;
-    m_nHeaderHeight = m_nTextHeight + 2 * ScaleForDpi(HeaderSpacing) + 1;
+    dc.GetTextMetrics(&text);
+    const reportlook::BodyMetrics& metrics = *GetLook().metrics;
+    m_nTextHeight = text.tmHeight;
+    m_nTextAscent = text.tmAscent;
+    m_nCellPadding = ScaleForDpi(metrics.cellPadding);
+    m_nTextRowHeight = m_nTextHeight + 2 * ScaleForDpi(metrics.rowSpacing) + 1;
+    m_nHeaderHeight = m_nTextHeight + 2 * ScaleForDpi(metrics.headerSpacing) + 1;
 }
 
-int CXTPReportPaintManager::ScaleForDpi(int nPixels) const { return ::MulDiv(nPixels, m_nDpi, 96); }
+void CXTPReportPaintManager::SetDpi(int nDpi) {
+    if (nDpi < 1 || nDpi == m_nDpi)
+        return;
+    m_nDpi = nDpi;
+    MeasureFont();
+}
 
-int CXTPReportPaintManager::GetRowHeight() const { return m_nRowHeight > 0 ? m_nRowHeight : m_nTextRowHeight; }
+int CXTPReportPaintManager::ScaleForDpi(int nPixels) const {
+    return DpiLength{nPixels, windowdpi::Standard}.At(m_nDpi);
+}
 
-void CXTPReportPaintManager::SetRowHeight(int nHeight) { m_nRowHeight = std::max(nHeight, 0); }
+int CXTPReportPaintManager::GetRowHeight() const {
+    const int height = m_rowHeight.At(m_nDpi);
+    return height > 0 ? height : m_nTextRowHeight;
+}
+
+void CXTPReportPaintManager::SetRowHeight(int nHeight) { m_rowHeight = {std::max(nHeight, 0), m_nDpi}; }
 
 int CXTPReportPaintManager::GetHeaderHeight() const { return m_nHeaderHeight; }
 
 void CXTPReportPaintManager::SetTextFont(const LOGFONT& lf) {
     m_lfHost = lf;
+    m_nHostFontDpi = m_nDpi;
     m_bHostFont = true;
     MeasureFont();
 }
 
 void CXTPReportPaintManager::TakeOver(const CXTPReportPaintManager& former) {
-    m_nRowHeight = former.m_nRowHeight;
+    m_nDpi = former.m_nDpi;
+    m_rowHeight = former.m_rowHeight;
     m_gridVertical = former.m_gridVertical;
     m_gridHorizontal = former.m_gridHorizontal;
+    m_bAlternateRows = former.m_bAlternateRows;
     m_strNoItems = former.m_strNoItems;
-    if (former.m_bHostFont)
-        SetTextFont(former.m_lfHost);
+    m_bHostFont = former.m_bHostFont;
+    m_lfHost = former.m_lfHost;
+    m_nHostFontDpi = former.m_nHostFontDpi;
+    MeasureFont();
 }
 
 void CXTPReportPaintManager::SetColumnStyle(XTPReportColumnStyle style) {
@@ -156,7 +193,9 @@ int CXTPReportPaintManager::GetTextWidth(const CString& strText, BOOL bBold) con
 
 // --- Body -----------------------------------------------------------------------------------------------------------
 
-void CXTPReportPaintManager::FillBackground(CDC* pDC, const CRect& rc) { pDC->FillSolidRect(&rc, m_clrWindow); }
+void CXTPReportPaintManager::FillBackground(CDC* pDC, const CRect& rc) {
+    pDC->FillSolidRect(&rc, GetRowBackground(nullptr, IsDisabled(m_pControl)));
+}
 
 void CXTPReportPaintManager::DrawNoItemText(CDC* pDC, const CRect& rcReport) {
     if (m_strNoItems.IsEmpty())
@@ -174,14 +213,20 @@ void CXTPReportPaintManager::FillRowMetrics(CXTPReportRow* pRow, XTP_REPORTRECOR
     const CXTPReportControl* control = pRow ? pRow->GetControl() : nullptr;
     pMetrics->pFont = &m_fontText;
     pMetrics->clrForeground = m_clrWindowText;
-    pMetrics->clrBackground = m_clrWindow;
+    const bool isDisabled = IsDisabled(control);
+    pMetrics->clrBackground = GetRowBackground(pRow, isDisabled);
     if (pRow && pRow->IsSelected()) {
         const bool isActive = control && control->HasFocus();
         pMetrics->clrForeground = isActive ? m_clrHighlightText : m_clrInactiveHighlightText;
         pMetrics->clrBackground = isActive ? m_clrHighlight : m_clrInactiveHighlight;
     }
-    if (IsDisabled(control))
+    if (isDisabled)
         pMetrics->clrForeground = m_clrDisabledText;
+}
+
+COLORREF CXTPReportPaintManager::GetRowBackground(const CXTPReportRow* pRow, bool bDisabled) const {
+    const bool isAlternate = m_bAlternateRows && pRow && pRow->GetIndex() % 2 != 0;
+    return bDisabled ? m_clrDisabledWindow : isAlternate ? m_clrAlternateRow : m_clrWindow;
 }
 
 void CXTPReportPaintManager::DrawGridLines(CDC* pDC, const CRect& rcCell) {

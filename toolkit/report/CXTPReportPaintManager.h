@@ -2,14 +2,20 @@
 /// How a report control looks: colours and metrics of a theme, and the drawing of every part with them.
 #pragma once
 
+#include "DpiLength.h"
 #include "XTPReportDefines.h"
 
+namespace reportlook {
+struct Look;
+}
+
 /// Draws the parts of a report control. It never changes how the control behaves. Derive and hand to
-/// `CXTPReportControl::SetPaintManager` for a look of one's own. Metrics are pixels at the screen's DPI.
+/// `CXTPReportControl::SetPaintManager` for a look of one's own. Metrics are pixels at the resolution that `GetDpi`
+/// tells; the control sets it to that of its window and follows when the window moves to another monitor.
 ///
 /// Every colour has a standard value, which the theme and the column style give it, and may be overridden by the host;
 /// the override survives `SetColumnStyle` and `RefreshMetrics`. A colour that reads as `CXTPPaintManagerColor::Unset`
-/// is not drawn.
+/// is not drawn. While the system shows high contrast, every standard value is one of its colours, whatever the theme.
 /// @ingroup toolkit_report
 class KY_TOOLKIT_API CXTPReportPaintManager : public CCmdTarget {
 public:
@@ -18,6 +24,10 @@ public:
     explicit CXTPReportPaintManager(XTPReportPaintTheme theme = xtpReportThemeDefault);
     ~CXTPReportPaintManager() override;
 
+    /// The control that is drawn; set by the control as it takes the paint manager.
+    CXTPReportControl* GetControl() const { return m_pControl; }
+    void SetControl(CXTPReportControl* pControl) { m_pControl = pControl; } ///< called by the control
+
     /// Reads the system colours and fonts again and works out every metric.
     virtual void RefreshMetrics();
 
@@ -25,21 +35,32 @@ public:
     XTPReportColumnStyle GetColumnStyle() const { return m_columnStyle; } ///< as it was set last
     /// Styles without a look of their own look as xtpReportColumnShaded. The control shows it at its next redraw.
     void SetColumnStyle(XTPReportColumnStyle style);
+    /// Whether every second row has a background of its own, `m_clrAlternateRow`; at first not. Items with a background
+    /// of their own keep it, and so do selected rows. The control shows it at its next redraw.
+    void UseAlternateRowBackground(BOOL bUse) { m_bAlternateRows = bUse != FALSE; }
+    BOOL IsAlternateRowBackground() const { return m_bAlternateRows; } ///< as it was set last
 
     // --- Metrics ------------------------------------------------------------------------------------------------
+    /// Dots per inch; at first the resolution with which the program started.
+    int GetDpi() const { return m_nDpi; }
+    /// Fonts, row height and everything else follow, also what the host has set. Values below 1 are ignored. Called by
+    /// the control, whose columns and layout follow as well.
+    void SetDpi(int nDpi);
     /// From one row's upper edge to the next one's, the grid line included.
     virtual int GetRowHeight() const;
-    void SetRowHeight(int nHeight);      ///< 0: from the font
+    void SetRowHeight(int nHeight);      ///< pixels at the present resolution; 0: from the font
     virtual int GetHeaderHeight() const; ///< the line under the header included
     /// Space between the edge of a cell or header column and its text.
     int GetCellPadding() const { return m_nCellPadding; }
     /// The width that the sort arrow takes from a caption, its distance to the text included.
     int GetSortArrowSpace() const;
+    /// How far a caption moves right and down while its column is pressed, pixels.
+    int GetPressedOffset() const;
     /// Pixels for a length given at 96 DPI.
     int ScaleForDpi(int nPixels) const;
     CFont* GetTextFont() { return &m_fontText; }     ///< owned here; the host's, else the system's for message texts
     CFont* GetTextBoldFont() { return &m_fontBold; } ///< owned here; the text font with bold weight
-    /// Also gives the bold variant. Row and header heights follow.
+    /// Also gives the bold variant. Row and header heights follow. The height is that at the present resolution.
     void SetTextFont(const LOGFONT& lf);
     /// Of the lines between columns (`bVertical`) or between rows.
     XTPReportGridStyle GetGridStyle(BOOL bVertical) const { return bVertical ? m_gridVertical : m_gridHorizontal; }
@@ -48,7 +69,8 @@ public:
     /// Shown in the middle of a grid without rows.
     CString GetNoItemText() const { return m_strNoItems; }
     void SetNoItemText(LPCTSTR strText) { m_strNoItems = strText; } ///< wraps; empty shows nothing
-    /// Takes what the host has set on another paint manager: fonts, row height, grid lines, texts; but no colours.
+    /// Takes what was set on another paint manager: resolution, fonts, row height, grid lines, alternate rows, texts;
+    /// but no colours.
     void TakeOver(const CXTPReportPaintManager& former);
     /// Width of a text in one line, pixels.
     int GetTextWidth(const CString& strText, BOOL bBold = FALSE) const;
@@ -91,35 +113,42 @@ public:
     CXTPPaintManagerColor m_clrFocusFrame;            ///< around the focused row; unset: the system's dotted rectangle
     CXTPPaintManagerColor m_clrWindow;                ///< background of rows, and of the body without rows
     CXTPPaintManagerColor m_clrWindowText;            ///< text on it
+    CXTPPaintManagerColor m_clrAlternateRow;          ///< background of every second row, when that is asked for
+    CXTPPaintManagerColor m_clrDisabledWindow;        ///< background of a disabled control
     CXTPPaintManagerColor m_clrGridLine;              ///< lines between cells
     CXTPPaintManagerColor m_clrHyperlink;             ///< text and line of a hyperlink
     CXTPPaintManagerColor m_clrDisabledText;          ///< every text of a disabled control, and the empty text
     CXTPPaintManagerColor m_clrDropMark;              ///< where a dragged column would land
-    CXTPPaintManagerColor m_clrHeader;         ///< lower end of the header's gradient, which runs from light to dark
-    CXTPPaintManagerColor m_clrHeaderLight;    ///< its upper end
-    CXTPPaintManagerColor m_clrHeaderHot;      ///< lower end under the pointer
-    CXTPPaintManagerColor m_clrHeaderHotLight; ///< upper end under the pointer
-    CXTPPaintManagerColor m_clrHeaderPressed;  ///< lower end while pressed
+    CXTPPaintManagerColor m_clrHeader;            ///< lower end of the header's gradient, which runs from light to dark
+    CXTPPaintManagerColor m_clrHeaderLight;       ///< its upper end
+    CXTPPaintManagerColor m_clrHeaderSorted;      ///< lower end of a sorted column
+    CXTPPaintManagerColor m_clrHeaderSortedLight; ///< upper end of a sorted column
+    CXTPPaintManagerColor m_clrHeaderHot;         ///< lower end under the pointer
+    CXTPPaintManagerColor m_clrHeaderHotLight;    ///< upper end under the pointer
+    CXTPPaintManagerColor m_clrHeaderPressed;     ///< lower end while pressed
     CXTPPaintManagerColor m_clrHeaderPressedLight; ///< upper end while pressed
     CXTPPaintManagerColor m_clrHeaderDivider;      ///< at the right edge of a column; dark edge of a raised one
     CXTPPaintManagerColor m_clrHeaderDividerLight; ///< beside it in a second tone; light edge of a raised one
-    CXTPPaintManagerColor m_clrHeaderFrame;        ///< around a hot or pressed column; unset: no frame
+    CXTPPaintManagerColor m_clrHeaderFrame;        ///< around or under a hot or pressed column; unset: none
     CXTPPaintManagerColor m_clrHeaderLine;         ///< under the header
     CXTPPaintManagerColor m_clrHeaderText;         ///< captions
-    CXTPPaintManagerColor m_clrSortArrow;          ///< beside the caption of a sorted column
+    CXTPPaintManagerColor m_clrSortArrow;          ///< beside or above the caption of a sorted column
 
 protected:
+    /// Whether the user has switched high contrast on; asked by `RefreshMetrics` and `SetColumnStyle`.
+    virtual BOOL IsHighContrast() const;
     /// Draws `strText` in one line into `rcText` with the font selected into `pDC`.
     void DrawTextLine(CDC* pDC, const CString& strText, const CRect& rcText, int nAlignment) const;
 
+    CXTPReportControl* m_pControl = nullptr;                ///< the control that is drawn; null before one takes this
     XTPReportPaintTheme m_theme;                            ///< which colours the body has
     XTPReportColumnStyle m_columnStyle;                     ///< which colours and edges the header has
     CFont m_fontText;                                       ///< of every text that is not bold
     CFont m_fontBold;                                       ///< the same with bold weight
-    int m_nRowHeight = 0;                                   ///< pixels; 0: as the font needs it
+    DpiLength m_rowHeight;                                  ///< as the host has set it; 0: as the font needs it
     int m_nTextRowHeight = 0;                               ///< pixels that a row needs for the font
     int m_nHeaderHeight = 0;                                ///< pixels
-    int m_nDpi = 96;                                        ///< for which the metrics were worked out
+    int m_nDpi;                                             ///< for which the metrics were worked out
     int m_nTextHeight = 0;                                  ///< pixels from the top of the tallest letter to the lowest
     int m_nTextAscent = 0;                                  ///< pixels above the base line
     int m_nCellPadding = 0;                                 ///< pixels between an edge and the text
@@ -128,13 +157,21 @@ protected:
     CString m_strNoItems;                                     ///< shown when there are no rows
 
 private:
+    reportlook::Look GetLook() const;
+    LOGFONT MakeFont() const;
+    COLORREF GetRowBackground(const CXTPReportRow* pRow, bool bDisabled) const;
+    CSize GetArrowSize() const;
     void DrawLinkedText(CDC* pDC, const XTP_REPORTRECORDITEM_DRAWARGS& args, const CString& strText,
                         const CRect& rcText, int nAlignment) const;
     void ApplyColors();
     void MeasureFont();
     void DrawGridLine(CDC* pDC, const CRect& rcLine, XTPReportGridStyle style, const CRect& rcCell) const;
     void DrawColumnEdges(CDC* pDC, const CRect& rcColumn, BOOL bHot, BOOL bPressed) const;
+    void FillHeader(CDC* pDC, const CRect& rc, COLORREF clrLight, COLORREF clrDark) const;
 
+    bool m_bAlternateRows = false;
+    bool m_bHighContrast = false;
     LOGFONT m_lfHost;         ///< the host's font, when it has set one
+    int m_nHostFontDpi = 0;   ///< the resolution for which it was set
     bool m_bHostFont = false; ///< a font was set by `SetTextFont`
 };

@@ -11,13 +11,17 @@
 
 namespace {
 
+using reportlook::ArrowPlace;
+using reportlook::ArrowShape;
 using reportlook::HeaderEdge;
+using reportlook::HeaderFill;
 
 // Lengths at 96 DPI.
-constexpr int ArrowHeight = 4;
 constexpr int ArrowGap = 5; // between caption and arrow
-constexpr int DropMarkSize = 4;
+constexpr int ArrowTop = 1; // above an arrow that stands over the caption
+constexpr int HotLine = 2;  // under a hot column
 constexpr int FocusBarHeight = 2;
+constexpr int GlassEdge = 45; // where the upper part of a glass header ends, percent of its height
 
 void FillVertical(CDC* pDC, const CRect& rc, COLORREF top, COLORREF bottom) {
     if (rc.Width() <= 0 || rc.Height() <= 0)
@@ -45,46 +49,95 @@ void FillIfSet(CDC* pDC, int left, int top, int right, int bottom, COLORREF colo
         pDC->FillSolidRect(left, top, right - left, bottom - top, color);
 }
 
-/// A triangle of `size` lines, each two pixels longer than the one before, beginning at the tip.
-void DrawTriangle(CDC* pDC, int xTip, int yTip, int size, int yStep, COLORREF color) {
-    for (int i = 0; i < size; ++i)
-        pDC->FillSolidRect(xTip - i, yTip + i * yStep, 2 * i + 1, 1, color);
-}
+/// One of the arrows, standing on its tip at (xTip, yTip); `yStep` −1 turns it round. It has `lines` lines.
+struct Arrow {
+    CDC* pDC;
+    int xTip;
+    int yTip;
+    int lines;
+    int yStep;
+
+    int Y(int line) const { return yTip + line * yStep; }
+
+    void DrawFilled(COLORREF color) const {
+        for (int i = 0; i < lines; ++i)
+            pDC->FillSolidRect(xTip - i, Y(i), 2 * i + 1, 1, color);
+    }
+    /// Two strokes of `width` pixels.
+    void DrawChevron(COLORREF color, int width) const {
+        for (int i = 0; i < lines; ++i) {
+            pDC->FillSolidRect(xTip - i, Y(i), std::min(width, i + 1), 1, color);
+            pDC->FillSolidRect(xTip + i + 1 - std::min(width, i + 1), Y(i), std::min(width, i + 1), 1, color);
+        }
+    }
+    /// Half as wide as high on each side; the light falls from the upper left.
+    void DrawEtched(COLORREF light, COLORREF shadow) const {
+        const bool pointsUp = yStep > 0;
+        for (int i = 0; i < lines; ++i) {
+            const int half = i / 2;
+            pDC->FillSolidRect(xTip - half, Y(i), 1, 1, shadow);
+            pDC->FillSolidRect(xTip + half + 1, Y(i), 1, 1, light);
+        }
+        const int half = (lines - 1) / 2;
+        pDC->FillSolidRect(xTip - half, Y(lines - 1), 2 * half + 2, 1, pointsUp ? light : shadow);
+    }
+};
 
 } // namespace
+
+// --- Backgrounds ----------------------------------------------------------------------------------------------------
+
+void CXTPReportPaintManager::FillHeader(CDC* pDC, const CRect& rc, COLORREF clrLight, COLORREF clrDark) const {
+    if (GetLook().header->fill == HeaderFill::Gradient || clrLight == clrDark) {
+        FillVertical(pDC, rc, clrLight, clrDark);
+        return;
+    }
+    CRect rcUpper(rc), rcLower(rc);
+    rcUpper.bottom = rcLower.top = rc.top + rc.Height() * GlassEdge / 100;
+    FillVertical(pDC, rcUpper, clrLight, LookColor::Mix(clrLight, clrDark, 25));
+    FillVertical(pDC, rcLower, clrDark, LookColor::Mix(clrDark, clrLight, 30));
+}
 
 void CXTPReportPaintManager::DrawHeaderBackground(CDC* pDC, const CRect& rcHeader) {
     CRect rcFill(rcHeader);
     rcFill.bottom -= 1;
-    FillVertical(pDC, rcFill, m_clrHeaderLight, m_clrHeader);
+    FillHeader(pDC, rcFill, m_clrHeaderLight, m_clrHeader);
     FillIfSet(pDC, rcHeader.left, rcHeader.bottom - 1, rcHeader.right, rcHeader.bottom, m_clrHeaderLine);
-    if (reportlook::LookOf(m_columnStyle).edge == HeaderEdge::Raised)
+    if (GetLook().header->edge == HeaderEdge::Raised)
         FillIfSet(pDC, rcHeader.left, rcHeader.top, rcHeader.right, rcHeader.top + 1, m_clrHeaderDividerLight);
 }
 
-void CXTPReportPaintManager::DrawColumnBackground(CDC* pDC, CXTPReportColumn*, const CRect& rcColumn, BOOL bHot,
+void CXTPReportPaintManager::DrawColumnBackground(CDC* pDC, CXTPReportColumn* pColumn, const CRect& rcColumn, BOOL bHot,
                                                   BOOL bPressed) {
     CRect rcFill(rcColumn);
     rcFill.bottom -= 1;
     if (bPressed)
-        FillVertical(pDC, rcFill, m_clrHeaderPressedLight, m_clrHeaderPressed);
+        FillHeader(pDC, rcFill, m_clrHeaderPressedLight, m_clrHeaderPressed);
     else if (bHot)
-        FillVertical(pDC, rcFill, m_clrHeaderHotLight, m_clrHeaderHot);
+        FillHeader(pDC, rcFill, m_clrHeaderHotLight, m_clrHeaderHot);
+    else if (pColumn && pColumn->IsSorted())
+        FillHeader(pDC, rcFill, m_clrHeaderSortedLight, m_clrHeaderSorted);
     else
-        FillVertical(pDC, rcFill, m_clrHeaderLight, m_clrHeader);
+        FillHeader(pDC, rcFill, m_clrHeaderLight, m_clrHeader);
     FillIfSet(pDC, rcColumn.left, rcColumn.bottom - 1, rcColumn.right, rcColumn.bottom, m_clrHeaderLine);
     DrawColumnEdges(pDC, rcColumn, bHot, bPressed);
 }
 
 void CXTPReportPaintManager::DrawColumnEdges(CDC* pDC, const CRect& rcColumn, BOOL bHot, BOOL bPressed) const {
+    const reportlook::ColumnLook& look = *GetLook().header;
     const int left = rcColumn.left, top = rcColumn.top, right = rcColumn.right, line = rcColumn.bottom - 1;
     const COLORREF frame = bHot || bPressed ? COLORREF(m_clrHeaderFrame) : CXTPPaintManagerColor::Unset;
-    switch (reportlook::LookOf(m_columnStyle).edge) {
+    switch (look.edge) {
     case HeaderEdge::Raised: {
-        CRect rcEdge(left, top, right, line);
-        const COLORREF light = bPressed ? m_clrHeaderDivider : m_clrHeaderDividerLight;
-        const COLORREF dark = bPressed ? m_clrHeaderDividerLight : m_clrHeaderDivider;
-        pDC->Draw3dRect(&rcEdge, light, dark);
+        if (bPressed) {
+            pDC->Draw3dRect(left, top, right - left, line - top, m_clrHeaderDivider, m_clrHeaderDivider);
+            break;
+        }
+        FillIfSet(pDC, left, top, right, top + 1, m_clrHeaderDividerLight);
+        FillIfSet(pDC, left, top, left + 1, line, m_clrHeaderDividerLight);
+        FillIfSet(pDC, left + 1, line - 1, right - 1, line, m_clrHeaderDivider);
+        FillIfSet(pDC, right - 2, top + 1, right - 1, line, m_clrHeaderDivider);
+        FillIfSet(pDC, right - 1, top, right, line, m_clrHeaderLine);
         break;
     }
     case HeaderEdge::Boxed:
@@ -99,30 +152,58 @@ void CXTPReportPaintManager::DrawColumnEdges(CDC* pDC, const CRect& rcColumn, BO
         FillIfSet(pDC, left, line, right, line + 1, frame);
         break;
     case HeaderEdge::ShortDivider: {
-        const int gap = ScaleForDpi(4);
+        const int gap = ScaleForDpi(look.dividerMargin);
         FillIfSet(pDC, right - 2, top + gap, right - 1, line - gap, m_clrHeaderDivider);
         FillIfSet(pDC, right - 1, top + gap + 1, right, line - gap + 1, m_clrHeaderDividerLight);
+        FillIfSet(pDC, left, line + 1 - ScaleForDpi(HotLine), right, line + 1, frame);
         break;
     }
     case HeaderEdge::Inset:
         FillIfSet(pDC, left, top, left + 1, line, m_clrHeaderDividerLight);
         FillIfSet(pDC, right - 1, top, right, line, m_clrHeaderDivider);
-        FillIfSet(pDC, left, line, right, line + 1, frame);
+        if (frame != CXTPPaintManagerColor::Unset) {
+            FillIfSet(pDC, left, top, right - 1, top + 1, frame);
+            FillIfSet(pDC, left, top, left + 1, line, frame);
+            FillIfSet(pDC, right - 1, top, right, line, frame);
+            FillIfSet(pDC, left, line, right, line + 1, frame);
+        }
         break;
     }
 }
 
-int CXTPReportPaintManager::GetSortArrowSpace() const { return ScaleForDpi(2 * ArrowHeight - 1 + ArrowGap); }
+// --- Captions and arrows --------------------------------------------------------------------------------------------
+
+CSize CXTPReportPaintManager::GetArrowSize() const {
+    const reportlook::ColumnLook& look = *GetLook().header;
+    const int height = ScaleForDpi(look.arrowHeight);
+    // Etched arrows are as wide as high, the others grow by two pixels a line.
+    return CSize(look.arrow == ArrowShape::Etched ? (height - 1) / 2 * 2 + 2 : 2 * height - 1, height);
+}
+
+int CXTPReportPaintManager::GetSortArrowSpace() const {
+    if (GetLook().header->arrowPlace == ArrowPlace::AboveCaption)
+        return 0;
+    return GetArrowSize().cx + ScaleForDpi(ArrowGap);
+}
+
+int CXTPReportPaintManager::GetPressedOffset() const { return ScaleForDpi(GetLook().header->pressedOffset); }
 
 void CXTPReportPaintManager::DrawColumnCaption(CDC* pDC, CXTPReportColumn* pColumn, const CRect& rcColumn) {
     CRect rcText(rcColumn);
     rcText.DeflateRect(m_nCellPadding, 0, m_nCellPadding + 1, 1);
-    if (pColumn->IsSorted() && rcText.Width() > GetSortArrowSpace()) {
-        // The arrow has its own room at the right, so that no caption runs into it.
-        CRect rcArrow(rcText);
-        rcArrow.left = rcArrow.right - (GetSortArrowSpace() - ScaleForDpi(ArrowGap));
-        DrawSortArrow(pDC, rcArrow, pColumn->IsSortedIncreasing());
-        rcText.right -= GetSortArrowSpace();
+    if (pColumn->IsSorted()) {
+        const CSize arrow = GetArrowSize();
+        if (GetLook().header->arrowPlace == ArrowPlace::AboveCaption) {
+            const int top = rcColumn.top + ScaleForDpi(ArrowTop);
+            const int left = rcColumn.left + (rcColumn.Width() - arrow.cx) / 2;
+            if (rcText.Width() >= arrow.cx)
+                DrawSortArrow(pDC, CRect(CPoint(left, top), arrow), pColumn->IsSortedIncreasing());
+        } else if (rcText.Width() > GetSortArrowSpace()) {
+            // The arrow has its own room at the right, so that no caption runs into it.
+            DrawSortArrow(pDC, CRect(rcText.right - arrow.cx, rcText.top, rcText.right, rcText.bottom),
+                          pColumn->IsSortedIncreasing());
+            rcText.right -= GetSortArrowSpace();
+        }
     }
     TextStateGuard state(*pDC);
     state.UseFont(&m_fontText);
@@ -134,22 +215,37 @@ void CXTPReportPaintManager::DrawColumnCaption(CDC* pDC, CXTPReportColumn* pColu
 }
 
 void CXTPReportPaintManager::DrawSortArrow(CDC* pDC, const CRect& rcArrow, BOOL bIncreasing) {
-    const int size = ScaleForDpi(ArrowHeight);
-    const int xTip = rcArrow.right - size;
-    const int top = rcArrow.top + (rcArrow.Height() - size) / 2;
-    if (bIncreasing)
-        DrawTriangle(pDC, xTip, top, size, 1, m_clrSortArrow);
-    else
-        DrawTriangle(pDC, xTip, top + size - 1, size, -1, m_clrSortArrow);
+    const CSize size = GetArrowSize();
+    const int top = rcArrow.top + (rcArrow.Height() - size.cy) / 2;
+    const Arrow arrow = {pDC, rcArrow.left + (size.cx - 1) / 2, bIncreasing ? top : static_cast<int>(top + size.cy) - 1,
+                         size.cy, bIncreasing ? 1 : -1};
+    const bool isEnabled = !m_pControl || !m_pControl->GetSafeHwnd() || m_pControl->IsWindowEnabled();
+    const COLORREF color = isEnabled ? m_clrSortArrow : m_clrDisabledText;
+    switch (GetLook().header->arrow) {
+    case ArrowShape::Filled:
+        arrow.DrawFilled(color);
+        break;
+    case ArrowShape::Etched:
+        arrow.DrawEtched(m_clrHeaderDividerLight, color);
+        break;
+    case ArrowShape::Chevron:
+        arrow.DrawChevron(color, ScaleForDpi(2));
+        break;
+    }
 }
 
+// --- The drop mark --------------------------------------------------------------------------------------------------
+
 void CXTPReportPaintManager::DrawDropMarker(CDC* pDC, int x, const CRect& rcHeader) {
-    const int size = ScaleForDpi(DropMarkSize);
-    pDC->FillSolidRect(x - 1, rcHeader.top, 2, rcHeader.Height(), m_clrDropMark);
-    for (int i = 0; i < size; ++i) {
-        const int half = size - i;
-        pDC->FillSolidRect(x - half, rcHeader.top + i, 2 * half, 1, m_clrDropMark);
-        pDC->FillSolidRect(x - half, rcHeader.bottom - 1 - i, 2 * half, 1, m_clrDropMark);
+    const reportlook::BodyMetrics& metrics = *GetLook().metrics;
+    const int width = ScaleForDpi(metrics.dropMarkWidth), arrow = ScaleForDpi(metrics.dropMarkArrow);
+    // In front of the first column the mark stands wholly inside, like its arrows in the middle of the bar.
+    const int left = std::max<int>(x - width / 2, rcHeader.left);
+    pDC->FillSolidRect(left, rcHeader.top, width, rcHeader.Height(), m_clrDropMark);
+    for (int i = 0; i < arrow; ++i) {
+        const int beside = arrow - 1 - i;
+        pDC->FillSolidRect(left - beside, rcHeader.top + i, width + 2 * beside, 1, m_clrDropMark);
+        pDC->FillSolidRect(left - beside, rcHeader.bottom - 1 - i, width + 2 * beside, 1, m_clrDropMark);
     }
 }
 

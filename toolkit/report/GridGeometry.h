@@ -6,7 +6,7 @@
 
 namespace gridgeometry {
 
-/// How near to a divider, in pixels, the pointer has to be to take hold of it.
+/// How near to a divider, in pixels at 96 DPI, the pointer has to be to take hold of it.
 constexpr int DividerReach = 4;
 
 /// Indices `first`…`last`, both inclusive; empty when `last` is less than `first`.

@@ -1,6 +1,8 @@
 // A grid's saved layout: its form as bytes, and how it is applied to the columns a grid has now.
 #include "LayoutStream.h"
 
+#include "DpiLength.h"
+
 #include <algorithm>
 #include <array>
 #include <cstring>
@@ -13,7 +15,7 @@ namespace {
 
 constexpr std::array<std::uint8_t, 4> Magic = {'K', 'Y', 'R', 'L'};
 
-enum Tag : std::uint16_t { TagColumns = 1, TagSortOrder = 2, TagGroupsOrder = 3 };
+enum Tag : std::uint16_t { TagColumns = 1, TagSortOrder = 2, TagGroupsOrder = 3, TagDpi = 4 };
 
 constexpr std::uint8_t FlagVisible = 1;
 constexpr std::uint8_t FlagIncreasing = 1;
@@ -231,6 +233,11 @@ std::vector<std::uint8_t> Encode(const ReportLayout& layout) {
     payload.Section(TagColumns, WriteColumns(layout.columns));
     payload.Section(TagSortOrder, WriteKeys(layout.sortOrder));
     payload.Section(TagGroupsOrder, WriteKeys(layout.groupsOrder));
+    if (layout.dpi > 0) {
+        Writer dpi;
+        dpi.I32(layout.dpi);
+        payload.Section(TagDpi, dpi);
+    }
 
     Writer stream;
     for (const std::uint8_t byte : Magic)
@@ -261,7 +268,7 @@ Decoded DecodePayload(std::span<const std::uint8_t> payload) {
     Reader reader(payload);
     while (reader.Remaining() > 0) {
         const std::uint16_t tag = reader.U16();
-        const Reader section = reader.Sized();
+        Reader section = reader.Sized();
         if (reader.HasFailed())
             return {Status::Broken, {}};
         if (tag == TagColumns) {
@@ -275,6 +282,11 @@ Decoded DecodePayload(std::span<const std::uint8_t> payload) {
             if (!keys)
                 return {Status::Broken, {}};
             (tag == TagSortOrder ? layout.sortOrder : layout.groupsOrder) = std::move(*keys);
+        } else if (tag == TagDpi) {
+            const std::uint32_t dpi = section.U32();
+            if (section.HasFailed() || dpi == 0 || dpi > MaxDpi)
+                return {Status::Broken, {}};
+            layout.dpi = static_cast<int>(dpi);
         }
     }
     if (!hasColumns || !KeysMeanColumns(layout.sortOrder, layout.columns.size()) ||
@@ -292,7 +304,7 @@ Decoded Decode(std::span<const std::uint8_t> bytes) {
     return DecodePayload(bytes.subspan(HeaderSize, header.payloadSize));
 }
 
-Plan ApplyLayout(const ReportLayout& saved, const std::vector<LiveColumn>& live) {
+Plan ApplyLayout(const ReportLayout& saved, const std::vector<LiveColumn>& live, int dpi) {
     const Matcher matcher(saved, live);
     const auto isVisible = [](const auto& column) { return column.visible; };
     const bool showedColumns = std::any_of(saved.columns.begin(), saved.columns.end(), isVisible);
@@ -302,8 +314,9 @@ Plan ApplyLayout(const ReportLayout& saved, const std::vector<LiveColumn>& live)
     for (int i = 0; i < static_cast<int>(saved.columns.size()); ++i) {
         const int column = matcher.LiveOf(i);
         if (column >= 0)
-            plan.columns.push_back(
-                {column, ClampWidth(saved.columns[i].width, live[column]), saved.columns[i].visible});
+            plan.columns.push_back({column,
+                                    ClampWidth(DpiLength{saved.columns[i].width, saved.dpi}.At(dpi), live[column]),
+                                    saved.columns[i].visible});
     }
     for (int i = 0; i < static_cast<int>(live.size()); ++i)
         if (!matcher.IsTaken(i))

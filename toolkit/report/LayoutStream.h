@@ -8,6 +8,8 @@
 //     version appends to the record are skipped.
 //   Tag 2, sort order, and tag 3, grouping, most significant first: u32 count, then per key u32 index of the column in
 //     section 1 and u8 direction (bit 0: increasing).
+//   Tag 4, resolution: u32 dots per inch for which the widths are given. Streams without it have widths for whatever
+//     resolution they are read at.
 #pragma once
 
 #include <cstddef>
@@ -31,18 +33,22 @@ struct Key {
     bool operator==(const Key&) const = default;
 };
 
+/// Resolutions beyond this are nobody's; a stream with one is broken.
+constexpr std::uint32_t MaxDpi = 9600;
+
 /// A layout as it was saved.
 struct ReportLayout {
     struct Column {
         std::u16string name; ///< the internal name: a column's identity
         int itemIndex = 0;   ///< tells columns of one name apart; the identity of columns without a name
-        int width = 0;       ///< pixels
+        int width = 0;       ///< pixels at `dpi`
         bool visible = true;
         bool operator==(const Column&) const = default;
     };
     std::vector<Column> columns; ///< from left to right: the order is the sequence
     std::vector<Key> sortOrder;
     std::vector<Key> groupsOrder;
+    int dpi = 0; ///< dots per inch, at most MaxDpi; 0: not known
     bool operator==(const ReportLayout&) const = default;
 };
 
@@ -102,6 +108,7 @@ struct Plan {
 /// are brought within each column's limits. A layout that was saved with every column hidden is restored so. But when
 /// it showed columns and none of them exists any more, every column keeps its present visibility, so that a new set of
 /// columns never comes up as an empty grid.
-Plan ApplyLayout(const ReportLayout& saved, const std::vector<LiveColumn>& live);
+/// @param dpi  the resolution for which live columns have their widths; saved ones are scaled to it. 0: not known
+Plan ApplyLayout(const ReportLayout& saved, const std::vector<LiveColumn>& live, int dpi = 0);
 
 } // namespace layoutstream

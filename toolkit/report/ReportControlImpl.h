@@ -13,6 +13,7 @@
 #include "CXTPReportRow.h"
 #include "CXTPReportRows.h"
 #include "CXTPReportSelectedRows.h"
+#include "DpiLength.h"
 #include "GridGeometry.h"
 #include "RowSelection.h"
 
@@ -85,6 +86,10 @@ struct CXTPReportControl::Impl {
     // --- Layout and scrolling ---------------------------------------------------------------------------------------
     int topRow = 0;
     int leftOffset = 0;
+    /// Where the user has scrolled to. A view that grows may show less of that for a while; when it shrinks again, as
+    /// after a way to another monitor and back, it stands where it stood.
+    int chosenTopRow = 0;
+    DpiLength chosenLeftOffset;
     int wantedRow = -1; ///< to be scrolled into view as soon as there is a view
     bool isLayingOut = false;
     BarState barV, barH;
@@ -94,6 +99,8 @@ struct CXTPReportControl::Impl {
     RowSelection movedRows;
 
     CRect ClientRect() const; ///< empty without a window
+    void TakePaintManager(std::unique_ptr<CXTPReportPaintManager> taken);
+    void FollowDpi(int dpi);
     gridgeometry::UniformRows RowGrid() const;
     int RowAt(CPoint point) const;
     void LayOut();

@@ -1,4 +1,4 @@
-// The looks of a report control as data: which colour each role has in each theme and column style.
+// The looks of a report control as data: colours and metrics of each theme and column style.
 #pragma once
 
 #include "../common/LookColor.h"
@@ -14,6 +14,9 @@ namespace reportlook {
 enum class Role {
     Window,
     WindowText,
+    AlternateRow,   ///< every second row, when that is asked for
+    DisabledWindow, ///< behind the rows of a disabled control
+    DisabledText,
     Highlight,
     HighlightText,
     InactiveHighlight,
@@ -21,18 +24,19 @@ enum class Role {
     FocusFrame, ///< around the focused row; none: the system's dotted rectangle
     GridLine,
     Hyperlink,
-    DisabledText,
     DropMark,
 
     Header, ///< the lower end of the header's gradient
     HeaderLight,
+    HeaderSorted, ///< of a column by which the rows are sorted
+    HeaderSortedLight,
     HeaderHot,
     HeaderHotLight,
     HeaderPressed,
     HeaderPressedLight,
     HeaderDivider,
     HeaderDividerLight, ///< beside the divider where the style draws it in two tones
-    HeaderFrame,        ///< around a hot or pressed column; none: no frame
+    HeaderFrame,        ///< around or under a hot or pressed column; none: no frame
     HeaderLine,         ///< under the header
     HeaderText,
     SortArrow,
@@ -44,32 +48,70 @@ constexpr std::size_t HeaderRoles = static_cast<std::size_t>(Role::Count) - Body
 using BodyColors = std::array<LookColor, BodyRoles>;
 using HeaderColors = std::array<LookColor, HeaderRoles>;
 
+/// Lengths at 96 DPI.
+struct BodyMetrics {
+    int cellPadding;   ///< between the edge of a cell or column header and its text
+    int rowSpacing;    ///< above and below the text of a row
+    int headerSpacing; ///< above and below a caption
+    int dropMarkWidth; ///< of the bar between two columns
+    int dropMarkArrow; ///< height of the arrows at its ends; 0: none
+};
+
 /// How the edges of a header column are drawn.
 enum class HeaderEdge {
-    Raised,       ///< a button: light and dark edges, swapped while pressed
-    Boxed,        ///< full-height lines
-    Thin,         ///< full-height lines, a frame when hot or pressed
-    ShortDivider, ///< two-tone dividers that leave the ends free
-    Inset         ///< full-height divider with a light line beside it
+    Raised,       ///< a button: light and dark edges, sunk while pressed
+    Boxed,        ///< full-height dividers, a frame around the column when hot or pressed
+    Thin,         ///< full-height dividers, side lines when hot or pressed
+    ShortDivider, ///< two-tone dividers that leave the ends free, a line under the column when hot or pressed
+    Inset         ///< full-height divider with a light line beside it, a frame when hot or pressed
 };
+/// How the header is filled between its two tones.
+enum class HeaderFill {
+    Gradient, ///< evenly from top to bottom
+    Glass     ///< a light upper part above a darker lower one
+};
+enum class ArrowShape {
+    Filled,
+    Etched, ///< edges of light and shadow
+    Chevron ///< two strokes
+};
+enum class ArrowPlace { BesideCaption, AboveCaption };
 
 struct ColumnLook {
     XTPReportColumnStyle style;
     HeaderEdge edge;
+    HeaderFill fill;
+    ArrowShape arrow;
+    ArrowPlace arrowPlace;
+    int arrowHeight;   ///< pixels at 96 DPI
+    int dividerMargin; ///< free above and below a short divider, pixels at 96 DPI
+    int pressedOffset; ///< a pressed caption moves right and down by so many pixels
     HeaderColors colors;
 };
 
 struct ThemeLook {
     XTPReportPaintTheme theme;
     XTPReportColumnStyle columnStyle; ///< the theme's own
+    BodyMetrics metrics;
     BodyColors body;
-    /// The header's colours while the column style is the theme's own; null: those of the style.
-    const HeaderColors* ownHeader;
+    /// The header while the column style is the theme's own; null: that of the style.
+    const ColumnLook* ownHeader;
 };
 
-/// Numbers without a look of their own get that of xtpReportThemeDefault.
-const ThemeLook& LookOf(XTPReportPaintTheme theme);
-/// Numbers without a look of their own get that of xtpReportColumnShaded.
-const ColumnLook& LookOf(XTPReportColumnStyle style);
+/// Where the colours and metrics of a control come from; all of it lasts as long as the program.
+struct Look {
+    const BodyColors* body;
+    const BodyMetrics* metrics;
+    const ColumnLook* header;
+};
+
+/// While the system shows high contrast, its colours replace those of every theme and style; the metrics stay.
+enum class Contrast { Ordinary, High };
+
+/// Themes without a look of their own get that of xtpReportThemeDefault, column styles without one that of
+/// xtpReportColumnShaded.
+Look LookOf(XTPReportPaintTheme theme, XTPReportColumnStyle style, Contrast contrast);
+/// The column style that belongs to the theme.
+XTPReportColumnStyle OwnColumnStyle(XTPReportPaintTheme theme);
 
 } // namespace reportlook

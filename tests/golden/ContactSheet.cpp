@@ -1,0 +1,228 @@
+// Shows the looks of the report control: contact_sheet FOLDER writes one picture for each theme and resolution,
+// theme-THEME-DPI.bmp, with a line for each column style and, side by side, the states that a grid can be in.
+//
+// Every picture is what real controls draw when real messages have brought them into these states.
+#include <XTToolkitPro.h>
+
+#include "../framework/DibCanvas.h"
+#include "plotcells/KyBarChartRecordItem.h"
+
+#include <cstdio>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace {
+
+// Pixels at 96 DPI.
+constexpr CSize PanelSize(216, 148);
+constexpr int Gap = 10;
+constexpr int LabelHeight = 16;
+
+struct Theme {
+    XTPReportPaintTheme theme;
+    const wchar_t* name;
+};
+constexpr Theme Themes[] = {{xtpReportThemeDefault, L"0 default"},
+                            {xtpReportThemeOfficeXP, L"1 Office XP"},
+                            {xtpReportThemeOffice2013, L"4 Office 2013"},
+                            {xtpReportThemeWindows7, L"8 Windows 7"},
+                            {xtpReportThemeResource, L"9 resource"}};
+constexpr const wchar_t* ColumnStyles[] = {L"0 shaded", L"1 flat", L"2 explorer", L"3 Office 2003", L"4 resource"};
+constexpr int Resolutions[] = {96, 144};
+
+int Scaled(int pixels, int dpi) { return ::MulDiv(pixels, dpi, 96); }
+
+/// The text font, without the coloured edges that depend on the screen's pixels.
+LOGFONT TextFont(int dpi) {
+    LOGFONT font{};
+    font.lfHeight = -Scaled(12, dpi);
+    font.lfWeight = FW_NORMAL;
+    font.lfCharSet = DEFAULT_CHARSET;
+    font.lfQuality = ANTIALIASED_QUALITY;
+    ::lstrcpyn(font.lfFaceName, L"Segoe UI", LF_FACESIZE);
+    return font;
+}
+
+/// A grid of three columns and a few rows, in a window of its own that may have the focus.
+class Panel {
+public:
+    Panel(const Theme& theme, int columnStyle, int dpi) {
+        m_owner.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP | WS_VISIBLE, CRect(0, 0, 400, 300), nullptr, 0);
+        const CRect place(0, 0, Scaled(PanelSize.cx, dpi), Scaled(PanelSize.cy, dpi));
+        m_grid.Create(WS_CHILD | WS_VISIBLE, place, &m_owner, 1);
+        m_grid.SetTheme(theme.theme);
+        Look().SetColumnStyle(static_cast<XTPReportColumnStyle>(columnStyle));
+        Look().SetTextFont(TextFont(96));
+        m_grid.AddColumn(new CXTPReportColumn(0, L"Name", 78));
+        m_grid.AddColumn(new CXTPReportColumn(1, L"Value", 60));
+        m_grid.AddColumn(new CXTPReportColumn(2, L"Plot", 70));
+        Column(1).SetAlignment(DT_RIGHT);
+        m_grid.SendMessage(WM_DPICHANGED, MAKEWPARAM(dpi, dpi));
+    }
+    ~Panel() {
+        m_grid.DestroyWindow();
+        m_owner.DestroyWindow();
+    }
+
+    CXTPReportControl& Grid() { return m_grid; }
+    CXTPReportPaintManager& Look() { return *m_grid.GetPaintManager(); }
+    CXTPReportColumn& Column(int index) { return *m_grid.GetColumns()->GetAt(index); }
+    CPoint HeaderOf(int index) { return Column(index).GetRect().CenterPoint(); }
+    void Mouse(UINT message, CPoint point, WPARAM keys = 0) {
+        m_grid.SendMessage(message, keys, MAKELPARAM(point.x, point.y));
+    }
+
+    void AddRows() {
+        const wchar_t* const names[] = {L"Adelie", L"Biscoe", L"Chinstrap", L"Dream", L"Gentoo"};
+        for (int i = 0; i < 5; ++i) {
+            auto* record = new CXTPReportRecord;
+            record->AddItem(new CXTPReportRecordItemText(names[i]));
+            record->AddItem(new CXTPReportRecordItemNumber(3.75 * (i + 1), L"%.2f"));
+            auto* plot = new KyBarChartRecordItem;
+            plot->SetError(4.0f, 0.0f, 10.0f, 1.5f + i / 2.0f, 5.5f + i / 2.0f, 0.5f, 8.5f, KyMissingValueF,
+                           KyMissingValueF);
+            record->AddItem(plot);
+            m_grid.AddRecord(record);
+        }
+        m_grid.GetRecords()->GetAt(4)->GetItem(0)->AddHyperlink(new CXTPReportHyperlink(0, 0));
+        m_grid.Populate();
+    }
+    void SortByName(BOOL increasing) {
+        m_grid.GetColumns()->SetSortColumn(&Column(0), increasing);
+        m_grid.Populate();
+    }
+    void SelectRows(bool withFocus) {
+        (withFocus ? static_cast<CWnd&>(m_grid) : m_owner).SetFocus();
+        m_grid.SetFocusedRow(m_grid.GetRows()->GetAt(1));
+        m_grid.GetSelectedRows()->Add(m_grid.GetRows()->GetAt(2));
+    }
+    void TakeFocusAway() { m_owner.SetFocus(); }
+    void DrawInto(CDC& dc, CPoint place) {
+        CRect client;
+        m_grid.GetClientRect(&client);
+        DibCanvas canvas(client.Width(), client.Height(), RGB(255, 0, 255));
+        m_grid.SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(canvas.Dc().m_hDC), PRF_CLIENT);
+        dc.BitBlt(place.x, place.y, client.Width(), client.Height(), &canvas.Dc(), 0, 0, SRCCOPY);
+        CRect frame(place, client.Size());
+        frame.InflateRect(1, 1);
+        dc.Draw3dRect(&frame, RGB(130, 130, 130), RGB(130, 130, 130));
+    }
+
+private:
+    CWnd m_owner;
+    CXTPReportControl m_grid;
+};
+
+// --- States ---------------------------------------------------------------------------------------------------------
+
+void ShowFocus(Panel& panel) {
+    panel.AddRows();
+    panel.SortByName(TRUE);
+    panel.SelectRows(true);
+    panel.Mouse(WM_MOUSEMOVE, panel.HeaderOf(1));
+}
+
+void ShowNoFocus(Panel& panel) {
+    panel.AddRows();
+    panel.SortByName(FALSE);
+    panel.SelectRows(false);
+    panel.Look().UseAlternateRowBackground(TRUE);
+    panel.Mouse(WM_LBUTTONDOWN, panel.HeaderOf(1), MK_LBUTTON);
+    panel.TakeFocusAway();
+}
+
+void ShowDrag(Panel& panel) {
+    panel.AddRows();
+    panel.Look().UseAlternateRowBackground(TRUE);
+    panel.Look().SetGridStyle(TRUE, xtpReportGridSmallDots);
+    panel.Look().SetGridStyle(FALSE, xtpReportGridDashes);
+    const CPoint from = panel.HeaderOf(0);
+    panel.Mouse(WM_LBUTTONDOWN, from, MK_LBUTTON);
+    panel.Mouse(WM_MOUSEMOVE, from + CSize(20, 2), MK_LBUTTON);
+    panel.Mouse(WM_MOUSEMOVE, CPoint(panel.Column(1).GetRect().right - 12, from.y + 6), MK_LBUTTON);
+}
+
+void ShowDisabled(Panel& panel) {
+    panel.AddRows();
+    panel.SortByName(TRUE);
+    panel.SelectRows(false);
+    panel.Grid().EnableWindow(FALSE);
+}
+
+void ShowEmpty(Panel& panel) { panel.Grid().Populate(); }
+
+struct State {
+    const wchar_t* name;
+    void (*show)(Panel&);
+};
+constexpr State States[] = {{L"focus, sorted, hot", ShowFocus},
+                            {L"no focus, alternate rows, pressed", ShowNoFocus},
+                            {L"dragged; dotted, dashed lines", ShowDrag},
+                            {L"disabled", ShowDisabled},
+                            {L"empty", ShowEmpty}};
+
+// --- Pictures -------------------------------------------------------------------------------------------------------
+
+/// The places of the panels in a picture.
+struct Sheet {
+    int dpi;
+    int ColumnLeft(int column) const { return Scaled(Gap + column * (PanelSize.cx + Gap), dpi); }
+    int LineTop(int line) const { return Scaled(Gap + LabelHeight + line * (LabelHeight + PanelSize.cy + Gap), dpi); }
+    CSize Size() const {
+        return CSize(ColumnLeft(static_cast<int>(std::size(States))),
+                     LineTop(static_cast<int>(std::size(ColumnStyles))));
+    }
+    CPoint PanelAt(int column, int line) const {
+        return CPoint(ColumnLeft(column), LineTop(line) + Scaled(LabelHeight, dpi));
+    }
+};
+
+void DrawLabel(CDC& dc, CPoint place, const std::wstring& text) { dc.TextOut(place.x, place.y, text.c_str()); }
+
+bool WritePicture(const Theme& theme, int dpi, const std::wstring& folder) {
+    const Sheet sheet{dpi};
+    DibCanvas canvas(sheet.Size().cx, sheet.Size().cy, RGB(205, 205, 205));
+    CFont font;
+    const LOGFONT textFont = TextFont(dpi);
+    font.CreateFontIndirect(&textFont);
+    CFont* const former = canvas.Dc().SelectObject(&font);
+    canvas.Dc().SetBkMode(TRANSPARENT);
+    for (int i = 0; i < static_cast<int>(std::size(States)); ++i)
+        DrawLabel(canvas.Dc(), CPoint(sheet.ColumnLeft(i), Scaled(Gap / 2, dpi)), States[i].name);
+    for (int style = 0; style < static_cast<int>(std::size(ColumnStyles)); ++style) {
+        DrawLabel(canvas.Dc(), CPoint(sheet.ColumnLeft(0), sheet.LineTop(style)),
+                  L"theme " + std::wstring(theme.name) + L", column style " + ColumnStyles[style] + L", " +
+                      std::to_wstring(dpi) + L" dpi");
+        for (int i = 0; i < static_cast<int>(std::size(States)); ++i) {
+            Panel panel(theme, style, dpi);
+            States[i].show(panel);
+            panel.DrawInto(canvas.Dc(), sheet.PanelAt(i, style));
+        }
+    }
+    canvas.Dc().SelectObject(former);
+    const std::wstring path =
+        folder + L"\\theme-" + std::to_wstring(theme.theme) + L"-" + std::to_wstring(dpi) + L".bmp";
+    if (canvas.SaveAs(path.c_str()))
+        return true;
+    std::fwprintf(stderr, L"error: %ls cannot be written\n", path.c_str());
+    return false;
+}
+
+CWinApp theApp;
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::fprintf(stderr, "usage: contact_sheet FOLDER\n");
+        return 2;
+    }
+    const std::wstring folder(CString(argv[1]).GetString());
+    bool isWhole = true;
+    for (const Theme& theme : Themes) {
+        for (const int dpi : Resolutions)
+            isWhole = WritePicture(theme, dpi, folder) && isWhole;
+    }
+    return isWhole ? 0 : 1;
+}

@@ -1,5 +1,7 @@
-// Shows the looks of the report control: contact_sheet FOLDER writes one picture for each theme and resolution,
-// theme-THEME-DPI.bmp, with a line for each column style and, side by side, the states that a grid can be in.
+// Shows the looks of the report control: contact_sheet FOLDER writes one picture for each theme, column style and
+// resolution, theme-THEME-style-STYLE-DPI.bmp, with the states that a grid can be in side by side. With --golden it
+// writes those that are kept as golden pictures: every theme and style at 96 dots per inch, each theme's own style at
+// 144, with letters whose edges are not smoothed, so that the colours of a picture fit into a palette.
 //
 // Every picture is what real controls draw when real messages have brought them into these states.
 #include <XTToolkitPro.h>
@@ -8,6 +10,7 @@
 #include "plotcells/KyBarChartRecordItem.h"
 
 #include <cstdio>
+#include <cstring>
 #include <memory>
 #include <string>
 #include <vector>
@@ -33,13 +36,15 @@ constexpr int Resolutions[] = {96, 144};
 
 int Scaled(int pixels, int dpi) { return ::MulDiv(pixels, dpi, 96); }
 
-/// The text font, without the coloured edges that depend on the screen's pixels.
+/// The letters' edges; never coloured, as that depends on the pixels of the screen.
+BYTE letterQuality = ANTIALIASED_QUALITY;
+
 LOGFONT TextFont(int dpi) {
     LOGFONT font{};
     font.lfHeight = -Scaled(12, dpi);
     font.lfWeight = FW_NORMAL;
     font.lfCharSet = DEFAULT_CHARSET;
-    font.lfQuality = ANTIALIASED_QUALITY;
+    font.lfQuality = letterQuality;
     ::lstrcpyn(font.lfFaceName, L"Segoe UI", LF_FACESIZE);
     return font;
 }
@@ -164,45 +169,40 @@ constexpr State States[] = {{L"focus, sorted, hot", ShowFocus},
 
 // --- Pictures -------------------------------------------------------------------------------------------------------
 
-/// The places of the panels in a picture.
-struct Sheet {
+/// The places of the panels in a picture: side by side, under a line that says what they show.
+struct Strip {
     int dpi;
-    int ColumnLeft(int column) const { return Scaled(Gap + column * (PanelSize.cx + Gap), dpi); }
-    int LineTop(int line) const { return Scaled(Gap + LabelHeight + line * (LabelHeight + PanelSize.cy + Gap), dpi); }
+    int Left(int panel) const { return Scaled(Gap + panel * (PanelSize.cx + Gap), dpi); }
+    int Top() const { return Scaled(Gap / 2 + LabelHeight, dpi); }
     CSize Size() const {
-        return CSize(ColumnLeft(static_cast<int>(std::size(States))),
-                     LineTop(static_cast<int>(std::size(ColumnStyles))));
-    }
-    CPoint PanelAt(int column, int line) const {
-        return CPoint(ColumnLeft(column), LineTop(line) + Scaled(LabelHeight, dpi));
+        return CSize(Left(static_cast<int>(std::size(States))), Top() + Scaled(PanelSize.cy + Gap / 2, dpi));
     }
 };
 
-void DrawLabel(CDC& dc, CPoint place, const std::wstring& text) { dc.TextOut(place.x, place.y, text.c_str()); }
-
-bool WritePicture(const Theme& theme, int dpi, const std::wstring& folder) {
-    const Sheet sheet{dpi};
-    DibCanvas canvas(sheet.Size().cx, sheet.Size().cy, RGB(205, 205, 205));
+void DrawLabels(CDC& dc, const Strip& strip, const std::wstring& title) {
     CFont font;
-    const LOGFONT textFont = TextFont(dpi);
+    const LOGFONT textFont = TextFont(strip.dpi);
     font.CreateFontIndirect(&textFont);
-    CFont* const former = canvas.Dc().SelectObject(&font);
-    canvas.Dc().SetBkMode(TRANSPARENT);
-    for (int i = 0; i < static_cast<int>(std::size(States)); ++i)
-        DrawLabel(canvas.Dc(), CPoint(sheet.ColumnLeft(i), Scaled(Gap / 2, dpi)), States[i].name);
-    for (int style = 0; style < static_cast<int>(std::size(ColumnStyles)); ++style) {
-        DrawLabel(canvas.Dc(), CPoint(sheet.ColumnLeft(0), sheet.LineTop(style)),
-                  L"theme " + std::wstring(theme.name) + L", column style " + ColumnStyles[style] + L", " +
-                      std::to_wstring(dpi) + L" dpi");
-        for (int i = 0; i < static_cast<int>(std::size(States)); ++i) {
-            Panel panel(theme, style, dpi);
-            States[i].show(panel);
-            panel.DrawInto(canvas.Dc(), sheet.PanelAt(i, style));
-        }
+    CFont* const former = dc.SelectObject(&font);
+    dc.SetBkMode(TRANSPARENT);
+    for (int i = 0; i < static_cast<int>(std::size(States)); ++i) {
+        const std::wstring text = i == 0 ? title : States[i].name;
+        dc.TextOut(strip.Left(i), Scaled(Gap / 2, strip.dpi), text.c_str());
     }
-    canvas.Dc().SelectObject(former);
-    const std::wstring path =
-        folder + L"\\theme-" + std::to_wstring(theme.theme) + L"-" + std::to_wstring(dpi) + L".bmp";
+    dc.SelectObject(former);
+}
+
+bool WritePicture(const Theme& theme, int style, int dpi, const std::wstring& folder) {
+    const Strip strip{dpi};
+    DibCanvas canvas(strip.Size().cx, strip.Size().cy, RGB(205, 205, 205));
+    DrawLabels(canvas.Dc(), strip, std::wstring(L"theme ") + theme.name + L", style " + ColumnStyles[style]);
+    for (int i = 0; i < static_cast<int>(std::size(States)); ++i) {
+        Panel panel(theme, style, dpi);
+        States[i].show(panel);
+        panel.DrawInto(canvas.Dc(), CPoint(strip.Left(i), strip.Top()));
+    }
+    const std::wstring path = folder + L"\\theme-" + std::to_wstring(theme.theme) + L"-style-" +
+                              std::to_wstring(style) + L"-" + std::to_wstring(dpi) + L".bmp";
     if (canvas.SaveAs(path.c_str()))
         return true;
     std::fwprintf(stderr, L"error: %ls cannot be written\n", path.c_str());
@@ -214,15 +214,23 @@ CWinApp theApp;
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 2) {
-        std::fprintf(stderr, "usage: contact_sheet FOLDER\n");
+    const bool isGolden = argc == 3 && std::strcmp(argv[2], "--golden") == 0;
+    if (argc != 2 && !isGolden) {
+        std::fprintf(stderr, "usage: contact_sheet FOLDER [--golden]\n");
         return 2;
     }
+    if (isGolden)
+        letterQuality = NONANTIALIASED_QUALITY;
     const std::wstring folder(CString(argv[1]).GetString());
     bool isWhole = true;
     for (const Theme& theme : Themes) {
-        for (const int dpi : Resolutions)
-            isWhole = WritePicture(theme, dpi, folder) && isWhole;
+        for (int style = 0; style < static_cast<int>(std::size(ColumnStyles)); ++style) {
+            const bool isOwn = style == CXTPReportPaintManager(theme.theme).GetColumnStyle();
+            for (const int dpi : Resolutions) {
+                if (!isGolden || isOwn || dpi == 96)
+                    isWhole = WritePicture(theme, style, dpi, folder) && isWhole;
+            }
+        }
     }
     return isWhole ? 0 : 1;
 }

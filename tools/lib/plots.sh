@@ -19,6 +19,6 @@ plot_find() {
 # plot_row N: the y at which the marks of the window's Nth row are looked for and dragged (rows count from 1): above the
 # whisker, which runs through the middle of the plot.
 plot_row() {
-    local first_row=65 row_height=24
+    local first_row=67 row_height=24
     echo $((first_row + ($1 - 1) * row_height + 6))
 }

@@ -2,12 +2,14 @@
 #include <afxext.h>
 #include <afxpriv.h>
 
+#include "../windows/WindowDpi.h"
 #include "../windows/WindowState.h"
 
 IMPLEMENT_DYNAMIC(CStatusBar, CControlBar)
 
 BEGIN_MESSAGE_MAP(CStatusBar, CControlBar)
     ON_WM_SIZE()
+    ON_MESSAGE(WM_DPICHANGED, &CStatusBar::OnDpiChanged)
     ON_MESSAGE(WM_SETTEXT, &CStatusBar::OnSetText)
     ON_MESSAGE(WM_GETTEXT, &CStatusBar::OnGetText)
     ON_MESSAGE(WM_GETTEXTLENGTH, &CStatusBar::OnGetTextLength)
@@ -208,6 +210,19 @@ CSize CStatusBar::CalcFixedLayout(BOOL bStretch, BOOL bHorz) {
 void CStatusBar::OnSize(UINT nType, int cx, int cy) {
     CControlBar::OnSize(nType, cx, cy);
     LayOutPanes();
+}
+
+LRESULT CStatusBar::OnDpiChanged(WPARAM wParam, LPARAM) {
+    NONCLIENTMETRICS metrics;
+    if (!windowdpi::ReadNonClientMetrics(metrics, LOWORD(wParam)))
+        return 0;
+    CFont font;
+    font.CreateFontIndirect(&metrics.lfStatusFont);
+    SetFont(&font);
+    m_font.DeleteObject();
+    m_font.Attach(font.Detach());
+    LayOutPanes();
+    return 0;
 }
 
 // The window's text is that of the first pane.

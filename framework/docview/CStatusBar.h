@@ -5,6 +5,7 @@
 #include <commctrl.h>
 #include <vector>
 
+#include "../gdi/CFont.h"
 #include "../include/afxres.h"
 #include "CControlBar.h"
 
@@ -93,6 +94,8 @@ protected:
     afx_msg LRESULT OnGetText(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnGetTextLength(WPARAM wParam, LPARAM lParam);
     /** @} */
+    /// A monitor of another resolution: the bar takes the system's font for it. The widths of panes are the owner's.
+    afx_msg LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -109,4 +112,5 @@ private:
     int TextWidth(const CString& text) const;
 
     std::vector<Pane> m_panes;
+    CFont m_font; // after a change of the resolution; the control's own before
 };

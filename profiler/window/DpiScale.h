@@ -1,5 +1,13 @@
-// Sizes at the screen's resolution.
+// Sizes and fonts at the resolution of a monitor.
 #pragma once
 
-/// `pixels` at 96 DPI as pixels at the system's DPI.
-int ScaledToDpi(int pixels);
+#include <afxwin.h>
+
+/// Dots per inch of the monitor on which the window is; for no window those with which the program started.
+int DpiOf(HWND window);
+
+/// `pixels` at 96 dots per inch as pixels at another resolution.
+int ScaledToDpi(int pixels, int dpi);
+
+/// The user's font for messages at that resolution.
+LOGFONT MessageFont(int dpi);

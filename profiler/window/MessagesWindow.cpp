@@ -20,6 +20,7 @@ BEGIN_MESSAGE_MAP(MessagesWindow, CWnd)
     ON_WM_SETFOCUS()
     ON_WM_CLOSE()
     ON_WM_CTLCOLOR()
+    ON_MESSAGE(WM_DPICHANGED, &MessagesWindow::OnDpiChanged)
 END_MESSAGE_MAP()
 
 BOOL MessagesWindow::CreateFor(CWnd* owner) {
@@ -36,13 +37,26 @@ int MessagesWindow::OnCreate(LPCREATESTRUCT create) {
     const DWORD style = WS_CHILD | WS_VISIBLE | WS_VSCROLL | WS_TABSTOP | ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL;
     if (!m_text.Create(style, CRect(0, 0, 0, 0), this, kTextId))
         return -1;
-    NONCLIENTMETRICS metrics{};
-    metrics.cbSize = sizeof metrics;
-    ::SystemParametersInfo(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
-    m_font.CreateFontIndirect(&metrics.lfMessageFont);
-    m_text.SetFont(&m_font);
-    m_text.SetMargins(ScaledToDpi(8), ScaledToDpi(8));
+    UseDpi(DpiOf(m_hWnd));
     m_text.LimitText(0); // as much as there is memory
+    return 0;
+}
+
+void MessagesWindow::UseDpi(int dpi) {
+    const LOGFONT logFont = MessageFont(dpi);
+    CFont font;
+    font.CreateFontIndirect(&logFont);
+    m_text.SetFont(&font);
+    m_font.DeleteObject();
+    m_font.Attach(font.Detach());
+    m_text.SetMargins(ScaledToDpi(8, dpi), ScaledToDpi(8, dpi));
+}
+
+LRESULT MessagesWindow::OnDpiChanged(WPARAM resolution, LPARAM suggested) {
+    UseDpi(LOWORD(resolution));
+    const auto* place = reinterpret_cast<const RECT*>(suggested);
+    SetWindowPos(nullptr, place->left, place->top, place->right - place->left, place->bottom - place->top,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
     return 0;
 }
 
@@ -68,9 +82,10 @@ void MessagesWindow::Open() {
 void MessagesWindow::Place() {
     CRect owner;
     GetWindow(GW_OWNER)->GetWindowRect(&owner);
-    const int width = ScaledToDpi(kWidth);
-    const int height = ScaledToDpi(kHeight);
-    const int gap = ScaledToDpi(kGap);
+    const int dpi = DpiOf(GetWindow(GW_OWNER)->GetSafeHwnd());
+    const int width = ScaledToDpi(kWidth, dpi);
+    const int height = ScaledToDpi(kHeight, dpi);
+    const int gap = ScaledToDpi(kGap, dpi);
     SetWindowPos(nullptr, owner.right - width - gap, owner.bottom - height - 2 * gap, width, height,
                  SWP_NOZORDER | SWP_NOACTIVATE);
     m_placed = true;

@@ -23,11 +23,13 @@ protected:
     void OnSize(UINT type, int width, int height);
     void OnSetFocus(CWnd* old);
     void OnClose();
+    LRESULT OnDpiChanged(WPARAM resolution, LPARAM suggested);
     HBRUSH OnCtlColor(CDC* dc, CWnd* control, UINT type);
     DECLARE_MESSAGE_MAP()
 
 private:
     void Place();
+    void UseDpi(int dpi);
 
     CEdit m_text;
     CFont m_font;

@@ -4,7 +4,6 @@
 #include "common/KyMessages.h"
 #include "common/Translation.h"
 #include "statistics/DisplayText.h"
-#include "window/DpiScale.h"
 #include "window/ValueItem.h"
 #include "window/WideText.h"
 
@@ -102,9 +101,10 @@ void ProfileGrid::AddColumns() {
          Translate("The share of the column's values from the lower to the upper end of the bar")},
     };
     for (const Layout& layout : layouts) {
-        auto* column = new CXTPReportColumn(layout.item, layout.caption, layout.name, ScaledToDpi(layout.width));
+        auto* column = new CXTPReportColumn(layout.item, layout.caption, layout.name,
+                                            GetPaintManager()->ScaleForDpi(layout.width));
         column->SetAlignment(layout.alignment);
-        column->SetMinWidth(ScaledToDpi(layout.item == PlotItem ? 120 : 40));
+        column->SetMinWidth(GetPaintManager()->ScaleForDpi(layout.item == PlotItem ? 120 : 40));
         column->SetTooltip(layout.tip);
         column->SetSortable(layout.item != PlotItem);
         column->AllowRemove(layout.item != NameItem);
@@ -123,7 +123,7 @@ void ProfileGrid::SetEmptyText(const CString& text) {
 
 /// Theme changes make a new paint manager.
 void ProfileGrid::SetUpPaintManager() {
-    GetPaintManager()->SetRowHeight(ScaledToDpi(kRowHeight));
+    GetPaintManager()->SetRowHeight(GetPaintManager()->ScaleForDpi(kRowHeight));
     GetPaintManager()->SetNoItemText(m_emptyText);
 }
 

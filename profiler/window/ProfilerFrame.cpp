@@ -28,8 +28,9 @@ enum Pane { StatusPane, SizePane, MessagesPane, PaneCount };
 CRect InitialPlace() {
     CRect area;
     ::SystemParametersInfo(SPI_GETWORKAREA, 0, &area, 0);
-    const CSize size(std::min(ScaledToDpi(kInitialSize.cx), area.Width()),
-                     std::min(ScaledToDpi(kInitialSize.cy), area.Height()));
+    const int dpi = DpiOf(nullptr); // that of the work area's monitor, the first one
+    const CSize size(std::min(ScaledToDpi(kInitialSize.cx, dpi), area.Width()),
+                     std::min(ScaledToDpi(kInitialSize.cy, dpi), area.Height()));
     return CRect(area.CenterPoint() - CSize(size.cx / 2, size.cy / 2), size);
 }
 
@@ -56,6 +57,7 @@ BEGIN_MESSAGE_MAP(ProfilerFrame, CFrameWnd)
     ON_WM_SETFOCUS()
     ON_WM_TIMER()
     ON_MESSAGE(kFileRead, &ProfilerFrame::OnFileRead)
+    ON_MESSAGE(WM_DPICHANGED, &ProfilerFrame::OnDpiChanged)
     ON_WM_DROPFILES()
     ON_COMMAND(ID_FILE_OPEN, &ProfilerFrame::OnFileOpen)
     ON_COMMAND(ID_FILE_RELOAD, &ProfilerFrame::OnFileReload)
@@ -102,14 +104,23 @@ int ProfilerFrame::OnCreate(LPCREATESTRUCT create) {
 }
 
 bool ProfilerFrame::CreateStatusBar() {
-    constexpr int kPaneWidth = 170; // pixels at 96 DPI
     // No pane follows a command: their texts are set where they change.
     const UINT panes[PaneCount] = {};
     if (!m_statusBar.Create(this) || !m_statusBar.SetIndicators(panes, PaneCount))
         return false;
-    for (const int pane : {SizePane, MessagesPane})
-        m_statusBar.SetPaneInfo(pane, ID_SEPARATOR, SBPS_NORMAL, ScaledToDpi(kPaneWidth));
+    SetPaneWidths(DpiOf(m_hWnd));
     return m_readingPanes.Create(*this, m_statusBar, SizePane, MessagesPane);
+}
+
+void ProfilerFrame::SetPaneWidths(int dpi) {
+    constexpr int kPaneWidth = 170; // pixels at 96 DPI
+    for (const int pane : {SizePane, MessagesPane})
+        m_statusBar.SetPaneInfo(pane, ID_SEPARATOR, SBPS_NORMAL, ScaledToDpi(kPaneWidth, dpi));
+}
+
+LRESULT ProfilerFrame::OnDpiChanged(WPARAM resolution, LPARAM suggested) {
+    SetPaneWidths(LOWORD(resolution));
+    return CFrameWnd::OnDpiChanged(resolution, suggested);
 }
 
 void ProfilerFrame::RestorePlacement() {

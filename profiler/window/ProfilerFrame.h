@@ -36,6 +36,7 @@ protected:
     void OnTimer(UINT_PTR id);
     LRESULT OnFileRead(WPARAM wParam, LPARAM lParam);
     void OnDropFiles(HDROP drop);
+    LRESULT OnDpiChanged(WPARAM resolution, LPARAM suggested);
     void OnFileOpen();
     void OnFileReload();
     void OnFileStop();
@@ -51,6 +52,7 @@ protected:
 
 private:
     bool CreateStatusBar();
+    void SetPaneWidths(int dpi);
     void RestorePlacement();
     void SavePlacement();
     void BeginReading(const CString& path, const CString& opened);

@@ -53,6 +53,7 @@ void ReadingPanes::PlaceOver(CWnd& window, int pane) const {
     CRect place;
     m_bar->GetItemRect(pane, &place);
     m_bar->MapWindowPoints(window.GetParent(), &place);
-    place.DeflateRect(ScaledToDpi(2), ScaledToDpi(1));
+    const int dpi = DpiOf(m_bar->GetSafeHwnd());
+    place.DeflateRect(ScaledToDpi(2, dpi), ScaledToDpi(1, dpi));
     window.SetWindowPos(&CWnd::wndTop, place.left, place.top, place.Width(), place.Height(), SWP_NOACTIVATE);
 }

@@ -279,6 +279,70 @@ TEST_F(StatusBarTest, ASizableFrameGetsAGrip) {
 
 // Resources -----------------------------------------------------------------------------------------------------------
 
+/// A child that remembers what it hears of resolutions.
+class DpiChild : public CWnd {
+public:
+    std::vector<std::pair<int, LPARAM>> heard;
+
+protected:
+    LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam) {
+        heard.emplace_back(LOWORD(wParam), lParam);
+        return 0;
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(DpiChild, CWnd)
+    ON_MESSAGE(WM_DPICHANGED, &DpiChild::OnDpiChanged)
+END_MESSAGE_MAP()
+
+TEST_F(FrameTest, OnAMonitorOfAnotherResolutionItTakesTheSuggestedPlaceAndTellsItsDescendants) {
+    DpiChild outer, inner;
+    outer.CreateEx(0, AfxRegisterWndClass(0), nullptr, WS_CHILD, CRect(0, 0, 50, 50), m_frame, AFX_IDW_PANE_FIRST);
+    inner.CreateEx(0, AfxRegisterWndClass(0), nullptr, WS_CHILD, CRect(0, 0, 20, 20), &outer, 1);
+    const CRect suggested(30, 40, 630, 490);
+    const int layouts = m_frame->m_layouts;
+    m_frame->SendMessage(WM_DPICHANGED, MAKEWPARAM(144, 144), reinterpret_cast<LPARAM>(&suggested));
+    CRect place;
+    m_frame->GetWindowRect(&place);
+    EXPECT_EQ(place, suggested);
+    EXPECT_EQ(RectOf(outer), CRect(0, 0, 600, 450)) << "laid out";
+    EXPECT_GT(m_frame->m_layouts, layouts);
+    const std::vector<std::pair<int, LPARAM>> once = {{144, 0}};
+    EXPECT_EQ(outer.heard, once) << "without a place, which is the frame's alone";
+    EXPECT_EQ(inner.heard, once);
+    m_frame->SendMessage(WM_DPICHANGED, MAKEWPARAM(96, 96), 0);
+    m_frame->GetWindowRect(&place);
+    EXPECT_EQ(place, suggested) << "a frame inside another stays where it is";
+    EXPECT_EQ(outer.heard, once);
+    inner.DestroyWindow();
+    outer.DestroyWindow();
+}
+
+TEST_F(FrameTest, TheStatusBarHasTheFontOfTheMonitor) {
+    CStatusBar bar;
+    ASSERT_TRUE(bar.Create(m_frame));
+    const auto fontHeight = [&bar] {
+        LOGFONT font{};
+        ::GetObject(reinterpret_cast<HFONT>(bar.SendMessage(WM_GETFONT)), sizeof(font), &font);
+        return std::abs(font.lfHeight);
+    };
+    const CRect suggested(0, 0, 400, 300);
+    const auto goTo = [&](int dpi) {
+        m_frame->SendMessage(WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&suggested));
+    };
+    goTo(96);
+    const int height = RectOf(bar).Height(), letters = fontHeight();
+    goTo(192);
+    EXPECT_EQ(fontHeight(), 2 * letters);
+    EXPECT_GT(RectOf(bar).Height(), height + letters / 2);
+    EXPECT_EQ(RectOf(bar).bottom, 300);
+    goTo(96);
+    EXPECT_EQ(fontHeight(), letters);
+    EXPECT_EQ(RectOf(bar).Height(), height);
+    bar.DestroyWindow();
+}
+
 TEST_F(FrameTest, LoadFrameTakesMenuTitleAndAcceleratorsOfOneId) {
     auto* frame = new CTestFrame;
     ASSERT_TRUE(frame->LoadFrame(IDR_FRAME));

@@ -195,6 +195,36 @@ TEST_F(ProfilerFrameTest, TheCommandGivesUpReading) {
     EXPECT_EQ(Rows(), 0);
 }
 
+TEST_F(ProfilerFrameTest, AnotherMonitorScalesItAndComingBackChangesNothing) {
+    OpenShipped(L"penguins.csv");
+    CRect place;
+    Frame().GetWindowRect(&place);
+    const auto widths = [this] {
+        std::vector<int> result;
+        for (int i = 0; i < Grid().GetColumns()->GetCount(); ++i)
+            result.push_back(Grid().GetColumns()->GetAt(i)->GetWidth());
+        return result;
+    };
+    const auto goTo = [&](int dpi) {
+        const CRect suggested(place.TopLeft(),
+                              CSize(::MulDiv(place.Width(), dpi, 96), ::MulDiv(place.Height(), dpi, 96)));
+        Frame().SendMessage(WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&suggested));
+    };
+    goTo(96);
+    const std::vector<int> before = widths();
+    EXPECT_EQ(Grid().GetPaintManager()->GetRowHeight(), 24);
+    goTo(144);
+    EXPECT_EQ(Grid().GetPaintManager()->GetRowHeight(), 36);
+    for (std::size_t i = 0; i < before.size(); ++i)
+        EXPECT_EQ(widths()[i], (before[i] * 3 + 1) / 2) << i;
+    goTo(96);
+    EXPECT_EQ(Grid().GetPaintManager()->GetRowHeight(), 24);
+    EXPECT_EQ(widths(), before);
+    CRect now;
+    Frame().GetWindowRect(&now);
+    EXPECT_EQ(now, place);
+}
+
 TEST_F(ProfilerFrameTest, AnotherFileTakesThePlaceOfTheOneThatIsRead) {
     Frame().OpenPath(L"Z:\\no\\such.csv");
     Frame().OpenPath(Write(L"second.csv", "a,b\n1,2\n"));

@@ -3,8 +3,10 @@
 
 #include "BackBuffer.h"
 #include "LookColor.h"
+#include "SystemContrast.h"
 
 #include "../../framework/gdi/SelectGuard.h"
+#include "../../framework/windows/WindowDpi.h"
 
 #include <algorithm>
 #include <iterator>
@@ -38,8 +40,11 @@ constexpr TipLook TipLooks[] = {
     {xtpToolTipOffice2013, Rgb(0xFFFFFF), Rgb(0xFFFFFF), Rgb(0xBEBEBE), Rgb(0x444444), 0},
 };
 
-/// Styles without a look of their own get that of xtpToolTipStandard.
+/// Styles without a look of their own get that of xtpToolTipStandard, whose colours are the system's; so do all in high
+/// contrast.
 const TipLook& LookOf(XTPToolTipStyle style) {
+    if (systemcontrast::IsHigh())
+        return TipLooks[0];
     const auto it = std::find_if(std::begin(TipLooks), std::end(TipLooks),
                                  [style](const TipLook& look) { return look.style == style; });
     return it != std::end(TipLooks) ? *it : TipLooks[0];
@@ -48,11 +53,6 @@ const TipLook& LookOf(XTPToolTipStyle style) {
 /// The arrow's height below its hot spot, and the distance of a tip above the pointer; pixels at 96 DPI.
 constexpr int CursorHeight = 20;
 constexpr int DistanceAbove = 4;
-
-int Scale(int pixels) {
-    CClientDC dc(nullptr);
-    return ::MulDiv(pixels, dc.GetDeviceCaps(LOGPIXELSY), 96);
-}
 
 UINT TextFormat(int maxWidth) {
     constexpr UINT common = DT_LEFT | DT_NOPREFIX | DT_EXPANDTABS;
@@ -74,20 +74,26 @@ ToolTipWindow::~ToolTipWindow() {
 }
 
 bool ToolTipWindow::Ensure(CWnd* host) {
+    UseDpi(windowdpi::OfWindow(host->GetSafeHwnd()));
     if (m_hWnd && ::IsWindow(m_hWnd))
         return true;
     const LPCTSTR windowClass = AfxRegisterWndClass(CS_DROPSHADOW | CS_SAVEBITS, ::LoadCursor(nullptr, IDC_ARROW));
     CWnd* owner = host->GetTopLevelParent();
-    if (!CreateEx(WS_EX_TOPMOST | WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE | WS_EX_TRANSPARENT, windowClass, _T(""),
-                  WS_POPUP, CRect(0, 0, 0, 0), owner, 0))
-        return false;
-    NONCLIENTMETRICS metrics = {};
-    metrics.cbSize = sizeof(metrics);
-    ::SystemParametersInfo(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0);
+    return CreateEx(WS_EX_TOPMOST | WS_EX_TOOLWINDOW | WS_EX_NOACTIVATE | WS_EX_TRANSPARENT, windowClass, _T(""),
+                    WS_POPUP, CRect(0, 0, 0, 0), owner, 0);
+}
+
+void ToolTipWindow::UseDpi(int dpi) {
+    if (dpi == m_dpi)
+        return;
+    m_dpi = dpi;
+    NONCLIENTMETRICS metrics;
+    windowdpi::ReadNonClientMetrics(metrics, dpi);
     m_font.DeleteObject();
     m_font.CreateFontIndirect(&metrics.lfStatusFont); // the font that the system gives to tips
-    return true;
 }
+
+int ToolTipWindow::Scale(int pixels) const { return ::MulDiv(pixels, m_dpi, windowdpi::Standard); }
 
 CSize ToolTipWindow::Measure() {
     CClientDC dc(this);

@@ -26,7 +26,7 @@ public:
     explicit ToolTipWindow(Timers& timers) : m_timers(timers) {}
     ~ToolTipWindow() override;
 
-    /// Makes the hidden window when there is none; `host` becomes its owner.
+    /// Makes the hidden window when there is none; `host` becomes its owner, whose resolution the tip has.
     bool Ensure(CWnd* host);
     /// Shows the text below the point (screen coordinates), or above it where there is no room.
     void ShowAt(CPoint point, const CString& text, const TipAppearance& appearance);
@@ -47,10 +47,13 @@ private:
     void Place(CPoint topLeft);
     void Draw(CDC& dc);
     CSize Measure();
+    void UseDpi(int dpi);
+    int Scale(int pixels) const; ///< pixels at 96 DPI
 
     Timers& m_timers;
     CString m_text;
     TipAppearance m_appearance;
     CFont m_font;
+    int m_dpi = 0; ///< for which the font was made
     CPoint m_anchor;
 };

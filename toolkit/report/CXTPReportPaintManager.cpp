@@ -8,6 +8,7 @@
 
 #include "../../framework/gdi/SelectGuard.h"
 #include "../../framework/windows/WindowDpi.h"
+#include "../common/SystemContrast.h"
 #include "../common/TextStateGuard.h"
 
 #include <algorithm>
@@ -86,12 +87,7 @@ void CXTPReportPaintManager::RefreshMetrics() {
     MeasureFont();
 }
 
-BOOL CXTPReportPaintManager::IsHighContrast() const {
-    HIGHCONTRAST contrast = {};
-    contrast.cbSize = sizeof(contrast);
-    return ::SystemParametersInfo(SPI_GETHIGHCONTRAST, sizeof(contrast), &contrast, 0) &&
-           (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
-}
+BOOL CXTPReportPaintManager::IsHighContrast() const { return systemcontrast::IsHigh(); }
 
 reportlook::Look CXTPReportPaintManager::GetLook() const {
     using reportlook::Contrast;

@@ -186,7 +186,9 @@ void DrawLabels(CDC& dc, const Strip& strip, const std::wstring& title) {
     CFont* const former = dc.SelectObject(&font);
     dc.SetBkMode(TRANSPARENT);
     for (int i = 0; i < static_cast<int>(std::size(States)); ++i) {
-        const std::wstring text = i == 0 ? title : States[i].name;
+        std::wstring text = i == 0 ? title : States[i].name;
+        if (i == static_cast<int>(std::size(States)) - 1)
+            text += L"; " + std::to_wstring(strip.dpi) + L" dpi";
         dc.TextOut(strip.Left(i), Scaled(Gap / 2, strip.dpi), text.c_str());
     }
     dc.SelectObject(former);

@@ -60,7 +60,8 @@ write_header_tests() {
     local headers
     headers=$(cd "$package/include/kycontrols" && {
         find framework/include toolkit/include -name '*.h' ! -name 'afxmsg_.h' -printf '%f\n'
-        sed -n '/^set(KY_PUBLIC_KY_HEADERS/,/)$/s/^ *\([a-z]*\/[A-Za-z]*\.h\))*$/\1/p' "$ky_root/cmake/KyPackage.cmake"
+        cmake -DHOUSES=ky -DLIST="$work/ky_headers" -P "$ky_root/cmake/KyPublicHeaders.cmake"
+        sed 's|^ky/||' "$work/ky_headers"
     } | LC_ALL=C sort)
     check_contains "the list of headers has the framework's" "afxwin.h" "$headers"
     check_contains "the list of headers has the library's" "themes/Themes.h" "$headers"

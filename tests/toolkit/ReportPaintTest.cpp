@@ -298,7 +298,7 @@ TEST_P(ContrastTest, HighContrastReplacesEveryColourByOneOfTheSystem) {
         EXPECT_EQ(COLORREF(window), system(COLOR_WINDOW));
     EXPECT_EQ(COLORREF(look.m_clrWindowText), system(COLOR_WINDOWTEXT));
     EXPECT_EQ(COLORREF(look.m_clrDisabledText), system(COLOR_GRAYTEXT));
-    EXPECT_EQ(COLORREF(look.m_clrGridLine), system(COLOR_GRAYTEXT));
+    EXPECT_EQ(COLORREF(look.m_clrGridLine), system(COLOR_BTNSHADOW));
     EXPECT_EQ(COLORREF(look.m_clrHyperlink), system(COLOR_HOTLIGHT));
     for (const CXTPPaintManagerColor& back : {look.m_clrHighlight, look.m_clrInactiveHighlight, look.m_clrDropMark})
         EXPECT_EQ(COLORREF(back), system(COLOR_HIGHLIGHT));
@@ -319,6 +319,20 @@ TEST_P(ContrastTest, HighContrastReplacesEveryColourByOneOfTheSystem) {
     ContrastLook::isOn = FALSE;
     m_grid.SendMessage(WM_SYSCOLORCHANGE);
     EXPECT_EQ(Difference(*Printed(), *ordinary), 0);
+}
+
+TEST_P(ContrastTest, TheSelectionOfADisabledGridCanBeReadInHighContrast) {
+    m_grid.GetSelectedRows()->Add(m_grid.GetRows()->GetAt(1));
+    m_grid.EnableWindow(FALSE);
+    XTP_REPORTRECORDITEM_METRICS metrics;
+    m_look->FillRowMetrics(m_grid.GetRows()->GetAt(1), &metrics);
+    EXPECT_EQ(metrics.clrForeground, COLORREF(m_look->m_clrDisabledText));
+    ContrastLook::isOn = TRUE;
+    m_grid.SendMessage(WM_SETTINGCHANGE, SPI_SETHIGHCONTRAST);
+    m_look->FillRowMetrics(m_grid.GetRows()->GetAt(1), &metrics);
+    EXPECT_EQ(metrics.clrForeground, ::GetSysColor(COLOR_HIGHLIGHTTEXT));
+    m_look->FillRowMetrics(m_grid.GetRows()->GetAt(0), &metrics);
+    EXPECT_EQ(metrics.clrForeground, ::GetSysColor(COLOR_GRAYTEXT));
 }
 
 TEST_P(ContrastTest, HighContrastIsTheSameInEveryTheme) {

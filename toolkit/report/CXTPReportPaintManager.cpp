@@ -216,7 +216,8 @@ void CXTPReportPaintManager::FillRowMetrics(CXTPReportRow* pRow, XTP_REPORTRECOR
         pMetrics->clrForeground = isActive ? m_clrHighlightText : m_clrInactiveHighlightText;
         pMetrics->clrBackground = isActive ? m_clrHighlight : m_clrInactiveHighlight;
     }
-    if (isDisabled)
+    // In high contrast the colour of disabled texts cannot be read on the highlight.
+    if (isDisabled && !(m_bHighContrast && pRow && pRow->IsSelected()))
         pMetrics->clrForeground = m_clrDisabledText;
 }
 

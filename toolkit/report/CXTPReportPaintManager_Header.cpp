@@ -70,16 +70,21 @@ struct Arrow {
             pDC->FillSolidRect(xTip + i + 1 - std::min(width, i + 1), Y(i), std::min(width, i + 1), 1, color);
         }
     }
-    /// Half as wide as high on each side; the light falls from the upper left.
+    /// An outline half as wide as high on each side, cut into the surface: its lower right side lies in the light.
     void DrawEtched(COLORREF light, COLORREF shadow) const {
-        const bool pointsUp = yStep > 0;
+        DrawOutline(1, light);
+        DrawOutline(0, shadow);
+    }
+
+private:
+    void DrawOutline(int offset, COLORREF color) const {
         for (int i = 0; i < lines; ++i) {
             const int half = i / 2;
-            pDC->FillSolidRect(xTip - half, Y(i), 1, 1, shadow);
-            pDC->FillSolidRect(xTip + half + 1, Y(i), 1, 1, light);
+            pDC->FillSolidRect(xTip - half + offset, Y(i) + offset, 1, 1, color);
+            pDC->FillSolidRect(xTip + half + 1 + offset, Y(i) + offset, 1, 1, color);
         }
         const int half = (lines - 1) / 2;
-        pDC->FillSolidRect(xTip - half, Y(lines - 1), 2 * half + 2, 1, pointsUp ? light : shadow);
+        pDC->FillSolidRect(xTip - half + offset, Y(lines - 1) + offset, 2 * half + 2, 1, color);
     }
 };
 
@@ -176,8 +181,8 @@ void CXTPReportPaintManager::DrawColumnEdges(CDC* pDC, const CRect& rcColumn, BO
 CSize CXTPReportPaintManager::GetArrowSize() const {
     const reportlook::ColumnLook& look = *GetLook().header;
     const int height = ScaleForDpi(look.arrowHeight);
-    // Etched arrows are as wide as high, the others grow by two pixels a line.
-    return CSize(look.arrow == ArrowShape::Etched ? (height - 1) / 2 * 2 + 2 : 2 * height - 1, height);
+    // Etched arrows are about as wide as high, the others grow by two pixels a line.
+    return CSize(look.arrow == ArrowShape::Etched ? (height - 1) / 2 * 2 + 3 : 2 * height - 1, height);
 }
 
 int CXTPReportPaintManager::GetSortArrowSpace() const {

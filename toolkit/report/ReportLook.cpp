@@ -161,7 +161,7 @@ constexpr BodyColors HighContrastBody = {
     Sys(COLOR_HIGHLIGHTTEXT),
     Sys(COLOR_HIGHLIGHT), // the focus is told by its dotted rectangle
     Sys(COLOR_HIGHLIGHTTEXT), None,
-    Sys(COLOR_GRAYTEXT),      Sys(COLOR_HOTLIGHT),
+    Sys(COLOR_BTNSHADOW),     Sys(COLOR_HOTLIGHT),
     Sys(COLOR_HIGHLIGHT),
 };
 

@@ -2,9 +2,9 @@
 /// CProgressCtrl: a bar that fills as work goes on.
 #pragma once
 
-#include <commctrl.h>
-
 #include "../windows/CWnd.h"
+
+#include <commctrl.h>
 
 /// The system's progress bar. Its position is a number within its range, at first from 0 to 100. `<afxcmn.h>`.
 /// @ingroup framework_controls

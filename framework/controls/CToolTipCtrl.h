@@ -2,9 +2,9 @@
 /// CToolTipCtrl: a tool tip window that serves any number of tools.
 #pragma once
 
-#include <commctrl.h>
-
 #include "../windows/CWnd.h"
+
+#include <commctrl.h>
 
 #ifndef LPSTR_TEXTCALLBACK
 /// The text of a tool that asks for it with TTN_GETDISPINFO each time.

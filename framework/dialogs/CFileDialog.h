@@ -2,10 +2,10 @@
 /// CFileDialog: the system's dialogs for choosing a file to open or to save.
 #pragma once
 
+#include "CDialog.h"
+
 #include <commdlg.h>
 #include <vector>
-
-#include "CDialog.h"
 
 /// The system's dialog for choosing a file to open or to save. `<afxdlgs.h>`.
 ///

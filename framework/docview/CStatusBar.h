@@ -2,12 +2,12 @@
 /// CStatusBar: the message line and indicator panes at the bottom of a frame.
 #pragma once
 
-#include <commctrl.h>
-#include <vector>
-
 #include "../gdi/CFont.h"
 #include "../include/afxres.h"
 #include "CControlBar.h"
+
+#include <commctrl.h>
+#include <vector>
 
 /// Pane style: a sunken border.
 constexpr UINT SBPS_NORMAL = 0x0000;

@@ -7,6 +7,8 @@
 /// class, so handlers may be protected or private.
 #pragma once
 
+#include "../core/Geometry.h"
+
 class CCmdTarget;
 class CCmdUI;
 class CDC;

@@ -57,6 +57,11 @@ function(ky_add_house name)
     add_library(${name} SHARED ${ARG_SOURCES} ${CMAKE_CURRENT_BINARY_DIR}/${name}.rc)
     target_compile_definitions(${name} PRIVATE ${ARG_EXPORT_DEFINE})
     set_target_properties(${name} PROPERTIES PREFIX "" IMPORT_PREFIX "lib" VERSION ${PROJECT_VERSION})
+    add_library(KyControls::${name} ALIAS ${name}) # as programs outside of the tree call it
+endfunction()
+
+# Programs outside of the tree call this; those in it stand beside the DLLs already.
+function(kycontrols_deploy target)
 endfunction()
 
 include(KyDependencies)

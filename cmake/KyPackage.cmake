@@ -1,10 +1,13 @@
 # What `cmake --install` and tools/package deliver: DLLs, import libraries, public headers, translations, the CMake
 # package KyControls, and the notices of the libraries that are shipped along.
 #
+#   README.md                    what it is, what holds for the parts that are not ours
 #   bin                          DLLs, those of the compiler's runtime and Boost.Locale among them; locale/
 #   lib, lib/cmake/KyControls    import libraries, the entry point's library, the package's description
 #   include/kycontrols           framework/, toolkit/, ky/: each house's headers, in folders as in the source
-#   share/doc/kycontrols         how to use it; reference/, the pages of every class; licenses/
+#   share/doc/kycontrols         the guides; reference/, the pages of every class; examples/, a project; licenses/
+#
+# docs/using.md lists this for those who use it; tests/package holds the two together.
 include(CMakePackageConfigHelpers)
 
 include(KyPublicHeaders)
@@ -38,14 +41,28 @@ install(FILES ${CMAKE_BINARY_DIR}/KyControlsConfig.cmake ${CMAKE_BINARY_DIR}/KyC
     DESTINATION lib/cmake/KyControls)
 
 install(PROGRAMS ${KY_RUNTIME_DLLS} DESTINATION bin)
+# CMake strips what was built here; the runtime's own symbols are ten times the size of the rest.
+foreach(dll IN LISTS KY_RUNTIME_DLLS)
+    get_filename_component(name ${dll} NAME)
+    install(CODE "if(CMAKE_INSTALL_DO_STRIP)
+    execute_process(COMMAND \"${CMAKE_STRIP}\" \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/bin/${name}\"
+        COMMAND_ERROR_IS_FATAL ANY)
+endif()")
+endforeach()
 install(DIRECTORY ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/locale DESTINATION bin)
-install(FILES docs/using.md DESTINATION share/doc/kycontrols)
+
+install(FILES docs/package.md DESTINATION . RENAME README.md)
+set(documentation share/doc/kycontrols)
+install(FILES docs/using.md docs/layers.md docs/host.md docs/plot-cell.md docs/keyboard.md docs/looks.md
+    DESTINATION ${documentation})
+install(FILES docs/images/bullet-cell.png docs/images/readings.png DESTINATION ${documentation}/images)
+install(DIRECTORY docs/examples DESTINATION ${documentation})
 # The reference pages, where tools/reference has made them, as tools/package lets it do.
-install(DIRECTORY build/reference/html/ DESTINATION share/doc/kycontrols/reference OPTIONAL)
+install(DIRECTORY build/reference/html/ DESTINATION ${documentation}/reference OPTIONAL)
 
 # Notices, by the Debian package that each shipped library comes from. Debian refers to the long texts of the GNU
 # licences, which Windows does not have; they go along.
-set(notices share/doc/kycontrols/licenses)
+set(notices ${documentation}/licenses)
 install(FILES /usr/share/doc/gcc-mingw-w64-x86-64-posix-runtime/copyright DESTINATION ${notices}
     RENAME libstdc++-and-libgcc.txt)
 install(FILES /usr/share/doc/mingw-w64-x86-64-dev/copyright DESTINATION ${notices} RENAME libwinpthread.txt)

@@ -43,6 +43,8 @@ function(ky_public_headers result house)
         set(entry_headers include/XTToolkitPro.h)
     elseif(house STREQUAL "ky")
         set(entry_headers
+            common/KyMessages.h
+            common/MissingValue.h
             common/ParseDouble.h
             common/Translation.h
             plotcells/KyBarChartRecordItem.h

@@ -11,6 +11,7 @@ groups='
 cross-compiler for Windows programs|1 min|g++-mingw-w64-x86-64-posix
 build tools|30 s|cmake ninja-build ccache
 native compiler, for the pure functions under sanitizers|30 s|g++ libc6-dev
+clang, the second compiler for programs that use the package|20 s|clang-14
 Wine, which runs the Windows programs|1 min|wine wine64 libxcomposite1 libxcursor1 libxfixes3 libxi6 libxinerama1 libxrandr2 libxrender1 libxxf86vm1
 fonts that measure like those of Windows|5 s|fonts-wine fonts-liberation fonts-dejavu-core
 virtual screen with mouse, keyboard, clipboard and screenshots|20 s|xvfb xdotool xclip imagemagick
@@ -21,7 +22,7 @@ Doxygen, which makes the reference pages|10 s|doxygen
 source packages: continued downloads, unpacking|5 s|curl xz-utils
 '
 if [ "${1:-}" = fuzz ]; then
-    groups+='clang with libFuzzer and its sanitizers|1 min|clang-14 libclang-rt-14-dev
+    groups+='libFuzzer and the sanitizers of clang|20 s|clang-14 libclang-rt-14-dev
 '
 fi
 

@@ -133,6 +133,8 @@ void ShowNoFocus(Panel& panel) {
     panel.SortByName(FALSE);
     panel.SelectRows(false);
     panel.Look().UseAlternateRowBackground(TRUE);
+    panel.Look().SetGridStyle(TRUE, xtpReportGridNoLines);
+    panel.Look().SetGridStyle(FALSE, xtpReportGridLargeDots);
     panel.Mouse(WM_LBUTTONDOWN, panel.HeaderOf(1), MK_LBUTTON);
     panel.TakeFocusAway();
 }

@@ -21,6 +21,7 @@ public:
     Object* FindPermanent(Handle handle) const { return Find(m_permanent, handle); }
     Object* FindTemporary(Handle handle) const { return Find(m_temporary, handle); }
 
+    /// Throws std::bad_alloc, and then has not changed.
     void SetPermanent(Handle handle, Object* object) { m_permanent[handle] = object; }
     /// Forgets the handle if that object is the one known for it; two objects may hold the same stock object.
     void RemovePermanent(Handle handle, const Object* object) {
@@ -29,11 +30,17 @@ public:
     }
 
     /// Takes over a temporary object. One made earlier for the same handle is no longer found but stays alive, since
-    /// callers may still hold it.
+    /// callers may still hold it. Throws std::bad_alloc, and then has not changed; the handle is left alone.
     Object* AddTemporary(Handle handle, std::unique_ptr<Object> object) {
-        Object* added = object.get();
-        m_temporary[handle] = added;
+        Object* const added = object.get();
         m_ownedTemporary.push_back(std::move(object));
+        try {
+            m_temporary[handle] = added;
+        } catch (...) {
+            m_release(*added);
+            m_ownedTemporary.pop_back();
+            throw;
+        }
         return added;
     }
 

@@ -5,6 +5,8 @@
 #include "core/HandleMap.h"
 #include "core/PerThread.h"
 
+#include <new>
+
 IMPLEMENT_DYNCREATE(CDC, CObject)
 
 namespace {
@@ -15,6 +17,14 @@ ContextMap& Map() {
     static PerThread<ContextMap> maps(
         [] { return new ContextMap([](CDC& dc) { dc.m_hDC = dc.m_hAttribDC = nullptr; }); });
     return maps.Get();
+}
+
+/// Hands a new context to its object, and deletes it when the object cannot take it.
+BOOL AttachNew(CDC& object, HDC dc) {
+    if (object.Attach(dc))
+        return TRUE;
+    ::DeleteDC(dc);
+    return FALSE;
 }
 
 } // namespace
@@ -41,8 +51,12 @@ BOOL CDC::Attach(HDC dc) {
     if (!dc)
         return FALSE;
     ASSERT(!m_hDC);
+    try {
+        Map().SetPermanent(dc, this);
+    } catch (const std::bad_alloc&) {
+        return FALSE;
+    }
     m_owned = dc;
-    Map().SetPermanent(dc, this);
     handlecounts::Add(handlecounts::Kind::DeviceContext);
     m_hDC = dc;
     SetAttribDC(dc);
@@ -62,14 +76,14 @@ HDC CDC::Detach() {
 }
 
 BOOL CDC::CreateDC(LPCTSTR driver, LPCTSTR device, LPCTSTR output, const void* initData) {
-    return Attach(::CreateDCW(driver, device, output, static_cast<const DEVMODEW*>(initData)));
+    return AttachNew(*this, ::CreateDCW(driver, device, output, static_cast<const DEVMODEW*>(initData)));
 }
 
 BOOL CDC::CreateIC(LPCTSTR driver, LPCTSTR device, LPCTSTR output, const void* initData) {
-    return Attach(::CreateICW(driver, device, output, static_cast<const DEVMODEW*>(initData)));
+    return AttachNew(*this, ::CreateICW(driver, device, output, static_cast<const DEVMODEW*>(initData)));
 }
 
-BOOL CDC::CreateCompatibleDC(CDC* dc) { return Attach(::CreateCompatibleDC(dc ? dc->m_hDC : nullptr)); }
+BOOL CDC::CreateCompatibleDC(CDC* dc) { return AttachNew(*this, ::CreateCompatibleDC(dc ? dc->m_hDC : nullptr)); }
 
 BOOL CDC::DeleteDC() { return m_hDC ? ::DeleteDC(Detach()) : FALSE; }
 

@@ -6,6 +6,8 @@
 #include "core/PerThread.h"
 #include "gdi/Gdi.h"
 
+#include <new>
+
 IMPLEMENT_DYNCREATE(CGdiObject, CObject)
 
 namespace {
@@ -84,9 +86,14 @@ BOOL CGdiObject::Attach(HGDIOBJ handle) {
     if (!handle)
         return FALSE;
     ASSERT(!m_hObject);
+    try {
+        Map().SetPermanent(handle, this);
+    } catch (const std::bad_alloc&) {
+        ::DeleteObject(handle); // it was this object's already: nobody else knows the handles of new ones
+        return FALSE;
+    }
     m_hObject = handle;
     m_isOwner = true;
-    Map().SetPermanent(handle, this);
     handlecounts::Add(handlecounts::Kind::GdiObject);
     return TRUE;
 }

@@ -4,6 +4,8 @@
 #include "../core/HandleCounts.h"
 #include "WindowState.h"
 
+#include <new>
+
 IMPLEMENT_DYNCREATE(CMenu, CObject)
 
 CMenu::~CMenu() { DestroyMenu(); }
@@ -11,8 +13,12 @@ CMenu::~CMenu() { DestroyMenu(); }
 BOOL CMenu::Attach(HMENU hMenu) {
     if (hMenu == nullptr || m_hMenu != nullptr)
         return FALSE;
+    try {
+        WindowState::Current().menus.SetPermanent(hMenu, this);
+    } catch (const std::bad_alloc&) {
+        return FALSE;
+    }
     m_hMenu = hMenu;
-    WindowState::Current().menus.SetPermanent(hMenu, this);
     handlecounts::Add(handlecounts::Kind::Menu);
     return TRUE;
 }
@@ -29,15 +35,29 @@ HMENU CMenu::Detach() {
 CMenu* CMenu::FromHandle(HMENU hMenu) { return WindowState::Current().MenuOf(hMenu); }
 void CMenu::DeleteTempMap() { WindowState::Current().menus.DeleteTemporary(); }
 
-BOOL CMenu::CreateMenu() { return Attach(::CreateMenu()); }
-BOOL CMenu::CreatePopupMenu() { return Attach(::CreatePopupMenu()); }
+namespace {
+
+/// Hands a new menu to its object, and destroys it when the object cannot take it.
+BOOL AttachNew(CMenu& object, HMENU menu) {
+    if (object.Attach(menu))
+        return TRUE;
+    ::DestroyMenu(menu);
+    return FALSE;
+}
+
+} // namespace
+
+BOOL CMenu::CreateMenu() { return AttachNew(*this, ::CreateMenu()); }
+BOOL CMenu::CreatePopupMenu() { return AttachNew(*this, ::CreatePopupMenu()); }
 
 BOOL CMenu::LoadMenu(LPCTSTR lpszResourceName) {
-    return Attach(::LoadMenu(AfxFindResourceHandle(lpszResourceName, RT_MENU), lpszResourceName));
+    return AttachNew(*this, ::LoadMenu(AfxFindResourceHandle(lpszResourceName, RT_MENU), lpszResourceName));
 }
 
 BOOL CMenu::LoadMenu(UINT nIDResource) { return LoadMenu(MAKEINTRESOURCE(nIDResource)); }
-BOOL CMenu::LoadMenuIndirect(const void* lpMenuTemplate) { return Attach(::LoadMenuIndirect(lpMenuTemplate)); }
+BOOL CMenu::LoadMenuIndirect(const void* lpMenuTemplate) {
+    return AttachNew(*this, ::LoadMenuIndirect(lpMenuTemplate));
+}
 
 BOOL CMenu::DestroyMenu() {
     const HMENU menu = Detach();

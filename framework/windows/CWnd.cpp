@@ -37,8 +37,8 @@ BOOL CWnd::Attach(HWND hWndNew) {
     ASSERT(FromHandlePermanent(hWndNew) == nullptr);
     if (hWndNew == nullptr)
         return FALSE;
-    m_hWnd = hWndNew;
     WindowState::Current().windows.SetPermanent(hWndNew, this);
+    m_hWnd = hWndNew;
     handlecounts::Add(handlecounts::Kind::Window);
     return TRUE;
 }

@@ -53,7 +53,8 @@ void CXTPReportColumns::Add(CXTPReportColumn* pColumn) {
     if (!pColumn)
         return;
     ASSERT(!pColumn->m_pColumns);
-    m_columns.emplace_back(pColumn);
+    std::unique_ptr<CXTPReportColumn, Release> column(pColumn);
+    m_columns.push_back(std::move(column));
     pColumn->m_pColumns = this;
     pColumn->FollowDpi();
     Changed();

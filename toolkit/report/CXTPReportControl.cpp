@@ -149,7 +149,15 @@ void CXTPReportControl::Populate() {
         m_impl->rows->RebuildVirtual(m_impl->records->GetVirtualRecord(), m_impl->records->GetVirtualCount());
     else
         m_impl->rows->Rebuild(reportsort::SortedVisibleRecords(*m_impl->records, *m_impl->columns));
-    m_impl->focusedRow = keeper.Restore();
+    // Until the rows of before are found again, none of the new ones may be taken for them.
+    m_impl->focusedRow = -1;
+    try {
+        m_impl->focusedRow = keeper.Restore();
+    } catch (...) {
+        m_impl->selectedRows->SetRanges(RowSelection());
+        AdjustLayout();
+        throw;
+    }
     AdjustLayout();
     m_impl->chosenTopRow = m_impl->topRow;
 }

@@ -67,6 +67,10 @@ void CXTPReportControl::Impl::LayOut() {
     if (isLayingOut)
         return;
     isLayingOut = true;
+    const struct End { // also when a handler throws
+        bool& isLayingOut;
+        ~End() { isLayingOut = false; }
+    } end{isLayingOut};
     FitBars();
     topRow = RowGrid().ClampTopRow(chosenTopRow);
     leftOffset = gridgeometry::ClampLeftOffset(chosenLeftOffset.At(paintManager->GetDpi()), header->GetTotalWidth(),
@@ -74,7 +78,6 @@ void CXTPReportControl::Impl::LayOut() {
     header->AdjustLayout(control.GetHeaderRect());
     UpdateThumbs();
     movedRows.Clear();
-    isLayingOut = false;
 }
 
 void CXTPReportControl::Impl::FitBars() {

@@ -48,28 +48,39 @@ std::vector<LiveColumn> DescribeLiveColumns(const CXTPReportColumns& columns) {
     return live;
 }
 
-void ApplyOrder(const std::vector<Key>& keys, const std::vector<CXTPReportColumn*>& live,
-                CXTPReportColumnOrder& order) {
-    order.Clear();
+CXTPReportColumnOrder MakeOrder(const std::vector<Key>& keys, const std::vector<CXTPReportColumn*>& live) {
+    CXTPReportColumnOrder order;
     for (const Key& key : keys)
-        order.Add(live[key.column], key.increasing);
+        order.Add(live[key.column]);
+    return order;
 }
 
+void ApplyDirections(const std::vector<Key>& keys, const std::vector<CXTPReportColumn*>& live) {
+    for (const Key& key : keys)
+        live[key.column]->SetSortIncreasing(key.increasing);
+}
+
+/// All or nothing: memory is taken first, and what follows needs none.
 void ApplyPlan(const Plan& plan, CXTPReportColumns& columns) {
     std::vector<CXTPReportColumn*> live;
     for (int i = 0; i < columns.GetCount(); ++i)
         live.push_back(columns.GetAt(i));
     std::vector<CXTPReportColumn*> arranged;
+    for (const Plan::Column& planned : plan.columns)
+        arranged.push_back(live[planned.column]);
+    CXTPReportColumnOrder groups = MakeOrder(plan.groupsOrder, live);
+    CXTPReportColumnOrder sorting = MakeOrder(plan.sortOrder, live);
+
     for (const Plan::Column& planned : plan.columns) {
-        CXTPReportColumn* const column = live[planned.column];
-        column->SetWidth(planned.width);
-        column->SetVisible(planned.visible);
-        arranged.push_back(column);
+        live[planned.column]->SetWidth(planned.width);
+        live[planned.column]->SetVisible(planned.visible);
     }
     columns.Arrange(arranged);
-    ApplyOrder(plan.groupsOrder, live, *columns.GetGroupsOrder());
+    *columns.GetGroupsOrder() = std::move(groups);
+    *columns.GetSortOrder() = std::move(sorting);
+    ApplyDirections(plan.groupsOrder, live);
     // Last: a column that is in both has the direction of its place in the sort order.
-    ApplyOrder(plan.sortOrder, live, *columns.GetSortOrder());
+    ApplyDirections(plan.sortOrder, live);
 }
 
 void ThrowUnlessOk(Status status, const CArchive& ar) {

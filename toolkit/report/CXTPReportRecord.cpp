@@ -30,7 +30,12 @@ CXTPReportRecordItem* CXTPReportRecord::AddItem(CXTPReportRecordItem* pItem) {
     if (!pItem)
         return nullptr;
     ASSERT(!pItem->m_pRecord);
-    m_items.push_back(pItem);
+    try {
+        m_items.push_back(pItem);
+    } catch (...) {
+        pItem->InternalRelease(); // it was taken over already
+        throw;
+    }
     pItem->m_pRecord = this;
     return pItem;
 }

@@ -129,8 +129,9 @@ int CXTPReportRecordItem::Compare(CXTPReportColumn* pColumn, CXTPReportRecordIte
 int CXTPReportRecordItem::AddHyperlink(CXTPReportHyperlink* pHyperlink) {
     if (!pHyperlink)
         return -1;
+    std::unique_ptr<CXTPReportHyperlink> hyperlink(pHyperlink);
     auto& hyperlinks = EnsureExtras().hyperlinks;
-    hyperlinks.emplace_back(pHyperlink);
+    hyperlinks.push_back(std::move(hyperlink));
     return static_cast<int>(hyperlinks.size()) - 1;
 }
 

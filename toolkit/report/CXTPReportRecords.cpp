@@ -36,10 +36,15 @@ void CXTPReportRecords::InsertAt(int nIndex, CXTPReportRecord* pRecord) {
         return;
     ASSERT(!pRecord->m_pRecords);
     pRecord->m_pRecords = this;
-    if (nIndex >= GetCount())
-        m_records.Append(pRecord);
-    else
-        m_records.Insert(std::max(nIndex, 0), pRecord);
+    try {
+        if (nIndex >= GetCount())
+            m_records.Append(pRecord);
+        else
+            m_records.Insert(std::max(nIndex, 0), pRecord);
+    } catch (...) {
+        Release(pRecord); // it was taken over already
+        throw;
+    }
 }
 
 BOOL CXTPReportRecords::RemoveRecord(CXTPReportRecord* pRecord) {

@@ -31,10 +31,15 @@ CXTPReportRow* CXTPReportRows::GetAt(int nIndex) const {
     CXTPReportRecord* const pRecord = GetRecordAt(nIndex);
     if (!pRecord)
         return nullptr;
-    CXTPReportRow*& pRow = m_rowObjects[KeyOf(nIndex)];
-    if (!pRow)
-        pRow = new CXTPReportRow(const_cast<CXTPReportRows*>(this), pRecord, nIndex);
-    return pRow;
+    const auto [it, isNew] = m_rowObjects.try_emplace(KeyOf(nIndex), nullptr);
+    if (!isNew)
+        return it->second;
+    try {
+        return it->second = new CXTPReportRow(const_cast<CXTPReportRows*>(this), pRecord, nIndex);
+    } catch (...) {
+        m_rowObjects.erase(it);
+        throw;
+    }
 }
 
 int CXTPReportRows::IndexOf(const CXTPReportRecord* pRecord) const { return m_records.IndexOf(pRecord); }

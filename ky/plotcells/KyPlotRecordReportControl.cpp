@@ -101,8 +101,12 @@ void KyPlotRecordReportControl::OnLButtonUp(UINT flags, CPoint point) {
     ForgetRemovedDragItem();
     if (m_pDragItem != nullptr)
         point = PulledIntoDragItem(point);
-    KyReportControl::OnLButtonUp(flags, point);
-    ::ReleaseCapture();
+    {
+        const struct End { // the mouse is free again also when a handler of the release throws
+            ~End() { ::ReleaseCapture(); }
+        } end;
+        KyReportControl::OnLButtonUp(flags, point);
+    }
     ForgetRemovedDragItem();
 
     // Intended: a release over no row or no item leaves the drag routed until the next release, Escape or leave.

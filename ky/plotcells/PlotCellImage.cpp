@@ -91,6 +91,8 @@ GlobalBlock Pack(const CBitmap& bitmap) {
     std::uint64_t imageSize = 0;
     {
         const LockedBlock locked(block.get());
+        if (locked.Data() == nullptr)
+            return nullptr;
         locked.Info()->bmiHeader = header;
         if (!context.Read(bitmap, rows, nullptr, locked.Info()))
             return nullptr;
@@ -111,20 +113,26 @@ GlobalBlock Pack(const CBitmap& bitmap) {
     block.reset(grown);
 
     const LockedBlock locked(block.get());
-    if (!context.Read(bitmap, rows, locked.Data() + headSize, locked.Info()))
+    if (locked.Data() == nullptr || !context.Read(bitmap, rows, locked.Data() + headSize, locked.Info()))
         return nullptr;
     return block;
 }
 
 void WriteFile(const wchar_t* path, HGLOBAL packed) {
-    CFile file;
-    if (!file.Open(path, CFile::modeCreate | CFile::modeWrite))
-        return;
     const LockedBlock locked(packed);
+    CFile file;
+    if (locked.Data() == nullptr || !file.Open(path, CFile::modeCreate | CFile::modeWrite))
+        return;
     const SIZE_T size = ::GlobalSize(packed);
     const auto fileHeader = packeddib::FileHeader(size, locked.Info()->bmiHeader.biBitCount);
-    file.Write(fileHeader.data(), static_cast<UINT>(fileHeader.size()));
-    file.Write(locked.Data(), static_cast<UINT>(size));
+    try {
+        file.Write(fileHeader.data(), static_cast<UINT>(fileHeader.size()));
+        file.Write(locked.Data(), static_cast<UINT>(size));
+    } catch (...) {
+        file.Abort();
+        ::DeleteFileW(path); // no file rather than half a bitmap
+        throw;
+    }
 }
 
 } // namespace plotcellimage

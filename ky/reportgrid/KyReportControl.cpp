@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <exception>
 #include <memory>
 
 namespace {
@@ -45,8 +46,14 @@ KyReportControl::KyReportControl() {
 }
 
 KyReportControl::~KyReportControl() {
-    if (!m_stateSection.empty())
+    if (m_stateSection.empty())
+        return;
+    try {
         SaveReportState(m_stateSection);
+    } catch (CException* e) {
+        e->Delete(); // for want of memory; the layout saved before stays
+    } catch (const std::exception&) {
+    }
 }
 
 // --- Layout ---------------------------------------------------------------------------------------------------------

@@ -92,7 +92,7 @@ void ThrowUnlessOk(Status status, const CArchive& ar) {
 
 /// Reads in small steps, so that a size that the archive cannot hold costs no memory.
 std::vector<std::uint8_t> ReadPayload(CArchive& ar, std::uint32_t size) {
-    constexpr std::size_t step = 64 * 1024;
+    constexpr std::size_t step = 4 * 1024;
     std::vector<std::uint8_t> payload;
     while (payload.size() < size) {
         const std::size_t begin = payload.size();

@@ -30,15 +30,16 @@ public:
     }
 
     /// Takes over a temporary object. One made earlier for the same handle is no longer found but stays alive, since
-    /// callers may still hold it. Throws std::bad_alloc, and then has not changed; the handle is left alone.
+    /// callers may still hold it. Throws std::bad_alloc, and then holds no object for it; the handle is left alone.
     Object* AddTemporary(Handle handle, std::unique_ptr<Object> object) {
         Object* const added = object.get();
-        m_ownedTemporary.push_back(std::move(object));
         try {
             m_temporary[handle] = added;
+            m_ownedTemporary.push_back(std::move(object));
         } catch (...) {
+            if (FindTemporary(handle) == added)
+                m_temporary.erase(handle);
             m_release(*added);
-            m_ownedTemporary.pop_back();
             throw;
         }
         return added;

@@ -2,6 +2,7 @@
 #include <afxpriv.h>
 
 #include <exception>
+#include <new>
 
 #include "WindowState.h"
 
@@ -52,6 +53,15 @@ LRESULT EndException(CException* exception, const MSG& message) {
     return result;
 }
 
+/// The application object learns of a lack of memory through an exception object that exists from the start.
+LRESULT EndLackOfMemory(const MSG& message) {
+    try {
+        AfxThrowMemoryException();
+    } catch (CException* exception) {
+        return EndException(exception, message);
+    }
+}
+
 /// Calls `handle`; an exception that it leaves ends here and gives the result.
 template <class Handle>
 LRESULT Guarded(const MSG& message, Handle handle) {
@@ -59,6 +69,8 @@ LRESULT Guarded(const MSG& message, Handle handle) {
         return handle();
     } catch (CException* exception) {
         return EndException(exception, message);
+    } catch (const std::bad_alloc&) {
+        return EndLackOfMemory(message);
     } catch (const std::exception& exception) {
         return EndException(new CForeignException(CString(exception.what())), message);
     } catch (...) {

@@ -239,7 +239,7 @@ TEST_F(MessageLoopTest, MessageBoxesGoThroughTheApplication) {
 
 // Exceptions ----------------------------------------------------------------------------------------------------------
 
-enum class Throws { Nothing, Framework, Standard, Other, User };
+enum class Throws { Nothing, Framework, Memory, Standard, Other, User };
 
 class CThrowing : public CTestWindow {
 public:
@@ -252,6 +252,8 @@ public:
             break;
         case Throws::Framework:
             AfxThrowInvalidArgException();
+        case Throws::Memory:
+            throw std::bad_alloc();
         case Throws::Standard:
             throw std::runtime_error("out of ideas");
         case Throws::Other:
@@ -300,6 +302,12 @@ TEST_F(ExceptionEndTest, EndsInTheApplicationAndItsAnswerIsTheMessagesResult) {
     EXPECT_EQ(m_app.m_exceptionMessage.wParam, 3u);
     m_window.m_throws = Throws::Nothing;
     EXPECT_EQ(m_window.SendMessage(WM_APP), 1); // nothing is left of it
+}
+
+TEST_F(ExceptionEndTest, ALackOfMemoryComesAsTheExceptionThatExistsFromTheStart) {
+    m_window.m_throws = Throws::Memory;
+    EXPECT_EQ(m_window.SendMessage(WM_APP), 77);
+    EXPECT_THAT(m_app.m_exceptions, testing::ElementsAre(L"Memory has run out."));
 }
 
 TEST_F(ExceptionEndTest, ExceptionsOfOtherTypesComeWithTheirOwnMessage) {

@@ -99,12 +99,16 @@ private:
 Handles handles;
 long heapBlocks = 0;
 long heapBytes = 0;
+long long takenBytes = 0;
 
 void NoteBlock(void* block, int direction) {
     if (block == nullptr)
         return;
     ::InterlockedExchangeAdd(&heapBlocks, direction);
-    ::InterlockedExchangeAdd(&heapBytes, direction * static_cast<long>(::_msize(block)));
+    const auto size = static_cast<long>(::_msize(block));
+    ::InterlockedExchangeAdd(&heapBytes, direction * size);
+    if (direction > 0)
+        ::InterlockedExchangeAdd64(&takenBytes, size);
 }
 
 // --- The functions ---------------------------------------------------------------------------------------------------
@@ -377,6 +381,8 @@ long Open(Kind kind) {
         return heapBlocks;
     return kind == Kind::HeapByte ? heapBytes : handles.Open(kind);
 }
+
+long long TakenBytes() { return takenBytes; }
 
 const char* NameOf(Kind kind) { return KindNames[static_cast<int>(kind)]; }
 

@@ -31,6 +31,8 @@ enum class Kind {
 /// How much of it has been taken and not given back. Takes no memory itself.
 long Open(Kind kind);
 const char* NameOf(Kind kind);
+/// The bytes taken from the heap so far, whether or not they were given back.
+long long TakenBytes();
 
 /// What happened between `Begin` and `End`.
 struct Outcome {

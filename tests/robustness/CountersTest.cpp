@@ -17,7 +17,7 @@ TEST(Counters, CatchLeaksOfEveryKind) {
     BecomeIdle();
     const auto destroy = [](auto* object) { delete object; };
     // The first window of a thread brings one for input along, and tables are made at their first use.
-    const GridRig rig;
+    GridRig rig;
     {
         CMenu menu;
         menu.CreatePopupMenu();
@@ -26,24 +26,41 @@ TEST(Counters, CatchLeaksOfEveryKind) {
         "GDI object", [] { return new CPen(PS_SOLID, 1, RGB(1, 2, 3)); }, destroy);
     ExpectCounted(
         "framework's GDI object", [] { return new CBrush(RGB(1, 2, 3)); }, destroy);
-    ExpectCounted(
-        "device context",
-        [] {
-            auto* dc = new CDC;
-            dc->CreateCompatibleDC(nullptr);
-            return dc;
-        },
-        destroy);
+    for (const char* counter : {"device context", "framework's device context"}) {
+        ExpectCounted(
+            counter,
+            [] {
+                auto* dc = new CDC;
+                dc->CreateCompatibleDC(nullptr);
+                return dc;
+            },
+            destroy);
+    }
     ExpectCounted(
         "window's device context", [] { return new CClientDC(nullptr); }, destroy);
     ExpectCounted(
-        "menu",
-        [] {
-            auto* menu = new CMenu;
-            menu->CreatePopupMenu();
-            return menu;
+        "painting", [&rig] { return new CPaintDC(rig.grid); }, destroy);
+    for (const char* counter : {"menu", "framework's menu"}) {
+        ExpectCounted(
+            counter,
+            [] {
+                auto* menu = new CMenu;
+                menu->CreatePopupMenu();
+                return menu;
+            },
+            destroy);
+    }
+    ExpectCounted(
+        "framework's window",
+        [&rig] {
+            auto* window = new CWnd;
+            window->Create(L"STATIC", L"", WS_CHILD, CRect(0, 0, 9, 9), rig.grid, 1);
+            return window;
         },
-        destroy);
+        [](CWnd* window) {
+            window->DestroyWindow();
+            delete window;
+        });
     ExpectCounted(
         "record item", [] { return new CXTPReportRecordItemText(L"x"); },
         [](CXTPReportRecordItem* item) { item->InternalRelease(); });
@@ -51,6 +68,8 @@ TEST(Counters, CatchLeaksOfEveryKind) {
         "record", [] { return new CXTPReportRecord; }, [](CXTPReportRecord* record) { record->InternalRelease(); });
     ExpectCounted(
         "heap block", [] { return new char[100]; }, [](char* block) { delete[] block; });
+    ExpectCounted(
+        "heap byte", [] { return new char[1]; }, [](char* block) { delete[] block; });
     ExpectCounted(
         "window",
         [] { return ::CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr); },
@@ -61,7 +80,17 @@ TEST(Counters, CatchLeaksOfEveryKind) {
     ExpectCounted(
         "file", [&path] { return new CFile(path, CFile::modeCreate | CFile::modeWrite); }, destroy);
     ::DeleteFileW(path);
-    // The caller closes it, and this program's own calls are not counted.
+    ExpectCounted(
+        "hook",
+        [&rig] {
+            AfxHookWindowCreate(rig.grid);
+            return rig.grid;
+        },
+        [](CWnd*) { AfxUnhookWindowCreate(); });
+    // The caller gives these back, and this program's own calls are not counted.
+    const long blocks = Counts().Of("global block");
+    ::GlobalFree(rig.Bar(0).CreateDIB(*rig.grid, 10, 10));
+    EXPECT_EQ(Counts().Of("global block"), blocks + 1);
     const long keys = Counts().Of("registry key");
     ::RegCloseKey(AfxGetApp()->GetSectionKey(L"Counted"));
     EXPECT_EQ(Counts().Of("registry key"), keys + 1);

@@ -248,9 +248,11 @@ BOOL CFrameWnd::PreTranslateMessage(MSG* pMsg) {
 void CFrameWnd::OnInitMenuPopup(CMenu* pPopupMenu, UINT, BOOL bSysMenu) {
     if (bSysMenu || pPopupMenu == nullptr)
         return;
+    // A menu that is no more has -1 items.
+    const auto countOf = [](const CMenu& menu) { return static_cast<UINT>(std::max(menu.GetMenuItemCount(), 0)); };
     CCmdUI item;
     item.m_pMenu = pPopupMenu;
-    item.m_nIndexMax = static_cast<UINT>(pPopupMenu->GetMenuItemCount());
+    item.m_nIndexMax = countOf(*pPopupMenu);
     for (item.m_nIndex = 0; item.m_nIndex < item.m_nIndexMax; ++item.m_nIndex) {
         item.m_nID = pPopupMenu->GetMenuItemID(static_cast<int>(item.m_nIndex));
         if (item.m_nID == 0)
@@ -270,7 +272,7 @@ void CFrameWnd::OnInitMenuPopup(CMenu* pPopupMenu, UINT, BOOL bSysMenu) {
             item.DoUpdate(this, m_bAutoMenuEnable && item.m_nID < firstSystemCommand);
         }
         // An update handler may have put other items in this one's place.
-        const auto count = static_cast<UINT>(pPopupMenu->GetMenuItemCount());
+        const UINT count = countOf(*pPopupMenu);
         if (count < item.m_nIndexMax) {
             item.m_nIndex -= item.m_nIndexMax - count;
             while (item.m_nIndex < count && pPopupMenu->GetMenuItemID(static_cast<int>(item.m_nIndex)) == item.m_nID)

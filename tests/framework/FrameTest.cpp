@@ -267,6 +267,13 @@ TEST_F(StatusBarTest, ItsMenuCommandShowsAndHidesIt) {
     EXPECT_FALSE(open());
 }
 
+TEST_F(StatusBarTest, AMenuThatIsNoMoreIsNotUpdated) {
+    m_frame->ShowWindow(SW_SHOWNOACTIVATE);
+    m_frame->SendMessage(WM_INITMENUPOPUP, 0x7FFF, 0);
+    m_frame->SendMessage(WM_COMMAND, ID_VIEW_STATUS_BAR);
+    EXPECT_FALSE(m_bar.IsVisible()) << "the frame goes on";
+}
+
 TEST_F(StatusBarTest, ASizableFrameGetsAGrip) {
     EXPECT_EQ(m_bar.GetStyle() & SBARS_SIZEGRIP, 0u);
     auto* sizable = new CTestFrame;

@@ -49,6 +49,13 @@ TEST_F(ToolTipTest, TheMessageLoopBringsTheMouseToTheTips) {
     EXPECT_FALSE(m_tips->IsTipVisible()) << "the pointer has left";
 }
 
+TEST_F(ToolTipTest, ARequestToPrintWithoutADeviceContextDrawsNothing) {
+    Item(1, 1)->SetTooltip(_T("the tip"));
+    Hover(Cell(1, 1));
+    EXPECT_EQ(m_tips->GetTipWindow()->SendMessage(WM_PRINTCLIENT, 0, PRF_CLIENT), 0);
+    EXPECT_TRUE(m_tips->IsTipVisible());
+}
+
 TEST_F(ToolTipTest, ItStandsBelowThePointerInsideTheScreen) {
     Item(1, 1)->SetTooltip(_T("the tip"));
     Hover(Cell(1, 1));

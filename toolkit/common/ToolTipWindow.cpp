@@ -158,7 +158,8 @@ void ToolTipWindow::OnPaint() {
 }
 
 LRESULT ToolTipWindow::OnPrintClient(CDC* pDC, UINT) {
-    Draw(*pDC);
+    if (pDC)
+        Draw(*pDC);
     return 0;
 }
 

@@ -1,7 +1,11 @@
 // The report grid in which plot cells can be dragged.
+//
+// The toolkit's handlers, the cells' signals and overrides of the host may do anything, even destroy the grid: after each
+// of them a handler looks whether the window is gone, and then touches nothing more.
 #include "KyPlotRecordReportControl.h"
 
 #include "../common/KeepAlive.h"
+#include "../common/WindowLife.h"
 #include "KyPlotRecordItem.h"
 
 #include <algorithm>
@@ -35,10 +39,12 @@ void KyPlotRecordReportControl::RouteDragTo(KyPlotRecordItem* item) {
 
 /// Ends the routing to a cell that the host has taken out of the grid.
 void KyPlotRecordReportControl::ForgetRemovedDragItem() {
-    if (m_pDragItem != nullptr && m_pDragItem->GetReportControl() != this) {
-        m_pDragItem->EndDrag(CPoint(), m_rcDragItem, false);
-        RouteDragTo(nullptr);
-    }
+    if (m_pDragItem == nullptr || m_pDragItem->GetReportControl() == this)
+        return;
+    const KeepAlive alive(*m_pDragItem);
+    KyPlotRecordItem* const removed = m_pDragItem;
+    RouteDragTo(nullptr);
+    removed->EndDrag(CPoint(), m_rcDragItem, false);
 }
 
 /// A point outside the dragged cell becomes one at the cell's vertical middle, at or between its left and right edge,
@@ -62,8 +68,13 @@ void KyPlotRecordReportControl::OnPlotRecordItemDragCancelled() {}
 // --- Mouse -----------------------------------------------------------------------------------------------------------
 
 void KyPlotRecordReportControl::OnLButtonDown(UINT flags, CPoint point) {
+    const WindowLife life(*this);
     KyReportControl::OnLButtonDown(flags, point);
+    if (life.HasEnded())
+        return;
     ForgetRemovedDragItem();
+    if (life.HasEnded())
+        return;
     CXTPReportRow* const row = HitTest(point);
     if (row == nullptr)
         return;
@@ -82,8 +93,12 @@ void KyPlotRecordReportControl::OnLButtonDown(UINT flags, CPoint point) {
     if (capture) {
         SetCapture();
         // A drag that was left routed to another cell ends there, unapplied.
-        if (m_pDragItem != nullptr && m_pDragItem != item)
+        if (m_pDragItem != nullptr && m_pDragItem != item) {
+            const KeepAlive formerAlive(*m_pDragItem);
             m_pDragItem->EndDrag(point, m_rcDragItem, false);
+        }
+        if (life.HasEnded())
+            return;
         RouteDragTo(item);
         m_rcDragItem = cell;
     }
@@ -91,14 +106,20 @@ void KyPlotRecordReportControl::OnLButtonDown(UINT flags, CPoint point) {
 }
 
 void KyPlotRecordReportControl::OnMouseMove(UINT flags, CPoint point) {
+    const WindowLife life(*this);
     ForgetRemovedDragItem();
+    if (life.HasEnded())
+        return;
     if (m_pDragItem != nullptr)
         point = PulledIntoDragItem(point);
     KyReportControl::OnMouseMove(flags, point);
 }
 
 void KyPlotRecordReportControl::OnLButtonUp(UINT flags, CPoint point) {
+    const WindowLife life(*this);
     ForgetRemovedDragItem();
+    if (life.HasEnded())
+        return;
     if (m_pDragItem != nullptr)
         point = PulledIntoDragItem(point);
     {
@@ -107,7 +128,11 @@ void KyPlotRecordReportControl::OnLButtonUp(UINT flags, CPoint point) {
         } end;
         KyReportControl::OnLButtonUp(flags, point);
     }
+    if (life.HasEnded())
+        return;
     ForgetRemovedDragItem();
+    if (life.HasEnded())
+        return;
 
     // Intended: a release over no row or no item leaves the drag routed until the next release, Escape or leave.
     CXTPReportRow* const row = HitTest(point);
@@ -129,26 +154,33 @@ void KyPlotRecordReportControl::OnLButtonUp(UINT flags, CPoint point) {
         dragged->EndDrag(point, cell, true);
     else
         dragged->EndDrag(point, m_rcDragItem, false);
-    RedrawControl();
+    if (!life.HasEnded())
+        RedrawControl();
 }
 
 void KyPlotRecordReportControl::OnMouseLeave() {
+    const WindowLife life(*this);
     ForgetRemovedDragItem();
+    if (life.HasEnded())
+        return;
     if (m_pDragItem != nullptr) {
         const KeepAlive alive(*m_pDragItem);
         KyPlotRecordItem* const dragged = m_pDragItem;
         RouteDragTo(nullptr);
         dragged->EndDrag(CursorPosition(), dragged->GetItemRect(), true);
+        if (life.HasEnded())
+            return;
         RedrawControl();
     }
     KyReportControl::OnMouseLeave();
 }
 
 BOOL KyPlotRecordReportControl::OnSetCursor(CWnd* wnd, UINT hitTest, UINT message) {
+    const WindowLife life(*this);
     const CPoint point = CursorPosition();
     if (CXTPReportRow* const row = HitTest(point)) {
         auto* const item = dynamic_cast<KyPlotRecordItem*>(row->HitTest(point, nullptr, nullptr));
-        if (item != nullptr && item->OnSetCursor(point))
+        if (item != nullptr && (item->OnSetCursor(point) || life.HasEnded()))
             return TRUE;
     }
     return KyReportControl::OnSetCursor(wnd, hitTest, message);
@@ -160,8 +192,13 @@ BOOL KyPlotRecordReportControl::PreTranslateMessage(MSG* msg) {
     // Intended: only wParam is looked at, so any message that carries 27 there cancels a routed drag.
     if (msg->wParam == VK_ESCAPE && m_pDragItem != nullptr) {
         const KeepAlive alive(*m_pDragItem);
+        const WindowLife life(*this);
         m_pDragItem->CancelDrag();
+        if (life.HasEnded())
+            return TRUE;
         OnPlotRecordItemDragCancelled();
+        if (life.HasEnded())
+            return TRUE; // there is no window left that the message could go to
         RouteDragTo(nullptr);
     }
     return KyReportControl::PreTranslateMessage(msg);

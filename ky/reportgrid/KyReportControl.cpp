@@ -3,6 +3,7 @@
 
 #include "../common/KyMessages.h"
 #include "../common/Translation.h"
+#include "../common/WindowLife.h"
 #include "../themes/Themes.h"
 #include "KyReportHeader.h"
 
@@ -117,9 +118,12 @@ void KyReportControl::OnColumnHeaderRClick(CPoint point) {
     CXTPMDIFrameWnd* frame = DYNAMIC_DOWNCAST(CXTPMDIFrameWnd, AfxGetMainWnd());
     CPoint screen = point;
     ClientToScreen(&screen);
-    RunColumnCommand(CXTPCommandBars::TrackPopupMenu(&menu, TPM_RIGHTBUTTON | TPM_NONOTIFY | TPM_RETURNCMD, screen.x,
-                                                     screen.y, this, nullptr, this,
-                                                     frame ? frame->GetCommandBars() : nullptr));
+    const WindowLife life(*this);
+    const int command = CXTPCommandBars::TrackPopupMenu(&menu, TPM_RIGHTBUTTON | TPM_NONOTIFY | TPM_RETURNCMD, screen.x,
+                                                        screen.y, this, nullptr, this,
+                                                        frame ? frame->GetCommandBars() : nullptr);
+    if (!life.HasEnded()) // anything may happen while a menu is open
+        RunColumnCommand(command);
 }
 
 void KyReportControl::FillColumnMenu(CMenu& menu) {

@@ -1,0 +1,129 @@
+// What holds whatever a user or a message does.
+#include "Invariants.h"
+
+#include "PlotPeek.h"
+#include "Sentinel.h"
+
+#include "plotcells/KyPlotRecordItem.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <vector>
+
+namespace {
+
+void Expect(bool holds, const char* what) {
+    if (!holds)
+        sentinel::Fail(std::string("broken: ") + what);
+}
+
+void CheckRows(CXTPReportControl& grid) {
+    const int rows = grid.GetRows()->GetCount();
+    const RowSelection& selection = grid.GetSelectedRows()->GetRanges();
+    if (const CXTPReportRow* focused = grid.GetFocusedRow())
+        Expect(focused->GetIndex() >= 0 && focused->GetIndex() < rows, "the focused row is one of the rows");
+    const int selected = grid.GetSelectedRows()->GetCount();
+    Expect(selected >= 0 && selected <= rows, "no more rows are selected than there are");
+    Expect(!selection.Contains(rows) && !selection.Contains(-1), "the selection lies within the rows");
+    if (selected > 0)
+        Expect(grid.GetSelectedRows()->GetAt(selected - 1) != nullptr, "the last selected row is a row");
+    Expect(grid.IsMultipleSelection() || selected <= 1, "a single selection holds one row at most");
+    const int top = grid.GetTopRowIndex();
+    Expect(top >= 0 && top <= std::max(rows - grid.GetFullyVisibleRowCount(), 0), "the top row is in range");
+    Expect(grid.IsVirtualMode() || rows <= grid.GetRecords()->GetCount(), "rows have records");
+}
+
+void CheckColumns(CXTPReportControl& grid) {
+    const CXTPReportColumns& columns = *grid.GetColumns();
+    const CRect header = grid.GetHeaderRect();
+    int x = header.left - grid.GetLeftOffset(), total = 0;
+    for (int i = 0; i < columns.GetCount(); ++i) {
+        const CXTPReportColumn* column = columns.GetAt(i);
+        Expect(column->GetControl() == &grid, "a column belongs to its grid");
+        Expect(column->GetWidth() >= column->GetMinWidth() && column->GetWidth() <= column->GetMaxWidth(),
+               "a column's width is within its limits");
+        if (!column->IsVisible())
+            continue;
+        Expect(column->GetRect().left == x && column->GetRect().Width() == column->GetWidth(),
+               "columns stand side by side");
+        x += column->GetWidth();
+        total += column->GetWidth();
+    }
+    const int offset = grid.GetLeftOffset();
+    Expect(offset >= 0 && offset <= std::max(total - header.Width(), 0), "the sideways offset is in range");
+    const CXTPReportColumnOrder& order = *grid.GetColumns()->GetSortOrder();
+    for (int i = 0; i < order.GetCount(); ++i)
+        Expect(columns.IndexOf(order.GetAt(i)) >= 0, "the grid is sorted by columns that it has");
+    if (const CXTPReportColumn* focused = grid.GetFocusedColumn())
+        Expect(focused->IsVisible() && columns.IndexOf(focused) >= 0, "the focused column is visible");
+    const CXTPReportColumn* fixed = columns.Find(CString(L"Name"));
+    Expect(!fixed || fixed->IsVisible(), "the column that cannot be hidden is visible");
+}
+
+void CheckCells(CXTPReportControl& grid) {
+    const CRect rcReport = grid.GetReportRectangle();
+    const int first = grid.GetTopRowIndex();
+    const int last = std::min(first + grid.GetFullyVisibleRowCount(), grid.GetRows()->GetCount()) - 1;
+    for (int i = first; i <= last; ++i) {
+        const CXTPReportRow* row = grid.GetRows()->GetAt(i);
+        const CRect rcRow = row->GetRect();
+        // A view lower than a row shows a part of it.
+        Expect(rcRow.top >= rcReport.top && (rcRow.bottom <= rcReport.bottom || i == first), "rows lie in the view");
+        const CXTPReportRecord* record = row->GetRecord();
+        for (int item = 0; record && item < record->GetItemCount(); ++item) {
+            const auto* plot = dynamic_cast<const KyPlotRecordItem*>(record->GetItem(item));
+            const CRect rcItem = row->GetItemRect(record->GetItem(item));
+            Expect(rcItem.IsRectEmpty() || (rcItem.top == rcRow.top && rcItem.bottom == rcRow.bottom - 1),
+                   "cells lie in their rows");
+            Expect(!plot || plotpeek::Drags(*plot) <= 1, "a plot has one dragged mark at most");
+        }
+    }
+}
+
+std::vector<BYTE> LayoutOf(CXTPReportControl& grid) {
+    CMemFile file(1024);
+    CArchive archive(&file, CArchive::store);
+    grid.SerializeState(archive);
+    archive.Close();
+    const auto length = static_cast<std::size_t>(file.GetLength());
+    BYTE* bytes = file.Detach();
+    std::vector<BYTE> layout(bytes, bytes + length);
+    std::free(bytes);
+    return layout;
+}
+
+} // namespace
+
+namespace invariants {
+
+void Check(const Zoo& zoo, bool isAtRest) {
+    for (CXTPReportControl* grid : zoo.Grids()) {
+        CheckRows(*grid);
+        CheckColumns(*grid);
+        CheckCells(*grid);
+        if (isAtRest)
+            Expect(grid->GetMouseMode() == xtpReportMouseNothing ||
+                       grid->GetMouseMode() == xtpReportMouseOverColumnDivide,
+                   "no gesture goes on without the mouse");
+    }
+    if (isAtRest)
+        Expect(::GetCapture() == nullptr, "the mouse is not captured while no button is down");
+    Expect(AfxGetMainWnd() == zoo.Profiler(), "the program knows its main window");
+}
+
+void CheckLayouts(const Zoo& zoo) {
+    for (CXTPReportControl* grid : zoo.Grids()) {
+        std::vector<BYTE> layout = LayoutOf(*grid);
+        CMemFile file(layout.data(), static_cast<UINT>(layout.size()));
+        CArchive archive(&file, CArchive::load);
+        try {
+            grid->SerializeState(archive);
+        } catch (CException* e) {
+            e->Delete();
+            sentinel::Fail("broken: a layout that was written can be read");
+        }
+        Expect(LayoutOf(*grid) == layout, "a layout read back is the one written");
+    }
+}
+
+} // namespace invariants

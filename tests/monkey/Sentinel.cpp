@@ -1,0 +1,190 @@
+// What ends a run that went wrong: crashes, hangs and broken invariants, told with the seed and the last events.
+#include "Sentinel.h"
+
+#include <array>
+#include <atomic>
+#include <cstdio>
+#include <cstring>
+#include <vector>
+
+namespace {
+
+constexpr std::size_t LastEvents = 50;
+/// An event that takes longer is a hang. Machines that run the tests are busy with much else.
+constexpr DWORD HangTime = 60000;
+constexpr int LargestStack = 40;
+constexpr DWORD TailAndFreeChecks = 0x30; // flags of the system's heap
+
+std::string g_replay;
+std::array<std::string, LastEvents> g_journal;
+std::atomic<std::int64_t> g_events{0};
+std::atomic<bool> g_isFailing{false};
+HANDLE g_thread = nullptr;
+DWORD g_threadId = 0;
+
+/// "module+0x1234", as the addresses of the linker's map and of addr2line have it.
+std::string PlaceOf(DWORD64 address) {
+    HMODULE module = nullptr;
+    char text[MAX_PATH + 32] = "";
+    ::GetModuleHandleExA(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                         reinterpret_cast<LPCSTR>(address), &module);
+    char path[MAX_PATH] = "?";
+    if (module)
+        ::GetModuleFileNameA(module, path, MAX_PATH);
+    const char* name = std::strrchr(path, '\\');
+    std::snprintf(text, sizeof(text), "%s+0x%llx", name ? name + 1 : path,
+                  static_cast<unsigned long long>(address - reinterpret_cast<DWORD64>(module)));
+    return text;
+}
+
+std::vector<DWORD64> StackOf(CONTEXT context) {
+    std::vector<DWORD64> stack;
+    while (context.Rip != 0 && stack.size() < LargestStack) {
+        stack.push_back(context.Rip);
+        DWORD64 base = 0;
+        RUNTIME_FUNCTION* function = ::RtlLookupFunctionEntry(context.Rip, &base, nullptr);
+        if (!function) {
+            // A function without unwind data has called nothing: its caller's address is on top.
+            if (::IsBadReadPtr(reinterpret_cast<void*>(context.Rsp), sizeof(DWORD64)))
+                break;
+            context.Rip = *reinterpret_cast<DWORD64*>(context.Rsp);
+            context.Rsp += sizeof(DWORD64);
+            continue;
+        }
+        void* data = nullptr;
+        DWORD64 frame = 0;
+        ::RtlVirtualUnwind(UNW_FLAG_NHANDLER, base, context.Rip, function, &context, &data, &frame, nullptr);
+    }
+    return stack;
+}
+
+[[noreturn]] void End(const char* what, const CONTEXT* context) {
+    if (g_isFailing.exchange(true))
+        ::Sleep(INFINITE); // the first failure is being told
+    const std::int64_t last = g_events;
+    std::fprintf(stderr, "\nmonkey: FAILED at event %lld: %s\n", static_cast<long long>(last), what);
+    std::fprintf(stderr, "replay with: %s\nlast events:\n", g_replay.c_str());
+    for (std::int64_t i = last > std::int64_t{LastEvents} ? last - std::int64_t{LastEvents} : 0; i < last; ++i)
+        std::fprintf(stderr, "  %lld %s\n", static_cast<long long>(i + 1), g_journal[i % LastEvents].c_str());
+    if (context) {
+        std::fprintf(stderr, "stack:\n");
+        for (const DWORD64 address : StackOf(*context))
+            std::fprintf(stderr, "  %s\n", PlaceOf(address).c_str());
+    }
+    std::fflush(nullptr);
+    ::TerminateProcess(::GetCurrentProcess(), 1);
+    ::Sleep(INFINITE);
+    std::abort();
+}
+
+/// Sees a crash first: a handler further out may swallow it, as that of window procedures does.
+LONG CALLBACK OnException(EXCEPTION_POINTERS* pointers) {
+    const EXCEPTION_RECORD& record = *pointers->ExceptionRecord;
+    switch (record.ExceptionCode) {
+    case EXCEPTION_ACCESS_VIOLATION:
+    case EXCEPTION_STACK_OVERFLOW:
+    case EXCEPTION_ILLEGAL_INSTRUCTION:
+    case EXCEPTION_INT_DIVIDE_BY_ZERO:
+    case EXCEPTION_BREAKPOINT:
+    case 0xC0000374: // a damaged heap
+        break;
+    default:
+        return EXCEPTION_CONTINUE_SEARCH;
+    }
+    char what[160];
+    std::snprintf(what, sizeof(what), "crash 0x%08lx at %s, address 0x%llx", record.ExceptionCode,
+                  PlaceOf(pointers->ContextRecord->Rip).c_str(),
+                  record.NumberParameters > 1 ? static_cast<unsigned long long>(record.ExceptionInformation[1]) : 0);
+    End(what, pointers->ContextRecord);
+}
+
+DWORD WINAPI WatchForHangs(void*) {
+    std::int64_t seen = -1;
+    DWORD since = ::GetTickCount();
+    for (;;) {
+        ::Sleep(200);
+        const std::int64_t now = g_events;
+        if (now != seen) {
+            seen = now;
+            since = ::GetTickCount();
+        } else if (::GetTickCount() - since > HangTime) {
+            ::SuspendThread(g_thread);
+            CONTEXT context = {};
+            context.ContextFlags = CONTEXT_FULL;
+            ::GetThreadContext(g_thread, &context);
+            End("hang: the event does not end", &context);
+        }
+    }
+}
+
+} // namespace
+
+namespace sentinel {
+
+bool HasHeapChecks() {
+    using GetFlags = ULONG(NTAPI*)();
+    const auto flags = reinterpret_cast<GetFlags>(
+        reinterpret_cast<void*>(::GetProcAddress(::GetModuleHandleA("ntdll"), "RtlGetNtGlobalFlags")));
+    return flags && (flags() & TailAndFreeChecks) == TailAndFreeChecks;
+}
+
+int RunWithHeapChecks() {
+    wchar_t path[MAX_PATH];
+    ::GetModuleFileNameW(nullptr, path, MAX_PATH);
+    const wchar_t* name = std::wcsrchr(path, L'\\') + 1;
+    const std::wstring key =
+        std::wstring(L"SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion\\Image File Execution Options\\") + name;
+    const DWORD value = TailAndFreeChecks;
+    constexpr const wchar_t* Second = L"KY_MONKEY_CHECKED"; // never a third run, whatever the flags say
+    if (HasHeapChecks() || ::GetEnvironmentVariableW(Second, nullptr, 0) != 0 ||
+        !::SetEnvironmentVariableW(Second, L"1") ||
+        ::RegSetKeyValueW(HKEY_LOCAL_MACHINE, key.c_str(), L"GlobalFlag", REG_DWORD, &value, sizeof(value)) != 0)
+        return -1;
+    STARTUPINFOW startup = {};
+    startup.cb = sizeof(startup);
+    PROCESS_INFORMATION process = {};
+    std::wstring commandLine = ::GetCommandLineW();
+    DWORD code = static_cast<DWORD>(-1);
+    if (::CreateProcessW(path, commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &process)) {
+        ::WaitForSingleObject(process.hProcess, INFINITE);
+        ::GetExitCodeProcess(process.hProcess, &code);
+        ::CloseHandle(process.hThread);
+        ::CloseHandle(process.hProcess);
+    }
+    // Only this program's own runs want it, and each asks anew.
+    ::RegDeleteTreeW(HKEY_LOCAL_MACHINE, key.c_str());
+    return static_cast<int>(code);
+}
+
+void Watch(std::string replay) {
+    g_replay = std::move(replay);
+    g_threadId = ::GetCurrentThreadId();
+    ::DuplicateHandle(::GetCurrentProcess(), ::GetCurrentThread(), ::GetCurrentProcess(), &g_thread, 0, FALSE,
+                      DUPLICATE_SAME_ACCESS);
+    ::AddVectoredExceptionHandler(1, &OnException);
+    ::CloseHandle(::CreateThread(nullptr, 0, &WatchForHangs, nullptr, 0, nullptr));
+}
+
+void Note(std::string text) {
+    g_journal[g_events % LastEvents] = std::move(text);
+    ++g_events;
+}
+
+std::int64_t EventsNoted() { return g_events; }
+
+void Fail(const std::string& what) {
+    CONTEXT context;
+    ::RtlCaptureContext(&context);
+    End(what.c_str(), &context);
+}
+
+void CheckHeaps() {
+    HANDLE heaps[64];
+    const DWORD count = std::min<DWORD>(::GetProcessHeaps(64, heaps), 64);
+    for (DWORD i = 0; i < count; ++i) {
+        if (!::HeapValidate(heaps[i], 0, nullptr))
+            Fail("a heap is damaged");
+    }
+}
+
+} // namespace sentinel

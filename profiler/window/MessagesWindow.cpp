@@ -113,8 +113,10 @@ void MessagesWindow::OnSetFocus(CWnd*) { m_text.SetFocus(); }
 
 HBRUSH MessagesWindow::OnCtlColor(CDC* dc, CWnd*, UINT) {
     // Text to read, not a field that is switched off.
-    dc->SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
-    dc->SetBkColor(::GetSysColor(COLOR_WINDOW));
+    if (dc != nullptr) {
+        dc->SetTextColor(::GetSysColor(COLOR_WINDOWTEXT));
+        dc->SetBkColor(::GetSysColor(COLOR_WINDOW));
+    }
     return ::GetSysColorBrush(COLOR_WINDOW);
 }
 

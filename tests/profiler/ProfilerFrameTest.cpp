@@ -98,6 +98,13 @@ TEST_F(ProfilerFrameTest, OnlyAHeaderShowsItsColumns) {
     EXPECT_EQ(Cell(0, TypeItem), L"Empty");
 }
 
+TEST_F(ProfilerFrameTest, TheMessagesHaveTheirColoursAlsoWithoutADeviceContext) {
+    const HWND window = ::FindWindow(nullptr, L"Messages");
+    ASSERT_NE(window, nullptr);
+    EXPECT_EQ(reinterpret_cast<HBRUSH>(::SendMessage(window, WM_CTLCOLORSTATIC, 0, 0)),
+              ::GetSysColorBrush(COLOR_WINDOW));
+}
+
 TEST_F(ProfilerFrameTest, MessagesCanBeLookedAtAndHidden) {
     Open(Write(L"odd.csv", "a,b\n1,2\n3\n"));
     EXPECT_EQ(MenuState(1, ID_VIEW_MESSAGES) & MF_CHECKED, 0u);

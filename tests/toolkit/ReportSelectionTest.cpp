@@ -79,6 +79,22 @@ TEST_F(UserSelectionTest, EndingMultipleSelectionKeepsTheFocusedRow) {
     EXPECT_THAT(Selected(), ElementsAre(6));
 }
 
+TEST_F(UserSelectionTest, EndingMultipleSelectionEndsADragOverRows) {
+    Press(Cell(2));
+    Move(Cell(5));
+    m_grid.SetMultipleSelection(FALSE);
+    EXPECT_EQ(m_grid.GetMouseMode(), xtpReportMouseNothing);
+    Move(Cell(7));
+    EXPECT_EQ(Selected().size(), 1U);
+    Release(Cell(7));
+    m_grid.SetMultipleSelection(TRUE);
+    Press(Cell(2));
+    m_grid.SetMultipleSelection(FALSE);
+    Move(Cell(5));
+    EXPECT_THAT(Selected(), ElementsAre(2)) << "nor does a press go on to become one";
+    Release(Cell(5));
+}
+
 TEST_F(UserSelectionTest, ARightClickSelectsARowThatIsNotSelected) {
     Click(Cell(2));
     Click(Cell(4), MK_SHIFT);

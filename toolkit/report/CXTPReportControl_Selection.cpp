@@ -5,6 +5,8 @@
 #include "CXTPReportRecord.h"
 
 void CXTPReportControl::SetMultipleSelection(BOOL bMultiple) {
+    if (!bMultiple)
+        m_impl->CancelGesture(); // a drag over rows would go on to select several
     m_impl->isMultipleSelection = bMultiple != FALSE;
     if (bMultiple || m_impl->selectedRows->GetCount() <= 1)
         return;

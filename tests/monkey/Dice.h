@@ -8,7 +8,13 @@
 
 class Dice {
 public:
-    explicit Dice(std::uint64_t seed) : m_engine(seed) {}
+    explicit Dice(std::uint64_t seed) : m_seed(seed), m_engine(seed) {}
+
+    /// What is cast from now on depends on the seed and the event alone: that something took longer, or came in another
+    /// order, in one event does not make other events of the rest.
+    void StartEvent(std::uint64_t event) {
+        m_engine.seed(m_seed * 0x9E3779B97F4A7C15ULL + (event + 1) * 0xD1342543DE82EF95ULL);
+    }
 
     std::uint64_t Bits() { return m_engine(); }
     /// 0…count − 1; 0 when there is nothing to choose from.
@@ -27,5 +33,6 @@ public:
     }
 
 private:
+    std::uint64_t m_seed;
     std::mt19937_64 m_engine;
 };

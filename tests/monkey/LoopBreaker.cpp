@@ -36,7 +36,7 @@ void PressKey(HWND window, UINT key) {
 
 } // namespace
 
-LoopBreaker::LoopBreaker(Dice& dice) : m_dice(dice) {
+LoopBreaker::LoopBreaker(std::uint64_t seed) : m_dice(seed) {
     g_breaker = this;
     m_timer = ::SetTimer(nullptr, 0, Interval, &LoopBreaker::OnTimer);
 }
@@ -54,7 +54,10 @@ void CALLBACK LoopBreaker::OnTimer(HWND, UINT, UINT_PTR, DWORD) {
 void LoopBreaker::OnTick() {
     const long long event = sentinel::EventsNoted();
     m_ticks = event == m_event ? m_ticks + 1 : 0;
-    m_loops += m_ticks == 0;
+    if (m_ticks == 0) {
+        ++m_loops;
+        m_dice.StartEvent(static_cast<std::uint64_t>(event));
+    }
     m_event = event;
     GUITHREADINFO info = {};
     info.cbSize = sizeof(info);

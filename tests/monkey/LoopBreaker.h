@@ -10,7 +10,7 @@
 /// of a dialog, by the release of the mouse. What does not end by that is cancelled.
 class LoopBreaker {
 public:
-    explicit LoopBreaker(Dice& dice);
+    explicit LoopBreaker(std::uint64_t seed);
     ~LoopBreaker();
     LoopBreaker(const LoopBreaker&) = delete;
     LoopBreaker& operator=(const LoopBreaker&) = delete;
@@ -24,7 +24,7 @@ private:
     void CloseDialog(HWND dialog);
     void ReleaseMouse();
 
-    Dice& m_dice;
+    Dice m_dice; ///< its own: how often the timer rings is a matter of time
     UINT_PTR m_timer;
     long long m_event = -1; ///< the event in which the timer rang last
     int m_ticks = 0;        ///< how often in this event

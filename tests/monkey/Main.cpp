@@ -70,7 +70,7 @@ void CheckHandles(const std::map<Kind, long>& before) {
 
 void Play(std::uint64_t seed, int events) {
     Dice dice(seed);
-    LoopBreaker breaker(dice);
+    LoopBreaker breaker(seed);
     { // what is made once per process
         Zoo zoo(dice);
         Pump();
@@ -87,6 +87,7 @@ void Play(std::uint64_t seed, int events) {
             zoo.Tidy();
             zoo.AllowMischief(turn % 2 == 1);
             for (int i = 0; i < EventsPerTurn && played < events; ++i, ++played) {
+                dice.StartEvent(2 * static_cast<std::uint64_t>(played));
                 hands.Act();
                 if (i % EventsPerCheck == 0) {
                     zoo.Upkeep();
@@ -99,6 +100,7 @@ void Play(std::uint64_t seed, int events) {
             invariants::Check(zoo, true);
             zoo.Tidy();
             for (int i = 0; i < EventsPerTurn && sent < events; ++i, ++sent) {
+                dice.StartEvent(2 * static_cast<std::uint64_t>(sent) + 1);
                 noise.Act();
                 if (i % EventsPerCheck == 0) {
                     zoo.Upkeep();

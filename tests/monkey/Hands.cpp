@@ -385,7 +385,13 @@ void Hands::System() {
     if (windows.empty())
         return;
     const HWND window = m_dice.From(windows);
-    switch (m_dice.Below(9)) {
+    switch (m_dice.Below(10)) {
+    case 9: { // the window comes to a monitor of another resolution
+        RECT place = {0, 0, 800, 500};
+        const int dpi = m_dice.Of({96, 96, 120, 144, 192});
+        Deliver(window, 0x02E0 /* WM_DPICHANGED */, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&place));
+        break;
+    }
     case 0:
     case 1:
     case 2:

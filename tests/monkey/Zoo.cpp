@@ -7,6 +7,7 @@
 
 #include <afxext.h>
 
+#include <algorithm>
 #include <cstring>
 #include <cwchar>
 #include <filesystem>
@@ -369,6 +370,22 @@ std::vector<CXTPReportControl*> Zoo::Grids() const {
     return grids;
 }
 
+/// The same for the same window in every run: what it is and whose, from the outermost inwards.
+std::vector<std::uintptr_t> Zoo::PlaceInZoo(HWND window) const {
+    std::vector<std::uintptr_t> place;
+    const auto last = reinterpret_cast<std::uintptr_t>(window);
+    const HWND tops[] = {m_profiler, m_yard, m_documents, m_dialog ? m_dialog->GetSafeHwnd() : nullptr};
+    while (window && window != ::GetDesktopWindow()) {
+        const auto top = std::find(std::begin(tops), std::end(tops), window);
+        const bool isChild = (::GetWindowLong(window, GWL_STYLE) & WS_CHILD) != 0;
+        const int id = isChild ? ::GetDlgCtrlID(window) : static_cast<int>(top - std::begin(tops));
+        place.insert(place.begin(), static_cast<std::uintptr_t>(static_cast<unsigned>(id)));
+        window = isChild ? ::GetAncestor(window, GA_PARENT) : ::GetWindow(window, GW_OWNER);
+    }
+    place.push_back(last);
+    return place;
+}
+
 std::vector<HWND> Zoo::Windows() const {
     std::vector<HWND> windows;
     const auto add = [](HWND window, LPARAM list) -> BOOL {
@@ -382,6 +399,8 @@ std::vector<HWND> Zoo::Windows() const {
         windows.push_back(top);
         ::EnumChildWindows(top, add, reinterpret_cast<LPARAM>(&windows));
     }
+    // Which one is in front is a matter of time.
+    std::sort(windows.begin(), windows.end(), [this](HWND a, HWND b) { return PlaceInZoo(a) < PlaceInZoo(b); });
     return windows;
 }
 

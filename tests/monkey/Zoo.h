@@ -6,6 +6,7 @@
 
 #include "window/ProfilerFrame.h"
 
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -45,6 +46,7 @@ public:
     std::vector<HWND> Windows() const;
 
 private:
+    std::vector<std::uintptr_t> PlaceInZoo(HWND window) const;
     void CreateProfiler();
     void CreateYard();
     void CreateDocuments();

@@ -1,7 +1,7 @@
 // The report grid in which plot cells can be dragged.
 //
-// The toolkit's handlers, the cells' signals and overrides of the host may do anything, even destroy the grid: after each
-// of them a handler looks whether the window is gone, and then touches nothing more.
+// The toolkit's handlers, the cells' signals and overrides of the host may do anything, even destroy the grid: after
+// each of them a handler looks whether the window is gone, and then touches nothing more.
 #include "KyPlotRecordReportControl.h"
 
 #include "../common/KeepAlive.h"

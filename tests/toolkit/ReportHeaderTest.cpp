@@ -224,6 +224,68 @@ TEST_F(HeaderTest, BestFitLooksAtTheRowsInViewAndKeepsTheLimits) {
     EXPECT_EQ(m_columns[0]->GetWidth(), 150);
 }
 
+/// A cell whose text takes its time.
+class SlowItem : public CXTPReportRecordItemText {
+public:
+    explicit SlowItem(int& asked) : m_asked(asked) {}
+    CString GetCaption(CXTPReportColumn*) override {
+        ++m_asked;
+        ::Sleep(15);
+        return L"a text that is wider than its column";
+    }
+
+private:
+    int& m_asked;
+};
+
+TEST_F(HeaderTest, BestFitDoesNotWaitForManySlowTexts) {
+    int asked = 0;
+    m_grid.ResetContent();
+    for (int row = 0; row < VisibleRows; ++row) {
+        auto* const record = new CXTPReportRecord;
+        for (int column = 0; column < 3; ++column)
+            record->AddItem(new SlowItem(asked));
+        m_grid.AddRecord(record);
+    }
+    m_grid.SendMessage(WM_SETREDRAW, FALSE);
+    m_grid.Populate();
+    asked = 0;
+    m_header->BestFit(m_columns[0]);
+    EXPECT_GE(asked, 1);
+    EXPECT_LE(asked, 3) << "40 ms are over then";
+    const int wide = m_columns[0]->GetWidth();
+    EXPECT_GT(wide, 150);
+
+    asked = 0;
+    m_header->BestFitAll();
+    EXPECT_GE(asked, 3) << "one cell of each column at least";
+    EXPECT_LE(asked, 5);
+    for (const CXTPReportColumn* column : m_columns)
+        EXPECT_EQ(column->GetWidth(), wide);
+}
+
+/// A cell that draws something else than a text.
+class PictureItem : public CXTPReportRecordItem {};
+
+TEST_F(HeaderTest, BestFitKeepsTheWidthForPictures) {
+    m_grid.ResetContent();
+    const auto add = [this](CXTPReportRecordItem* item) {
+        auto* const record = new CXTPReportRecord;
+        record->AddItem(item);
+        m_grid.AddRecord(record);
+        m_grid.Populate();
+        m_header->BestFit(m_columns[0]);
+        return m_columns[0]->GetWidth();
+    };
+    m_columns[0]->SetWidth(123);
+    const int caption = add(new CXTPReportRecordItemText(L""));
+    EXPECT_LT(caption, 123) << "an empty text needs no room";
+    m_columns[0]->SetWidth(123);
+    EXPECT_EQ(add(new PictureItem), 123);
+    EXPECT_EQ(add(new CXTPReportRecordItemText(L"short")), 123);
+    EXPECT_GT(add(new CXTPReportRecordItemText(L"a text that is wider than the picture beside it")), 123);
+}
+
 TEST_F(HeaderTest, CtrlPlusFitsAllColumns) {
     const KeysDown ctrl({VK_CONTROL});
     Key(VK_ADD);

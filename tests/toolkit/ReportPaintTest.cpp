@@ -492,6 +492,28 @@ TEST_F(PaintTest, RedrawingARowDrawsThatRow) {
     EXPECT_FALSE(m_grid.GetUpdateRect(nullptr)) << "a row that is not seen";
 }
 
+TEST_F(PaintTest, VeryManyRequestsForRowsCoalesceAndTheLastIsKept) {
+    AddRecords(20);
+    for (int i = 0; i < 1000; ++i)
+        m_grid.RedrawRow(m_grid.GetRows()->GetAt(i < 990 ? i % 2 : 4));
+    m_grid.UpdateWindow();
+    EXPECT_EQ(Item(0, 0)->drawn, 1);
+    EXPECT_EQ(Item(4, 0)->drawn, 1);
+    Settle();
+
+    for (int i = 0; i < 1000; ++i)
+        m_grid.RedrawRow(m_grid.GetRows()->GetAt(0));
+    m_grid.ValidateRect(nullptr);
+    m_grid.RedrawRow(m_grid.GetRows()->GetAt(3));
+    Pump(100);
+    EXPECT_EQ(Item(3, 0)->drawn, 1) << "a request after the window was declared valid";
+    Settle();
+
+    for (int i = 0; i < 1000; ++i)
+        m_grid.RedrawRow(m_grid.GetRows()->GetAt(15));
+    EXPECT_FALSE(m_grid.GetUpdateRect(nullptr)) << "a row that is not seen";
+}
+
 TEST_F(PaintTest, OnlyDamagedCellsAreDrawn) {
     AddRecords(20);
     const CRect damage(110, HeaderHeight() + RowHeight() + 2, 120, HeaderHeight() + 2 * RowHeight() + 2);

@@ -200,6 +200,27 @@ TEST_F(ReportModelTest, NumbersAreSortedByValueWithNaNFirst) {
         static_cast<CXTPReportRecordItemNumber*>(m_control.GetRows()->GetAt(0)->GetRecord()->GetItem(0))->GetValue()));
 }
 
+TEST_F(ReportModelTest, NumbersOfAllKindsAreSortedInBothDirections) {
+    constexpr double inf = std::numeric_limits<double>::infinity();
+    const std::vector<double> numbers{2.5, -0.0, inf, -1e-300, 0.0, -inf, 5e-324, -2.5, 1e300, 0.0, -0.0, -1e300};
+    for (const double number : numbers)
+        AddNumbers(m_control, {number});
+    for (const bool increasing : {true, false}) {
+        std::vector<double> expected = numbers;
+        std::stable_sort(expected.begin(), expected.end(),
+                         [increasing](double a, double b) { return increasing ? a < b : a > b; });
+        m_control.GetColumns()->SetSortColumn(m_columnA, increasing);
+        m_control.Populate();
+        for (int row = 0; row < m_control.GetRows()->GetCount(); ++row) {
+            const auto* const item =
+                dynamic_cast<CXTPReportRecordItemNumber*>(m_control.GetRows()->GetRecordAt(row)->GetItem(0));
+            EXPECT_EQ(item->GetValue(), expected[row]) << row;
+            EXPECT_EQ(std::signbit(item->GetValue()), std::signbit(expected[row]))
+                << "equal ones stay in order " << row;
+        }
+    }
+}
+
 TEST_F(ReportModelTest, LaterColumnsDecideAmongEqualOnes) {
     AddNumbers(m_control, {2, 1});
     AddNumbers(m_control, {1, 1});

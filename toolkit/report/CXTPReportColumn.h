@@ -5,6 +5,8 @@
 #include "DpiLength.h"
 #include "XTPReportDefines.h"
 
+#include <chrono>
+
 /// A column: its caption, its width in pixels, and which item of each record it shows. Created by the host with `new`
 /// and owned by the control's column collection from `CXTPReportControl::AddColumn` on. Setters that change the look
 /// ask the control for a redraw, those that change widths or visibility for a new layout; they do nothing when the
@@ -87,7 +89,9 @@ public:
     /// The header cell in client coordinates, as laid out last; empty while hidden.
     CRect GetRect() const { return m_rcColumn; }
     void SetRect(const CRect& rc) { m_rcColumn = rc; } ///< for the header as it lays out the columns
-    /// The width at which caption and visible-page texts show without ellipsis, in pixels.
+    /// The width at which caption and visible-page texts show without ellipsis, in pixels. A column with cells that
+    /// draw something else than a text keeps at least the width it has. Answers within a twentieth of a second: where
+    /// texts are slow to come by, those of the upper rows decide.
     int GetBestFitWidth() const;
 
     CXTPReportColumns* GetColumns() const { return m_pColumns; } ///< null before the column is added
@@ -95,6 +99,8 @@ public:
 
 private:
     friend class CXTPReportColumns;
+    friend class CXTPReportHeader;
+    int BestFitWidthBefore(std::chrono::steady_clock::time_point deadline) const;
     enum class Effect { Look, Layout };
     void Changed(Effect effect);
     template <class T, class U>

@@ -112,7 +112,8 @@ public:
     /// Asks for a redraw of everything; requests coalesce. From a cell that is being dragged, its row is redrawn with
     /// the next painting and everything else within a twentieth of a second.
     void RedrawControl();
-    void RedrawRow(const CXTPReportRow* pRow); ///< asks for a redraw of one row
+    /// Asks for a redraw of one row; requests coalesce, and very many become one for everything.
+    void RedrawRow(const CXTPReportRow* pRow);
     /// Lays out header, columns and scroll bars again and redraws.
     void AdjustLayout();
     /// Draws the control's client area; `rcDirty` bounds what has to be right afterwards.

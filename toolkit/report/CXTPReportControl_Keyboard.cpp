@@ -230,11 +230,7 @@ void CXTPReportControl::Impl::OpenHeaderMenu(CXTPReportColumn* column) {
 void CXTPReportControl::Impl::BestFitAll() {
     if (!header->IsAllowColumnResize())
         return;
-    for (int i = 0; i < columns->GetCount(); ++i) {
-        CXTPReportColumn* column = columns->GetAt(i);
-        if (column->IsVisible() && column->IsResizable())
-            header->BestFit(column);
-    }
+    header->BestFitAll();
     control.SendColumnNotify(XTP_NM_REPORT_COLUMNWIDTHCHANGED, nullptr);
 }
 

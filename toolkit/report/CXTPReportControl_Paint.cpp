@@ -83,25 +83,34 @@ void CXTPReportControl::Impl::RenewDamage() {
 }
 
 void CXTPReportControl::RedrawRow(const CXTPReportRow* pRow) {
-    if (pRow && pRow->GetControl() == this)
-        m_impl->InvalidateRows({pRow->GetIndex(), pRow->GetIndex()});
+    if (pRow && pRow->GetControl() == this && m_hWnd)
+        m_impl->AskForRedraw(pRow->GetIndex());
 }
 
-void CXTPReportControl::Impl::InvalidateRows(gridgeometry::IndexRange range) const {
+void CXTPReportControl::Impl::AskForRedraw(int rowIndex) {
+    // Very many rows are as good as all: the last request that goes to the system is one for everything.
+    if (damage.requests >= MaxRequests - 1)
+        AskForRedraw();
+    else if (InvalidateRows({rowIndex, rowIndex}) && (control.GetStyle() & WS_VISIBLE) != 0)
+        ++damage.requests;
+}
+
+bool CXTPReportControl::Impl::InvalidateRows(gridgeometry::IndexRange range) const {
     if (!control.m_hWnd)
-        return;
+        return false;
     const CRect rcReport = control.GetReportRectangle();
     const gridgeometry::UniformRows grid = RowGrid();
     const gridgeometry::IndexRange visible = grid.VisibleRows(topRow);
     const int first = std::max(range.first, visible.first);
     const int last = std::min(range.last, visible.last);
     if (first > last)
-        return;
+        return false;
     CRect rcRows(rcReport);
     rcRows.top = rcReport.top + grid.RowTop(topRow, first);
     rcRows.bottom = rcReport.top + grid.RowTop(topRow, last) + grid.RowHeight();
     rcRows.IntersectRect(&rcRows, &rcReport);
     control.InvalidateRect(&rcRows, FALSE);
+    return true;
 }
 
 void CXTPReportControl::Impl::InvalidateFocusLook() const {

@@ -5,6 +5,7 @@
 #include "CXTPReportColumns.h"
 #include "CXTPReportControl.h"
 #include "CXTPReportPaintManager.h"
+#include "CellText.h"
 #include "HeaderExtents.h"
 
 #include "../../framework/gdi/SelectGuard.h"
@@ -74,6 +75,20 @@ CXTPReportColumn* CXTPReportHeader::HitTestDivider(CPoint ptPoint) const {
 void CXTPReportHeader::BestFit(CXTPReportColumn* pColumn) {
     if (pColumn)
         pColumn->SetWidth(pColumn->GetBestFitWidth());
+}
+
+void CXTPReportHeader::BestFitAll() {
+    std::vector<CXTPReportColumn*> columns;
+    for (int i = 0; i < m_pColumns->GetCount(); ++i) {
+        CXTPReportColumn* column = m_pColumns->GetAt(i);
+        if (column->IsVisible() && column->IsResizable())
+            columns.push_back(column);
+    }
+    // Each has its share of the time, and what those before it have left.
+    const auto begin = std::chrono::steady_clock::now();
+    const int count = static_cast<int>(columns.size());
+    for (int i = 0; i < count; ++i)
+        columns[i]->SetWidth(columns[i]->BestFitWidthBefore(begin + BestFitTime * (i + 1) / count));
 }
 
 // --- Drawing --------------------------------------------------------------------------------------------------------

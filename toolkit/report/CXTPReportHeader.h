@@ -79,6 +79,8 @@ public:
     /// Sets the width at which the caption and the texts of the visible rows show without ellipsis. Does not tell the
     /// owner.
     void BestFit(CXTPReportColumn* pColumn);
+    /// The same for each visible column that may be resized, all of them in the time that one of them may take.
+    void BestFitAll();
     /// The column is about to be deleted.
     void OnColumnRemoved(const CXTPReportColumn* pColumn);
     CXTPReportColumn* GetHotColumn() const { return m_pHotColumn; } ///< under the pointer, beside dividers; or null

@@ -10,6 +10,7 @@
 #include "CXTPReportRows.h"
 #include "CXTPReportSelectedRows.h"
 #include "GridGeometry.h"
+#include "RecordItemHeap.h"
 
 #include <algorithm>
 
@@ -28,7 +29,11 @@ CRect CellRect(const CRect& rcRow, const CXTPReportColumn* column) {
 } // namespace
 
 CXTPReportRow::CXTPReportRow(CXTPReportRows* pRows, CXTPReportRecord* pRecord, int nIndex)
-    : m_pRows(pRows), m_pRecord(pRecord), m_nIndex(nIndex) {}
+    : m_nIndex(nIndex), m_pRows(pRows), m_pRecord(pRecord) {}
+
+void* CXTPReportRow::operator new(size_t size) { return recorditemheap::Take(size); }
+
+void CXTPReportRow::operator delete(void* p, size_t size) { recorditemheap::Return(p, size); }
 
 CXTPReportControl* CXTPReportRow::GetControl() const { return m_pRows ? m_pRows->GetControl() : nullptr; }
 

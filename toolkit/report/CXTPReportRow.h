@@ -12,6 +12,9 @@ public:
     /// Rows are made by `CXTPReportRows` alone.
     CXTPReportRow(CXTPReportRows* pRows, CXTPReportRecord* pRecord, int nIndex);
 
+    static void* operator new(size_t size);            ///< memory comes from the record-item heap
+    static void operator delete(void* p, size_t size); ///< and goes back there
+
     int GetIndex() const { return m_nIndex; } ///< place from the top, 0 for the first row
     /// The record; null after its record was deleted and before the next `Populate`.
     CXTPReportRecord* GetRecord() const { return m_pRecord; }
@@ -43,7 +46,8 @@ private:
     friend class CXTPReportRows;
     void DrawCell(CDC* pDC, CXTPReportColumn* pColumn, const CRect& rcCell);
 
+    // In this order the members leave no gaps: a host may look at millions of rows.
+    int m_nIndex;
     CXTPReportRows* m_pRows;
     CXTPReportRecord* m_pRecord;
-    int m_nIndex;
 };

@@ -22,24 +22,23 @@ CXTPReportRecord* CXTPReportRows::GetRecordAt(int nIndex) const {
     return nIndex >= 0 && nIndex < m_nVirtualCount ? m_pVirtualRecord : nullptr;
 }
 
-std::uintptr_t CXTPReportRows::KeyOf(int nIndex) const {
-    return m_pVirtualRecord ? static_cast<std::uintptr_t>(nIndex)
-                            : reinterpret_cast<std::uintptr_t>(m_records.At(nIndex));
+/// Where the row object of a row that is there is kept.
+CXTPReportRow*& CXTPReportRows::RowObject(int nIndex) const {
+    if (m_pVirtualRecord)
+        return m_virtualRowObjects[nIndex];
+    if (m_rowObjects.empty())
+        m_rowObjects.resize(GetCount());
+    return m_rowObjects[nIndex];
 }
 
 CXTPReportRow* CXTPReportRows::GetAt(int nIndex) const {
     CXTPReportRecord* const pRecord = GetRecordAt(nIndex);
     if (!pRecord)
         return nullptr;
-    const auto [it, isNew] = m_rowObjects.try_emplace(KeyOf(nIndex), nullptr);
-    if (!isNew)
-        return it->second;
-    try {
-        return it->second = new CXTPReportRow(const_cast<CXTPReportRows*>(this), pRecord, nIndex);
-    } catch (...) {
-        m_rowObjects.erase(it);
-        throw;
-    }
+    CXTPReportRow*& pRow = RowObject(nIndex);
+    if (!pRow)
+        pRow = new CXTPReportRow(const_cast<CXTPReportRows*>(this), pRecord, nIndex);
+    return pRow;
 }
 
 int CXTPReportRows::IndexOf(const CXTPReportRecord* pRecord) const { return m_records.IndexOf(pRecord); }
@@ -48,14 +47,19 @@ CXTPReportRow* CXTPReportRows::Find(CXTPReportRecord* pRecord) const { return Ge
 
 // --- For the control -------------------------------------------------------------------------------------------------
 
+/// Takes the row object out of the rows; null is ignored.
 void CXTPReportRows::Detach(CXTPReportRow* pRow) {
+    if (!pRow)
+        return;
     pRow->m_pRows = nullptr;
     pRow->m_pRecord = nullptr;
     pRow->InternalRelease();
 }
 
 void CXTPReportRows::DetachRowObjects() {
-    for (const auto& [key, pRow] : std::exchange(m_rowObjects, {}))
+    for (CXTPReportRow* const pRow : std::exchange(m_rowObjects, {}))
+        Detach(pRow);
+    for (const auto& [nIndex, pRow] : std::exchange(m_virtualRowObjects, {}))
         Detach(pRow);
 }
 
@@ -77,12 +81,15 @@ void CXTPReportRows::RecordRemoved(CXTPReportRecord* pRecord) {
     const int nIndex = IndexOf(pRecord);
     if (nIndex < 0)
         return;
-    if (auto node = m_rowObjects.extract(KeyOf(nIndex)))
-        Detach(node.mapped());
     m_records.Erase(nIndex);
-    for (const auto& [key, pRow] : m_rowObjects)
-        if (pRow->m_nIndex > nIndex)
-            --pRow->m_nIndex;
+    if (!m_rowObjects.empty()) {
+        Detach(m_rowObjects[nIndex]);
+        const auto next = m_rowObjects.erase(m_rowObjects.begin() + nIndex);
+        std::for_each(next, m_rowObjects.end(), [](CXTPReportRow* pRow) {
+            if (pRow)
+                --pRow->m_nIndex;
+        });
+    }
     if (m_pControl) {
         m_pControl->GetSelectedRows()->RowRemoved(nIndex);
         m_pControl->OnRowRemoved(nIndex);

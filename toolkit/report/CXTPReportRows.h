@@ -5,7 +5,6 @@
 #include "RecordSequence.h"
 #include "XTPReportDefines.h"
 
-#include <cstdint>
 #include <unordered_map>
 #include <vector>
 
@@ -38,7 +37,7 @@ public:
     void Clear();
 
 private:
-    std::uintptr_t KeyOf(int nIndex) const;
+    CXTPReportRow*& RowObject(int nIndex) const;
     void DetachRowObjects();
     void Detach(CXTPReportRow* pRow);
 
@@ -46,6 +45,8 @@ private:
     RecordSequence m_records;
     CXTPReportRecord* m_pVirtualRecord = nullptr;
     int m_nVirtualCount = 0;
-    /// By record, so that they stay in place when a row above is taken out; by index in virtual mode.
-    mutable std::unordered_map<std::uintptr_t, CXTPReportRow*> m_rowObjects;
+    /// By index, null for those that nobody has asked for; empty until somebody asks, and in virtual mode.
+    mutable std::vector<CXTPReportRow*> m_rowObjects;
+    /// Those of virtual mode by index: of very many rows few are ever looked at.
+    mutable std::unordered_map<int, CXTPReportRow*> m_virtualRowObjects;
 };

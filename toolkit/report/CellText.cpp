@@ -7,12 +7,15 @@
 #include "CXTPReportPaintManager.h"
 #include "CXTPReportRecord.h"
 #include "CXTPReportRecordItem.h"
+#include "CXTPReportRecordItemNumber.h"
+#include "CXTPReportRecordItemText.h"
 #include "CXTPReportRow.h"
 #include "CXTPReportRows.h"
 
 #include "../../framework/gdi/SelectGuard.h"
 
 #include <algorithm>
+#include <typeinfo>
 
 XTP_REPORTRECORDITEM_METRICS CellMetrics(CXTPReportControl& control, CXTPReportRow* row, CXTPReportColumn* column,
                                          CXTPReportRecordItem* item) {
@@ -36,12 +39,29 @@ int CellTextWidth(const XTP_REPORTRECORDITEM_METRICS& metrics) {
     return dc.GetTextExtent(metrics.strText).cx;
 }
 
+namespace {
+
+/// A cell of a kind of its own that has no text draws something else, which has no natural width.
+bool IsPicture(const CXTPReportRecordItem& item, const CString& text) {
+    return text.IsEmpty() && typeid(item) != typeid(CXTPReportRecordItem) &&
+           !dynamic_cast<const CXTPReportRecordItemText*>(&item) &&
+           !dynamic_cast<const CXTPReportRecordItemNumber*>(&item);
+}
+
+} // namespace
+
 int CXTPReportColumn::GetBestFitWidth() const {
+    return BestFitWidthBefore(std::chrono::steady_clock::now() + BestFitTime);
+}
+
+/// Looks at one cell at least, and stops at the deadline.
+int CXTPReportColumn::BestFitWidthBefore(std::chrono::steady_clock::time_point deadline) const {
     CXTPReportControl* control = GetControl();
     if (!control)
         return m_nWidth;
     const CXTPReportPaintManager* paintManager = control->GetPaintManager();
-    int width = paintManager->GetTextWidth(m_strCaption) + (IsSorted() ? paintManager->GetSortArrowSpace() : 0);
+    const int space = 2 * paintManager->GetCellPadding() + 1;
+    int width = paintManager->GetTextWidth(m_strCaption) + (IsSorted() ? paintManager->GetSortArrowSpace() : 0) + space;
     const CXTPReportRows* rows = control->GetRows();
     // The last row may be cut off; it is seen as well.
     const int end = std::min(control->GetTopRowIndex() + control->GetFullyVisibleRowCount() + 1, rows->GetCount());
@@ -49,8 +69,12 @@ int CXTPReportColumn::GetBestFitWidth() const {
     for (int index = control->GetTopRowIndex(); index < end; ++index) {
         CXTPReportRow* row = rows->GetAt(index);
         CXTPReportRecordItem* item = row && row->GetRecord() ? row->GetRecord()->GetItem(this) : nullptr;
-        if (item)
-            width = std::max(width, CellTextWidth(CellMetrics(*control, row, column, item)));
+        if (!item)
+            continue;
+        const XTP_REPORTRECORDITEM_METRICS metrics = CellMetrics(*control, row, column, item);
+        width = std::max(width, IsPicture(*item, metrics.strText) ? m_nWidth : CellTextWidth(metrics) + space);
+        if (std::chrono::steady_clock::now() >= deadline)
+            break;
     }
-    return std::clamp(width + 2 * paintManager->GetCellPadding() + 1, m_nMinWidth, m_nMaxWidth);
+    return std::clamp(width, m_nMinWidth, m_nMaxWidth);
 }

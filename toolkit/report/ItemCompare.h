@@ -5,6 +5,8 @@
 
 #include <afxwin.h>
 
+#include <cstdint>
+
 namespace itemcompare {
 
 /// The locale comparison that texts are sorted by: the user's locale, without regard to case.
@@ -13,5 +15,7 @@ constexpr DWORD TextFlags = LINGUISTIC_IGNORECASE;
 int Texts(const CString& left, const CString& right);
 /// A NaN comes before every number and equals another NaN.
 int Numbers(double left, double right);
+/// A whole number for each number, in the same order: equal for equal ones, 0 for NaN.
+std::uint64_t NumberRank(double number);
 
 } // namespace itemcompare

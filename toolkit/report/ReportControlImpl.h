@@ -62,8 +62,9 @@ struct BarState {
     bool isThumbStale = false; ///< the position is set, but the bar was not redrawn
 };
 
-/// Requests to redraw everything. A hundred thousand changed cells make as many of them, and the system takes longer
-/// for one than the cell for its change, so only the first ones before a painting go to the system.
+/// Requests to redraw everything, or a row. A hundred thousand changed cells make as many of them, and the system takes
+/// longer for one than the cell for its change, so only the first ones before a painting go to the system; the last of
+/// those is for everything.
 struct WholeDamage {
     int requests = 0;        ///< since the last painting
     bool isTimerSet = false; ///< later requests are made up for when it rings
@@ -121,10 +122,12 @@ struct CXTPReportControl::Impl {
     std::optional<bool> focusWhileDrawing; ///< what HasFocus answers during a drawing
 
     void AskForRedraw();
+    void AskForRedraw(int rowIndex);
     /// False when there is no timer to be had.
     bool RedrawLater();
     void RenewDamage();
-    void InvalidateRows(gridgeometry::IndexRange range) const;
+    /// False when none of the rows is in view.
+    bool InvalidateRows(gridgeometry::IndexRange range) const;
     void InvalidateFocusLook() const;
     void PaintRect(CDC& dc, const CRect& rc);
     void DrawRows(CDC* dc, const CRect& rcDirty);

@@ -17,7 +17,6 @@
 #include <cstdint>
 #include <cstring>
 #include <memory>
-#include <numeric>
 #include <span>
 #include <string>
 #include <typeinfo>
@@ -28,11 +27,13 @@ namespace {
 
 using Items = std::vector<CXTPReportRecordItem*>;
 
-/// What one column of the sort order says about two records, given by their place in the list that is sorted.
+/// What one column of the sort order says about the records, given by their place in the list that is sorted.
 class ColumnKey {
 public:
     virtual ~ColumnKey() = default;
     virtual int Compare(std::uint32_t left, std::uint32_t right) const = 0;
+    /// A number that is smaller, or as large, for a record that sorts before another one. Most comparisons end with it.
+    virtual std::uint64_t Head(std::uint32_t place) const = 0;
 };
 
 /// Any cells: each comparison asks them.
@@ -46,6 +47,7 @@ public:
             return static_cast<int>(a != nullptr) - static_cast<int>(b != nullptr);
         return a->Compare(m_column, b);
     }
+    std::uint64_t Head(std::uint32_t place) const override { return m_items[place] != nullptr; }
 
 private:
     CXTPReportColumn* m_column;
@@ -63,6 +65,7 @@ public:
     int Compare(std::uint32_t left, std::uint32_t right) const override {
         return itemcompare::Numbers(m_values[left], m_values[right]);
     }
+    std::uint64_t Head(std::uint32_t place) const override { return itemcompare::NumberRank(m_values[place]); }
 
 private:
     std::vector<double> m_values;
@@ -81,11 +84,13 @@ public:
         MakeHeads();
     }
     int Compare(std::uint32_t left, std::uint32_t right) const override {
-        if (m_heads[left] != m_heads[right])
-            return m_heads[left] < m_heads[right] ? -1 : 1;
+        if (Head(left) != Head(right))
+            return Head(left) < Head(right) ? -1 : 1;
         // Sort keys end with a zero byte, so that none begins with another.
         return std::memcmp(&m_bytes[m_begins[left]], &m_bytes[m_begins[right]], std::min(Length(left), Length(right)));
     }
+    /// The first bytes in which the keys differ, as a number: no look at the keys, which lie scattered over memory.
+    std::uint64_t Head(std::uint32_t place) const override { return m_heads[place]; }
 
 private:
     std::size_t Length(std::uint32_t index) const { return m_begins[index + 1] - m_begins[index]; }
@@ -108,8 +113,6 @@ private:
                                reinterpret_cast<LPWSTR>(buffer), size, nullptr, nullptr, 0);
     }
 
-    /// The first bytes in which the keys differ, as a number: they decide most comparisons without a look at the keys,
-    /// which lie scattered over memory.
     void MakeHeads() {
         const std::size_t common = CommonLength();
         m_heads.reserve(m_begins.size() - 1);
@@ -160,6 +163,12 @@ struct DirectedKey {
     bool increasing;
 };
 
+/// A record to be sorted.
+struct Entry {
+    std::uint64_t head;
+    std::uint32_t place;
+};
+
 } // namespace
 
 std::vector<CXTPReportRecord*> SortedVisibleRecords(const CXTPReportRecords& records, CXTPReportColumns& columns) {
@@ -175,18 +184,26 @@ std::vector<CXTPReportRecord*> SortedVisibleRecords(const CXTPReportRecords& rec
     if (keys.empty() || visible.size() < 2)
         return visible;
 
-    std::vector<std::uint32_t> places(visible.size());
-    std::iota(places.begin(), places.end(), 0U);
-    std::stable_sort(places.begin(), places.end(), [&keys](std::uint32_t left, std::uint32_t right) {
+    // The first key's heads lie beside the places, so that sorting seldom looks anywhere else.
+    const DirectedKey& first = keys.front();
+    std::vector<Entry> entries;
+    entries.reserve(visible.size());
+    for (std::uint32_t place = 0; place < visible.size(); ++place) {
+        const std::uint64_t head = first.key->Head(place);
+        entries.push_back({first.increasing ? head : ~head, place});
+    }
+    std::stable_sort(entries.begin(), entries.end(), [&keys](const Entry& left, const Entry& right) {
+        if (left.head != right.head)
+            return left.head < right.head;
         for (const DirectedKey& directed : keys)
-            if (const int result = directed.key->Compare(left, right))
+            if (const int result = directed.key->Compare(left.place, right.place))
                 return directed.increasing ? result < 0 : result > 0;
         return false;
     });
     std::vector<CXTPReportRecord*> sorted;
     sorted.reserve(visible.size());
-    for (const std::uint32_t place : places)
-        sorted.push_back(visible[place]);
+    for (const Entry& entry : entries)
+        sorted.push_back(visible[entry.place]);
     return sorted;
 }
 

@@ -1,6 +1,8 @@
 // What a plot cell asks of the grid that shows it.
 #include "PlotCellProbes.h"
 
+#include "plotcells/KyBarChartRecordItem.h"
+
 // ----------------------------------------------------------------------------------------------------
 
 TEST(PlotRecordItemInGrid, ADragMoveAsksTheGridForARedraw) {
@@ -53,4 +55,15 @@ TEST(PlotRecordItemInGrid, ASlotMayRemoveItsOwnCell) {
     cell->EndDrag(press, rect, true);
     EXPECT_EQ(aliveInSlot, 1);
     EXPECT_EQ(ProbeCell::Alive(), alive);
+}
+
+TEST(PlotRecordItemInGrid, BestFitKeepsTheWidthOfAPlot) {
+    PlotGridHost host;
+    host.AddRow(new KyBarChartRecordItem)->SetError(50, 0, 100, 30, 70, 20, 80, -99, -99);
+    host.Show();
+    CXTPReportColumn* const column = host.grid.GetColumns()->GetAt(1);
+    const int width = column->GetWidth();
+    ASSERT_GT(width, 300) << "more than the caption needs";
+    host.grid.GetReportHeader()->BestFit(column);
+    EXPECT_EQ(column->GetWidth(), width);
 }

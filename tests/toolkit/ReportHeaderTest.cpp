@@ -265,7 +265,17 @@ TEST_F(HeaderTest, BestFitDoesNotWaitForManySlowTexts) {
 }
 
 /// A cell that draws something else than a text.
-class PictureItem : public CXTPReportRecordItem {};
+class PictureItem : public CXTPReportRecordItem {
+public:
+    void OnDrawCaption(XTP_REPORTRECORDITEM_DRAWARGS* args, XTP_REPORTRECORDITEM_METRICS*) override {
+        rect = args->rcItem;
+        args->pDC->FillSolidRect(rect.CenterPoint().x, rect.CenterPoint().y, 1, 1, RGB(255, 0, 0));
+    }
+    CRect rect;
+};
+
+/// A cell of a kind of its own that shows a text.
+class OwnTextItem : public CXTPReportRecordItemText {};
 
 TEST_F(HeaderTest, BestFitKeepsTheWidthForPictures) {
     m_grid.ResetContent();
@@ -281,7 +291,11 @@ TEST_F(HeaderTest, BestFitKeepsTheWidthForPictures) {
     const int caption = add(new CXTPReportRecordItemText(L""));
     EXPECT_LT(caption, 123) << "an empty text needs no room";
     m_columns[0]->SetWidth(123);
-    EXPECT_EQ(add(new PictureItem), 123);
+    EXPECT_EQ(add(new OwnTextItem), caption);
+    m_columns[0]->SetWidth(123);
+    auto* const picture = new PictureItem;
+    EXPECT_EQ(add(picture), 123);
+    EXPECT_EQ(picture->rect, m_grid.GetRows()->GetAt(2)->GetItemRect(picture)) << "drawn where it stands";
     EXPECT_EQ(add(new CXTPReportRecordItemText(L"short")), 123);
     EXPECT_GT(add(new CXTPReportRecordItemText(L"a text that is wider than the picture beside it")), 123);
 }

@@ -56,10 +56,13 @@ void CXTPReportControl::Impl::AskForRedraw() {
         InvalidateRows({draggedRow, draggedRow});
         return;
     }
-    // While the owner has switched redrawing off, a request has no effect, and none is counted.
-    const bool hasEffect = (control.GetStyle() & WS_VISIBLE) != 0;
-    if (!hasEffect || damage.requests < MaxRequests) {
-        damage.requests = hasEffect ? damage.requests + 1 : 0;
+    // While the owner has switched redrawing off, a request has no effect.
+    if ((control.GetStyle() & WS_VISIBLE) == 0) {
+        damage.requests = 0;
+        return;
+    }
+    if (damage.requests < MaxRequests) {
+        ++damage.requests;
         control.Invalidate(FALSE);
         return;
     }

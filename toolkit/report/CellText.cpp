@@ -13,18 +13,59 @@
 #include "CXTPReportRows.h"
 
 #include "../../framework/gdi/SelectGuard.h"
+#include "../common/BackBuffer.h"
 
 #include <algorithm>
 #include <typeinfo>
 
-XTP_REPORTRECORDITEM_METRICS CellMetrics(CXTPReportControl& control, CXTPReportRow* row, CXTPReportColumn* column,
-                                         CXTPReportRecordItem* item) {
+namespace {
+
+XTP_REPORTRECORDITEM_DRAWARGS CellArgs(CXTPReportControl& control, CXTPReportRow* row, CXTPReportColumn* column,
+                                       CXTPReportRecordItem* item) {
     XTP_REPORTRECORDITEM_DRAWARGS args;
     args.pControl = &control;
     args.pRow = row;
     args.rcItem = row->GetItemRect(item);
     args.pColumn = column;
     args.pItem = item;
+    args.nTextAlign = column->GetAlignment();
+    return args;
+}
+
+bool IsOneColor(CDC& dib, CSize size) {
+    ::GdiFlush();
+    DIBSECTION section = {};
+    ::GetObject(::GetCurrentObject(dib, OBJ_BITMAP), sizeof(section), &section);
+    const auto* line = static_cast<const COLORREF*>(section.dsBm.bmBits);
+    const COLORREF first = line[0];
+    for (int y = 0; y < size.cy; ++y, line += section.dsBm.bmWidth)
+        if (std::any_of(line, line + size.cx, [first](COLORREF pixel) { return (pixel ^ first) << 8 != 0; }))
+            return false;
+    return true;
+}
+
+/// Whether a cell without a text draws something else. Its kind does not tell, so it has to draw.
+bool DrawsPicture(XTP_REPORTRECORDITEM_DRAWARGS args, COLORREF background) {
+    const std::type_info& kind = typeid(*args.pItem);
+    if (kind == typeid(CXTPReportRecordItem) || kind == typeid(CXTPReportRecordItemText) ||
+        kind == typeid(CXTPReportRecordItemNumber))
+        return false;
+    BackBuffer buffer;
+    args.pDC = buffer.Prepare(args.rcItem.Size());
+    if (!args.pDC)
+        return false;
+    // The cell draws where it stands in the control, and is seen at the picture's corner.
+    args.pDC->SetViewportOrg(-args.rcItem.left, -args.rcItem.top);
+    args.pDC->FillSolidRect(&args.rcItem, background);
+    args.pItem->Draw(&args);
+    return !IsOneColor(*args.pDC, args.rcItem.Size());
+}
+
+} // namespace
+
+XTP_REPORTRECORDITEM_METRICS CellMetrics(CXTPReportControl& control, CXTPReportRow* row, CXTPReportColumn* column,
+                                         CXTPReportRecordItem* item) {
+    XTP_REPORTRECORDITEM_DRAWARGS args = CellArgs(control, row, column, item);
     XTP_REPORTRECORDITEM_METRICS metrics;
     control.GetPaintManager()->FillRowMetrics(row, &metrics);
     if (CXTPReportRecord* record = row->GetRecord())
@@ -38,17 +79,6 @@ int CellTextWidth(const XTP_REPORTRECORDITEM_METRICS& metrics) {
     const SelectGuard select(dc, metrics.pFont);
     return dc.GetTextExtent(metrics.strText).cx;
 }
-
-namespace {
-
-/// A cell of a kind of its own that has no text draws something else, which has no natural width.
-bool IsPicture(const CXTPReportRecordItem& item, const CString& text) {
-    return text.IsEmpty() && typeid(item) != typeid(CXTPReportRecordItem) &&
-           !dynamic_cast<const CXTPReportRecordItemText*>(&item) &&
-           !dynamic_cast<const CXTPReportRecordItemNumber*>(&item);
-}
-
-} // namespace
 
 int CXTPReportColumn::GetBestFitWidth() const {
     return BestFitWidthBefore(std::chrono::steady_clock::now() + BestFitTime);
@@ -72,7 +102,10 @@ int CXTPReportColumn::BestFitWidthBefore(std::chrono::steady_clock::time_point d
         if (!item)
             continue;
         const XTP_REPORTRECORDITEM_METRICS metrics = CellMetrics(*control, row, column, item);
-        width = std::max(width, IsPicture(*item, metrics.strText) ? m_nWidth : CellTextWidth(metrics) + space);
+        if (!metrics.strText.IsEmpty())
+            width = std::max(width, CellTextWidth(metrics) + space);
+        else if (width < m_nWidth && DrawsPicture(CellArgs(*control, row, column, item), metrics.clrBackground))
+            width = m_nWidth; // a picture has no natural width
         if (std::chrono::steady_clock::now() >= deadline)
             break;
     }

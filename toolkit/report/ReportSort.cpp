@@ -169,6 +169,17 @@ struct Entry {
     std::uint32_t place;
 };
 
+/// Brings records with the same head into the order of all keys; they come in the order of the collection. Cells may
+/// compare in any way, and merging bears even what is no order at all.
+void SortEqualHeads(const std::vector<DirectedKey>& keys, std::span<Entry> entries) {
+    std::stable_sort(entries.begin(), entries.end(), [&keys](const Entry& left, const Entry& right) {
+        for (const DirectedKey& directed : keys)
+            if (const int result = directed.key->Compare(left.place, right.place))
+                return directed.increasing ? result < 0 : result > 0;
+        return false;
+    });
+}
+
 } // namespace
 
 std::vector<CXTPReportRecord*> SortedVisibleRecords(const CXTPReportRecords& records, CXTPReportColumns& columns) {
@@ -184,7 +195,7 @@ std::vector<CXTPReportRecord*> SortedVisibleRecords(const CXTPReportRecords& rec
     if (keys.empty() || visible.size() < 2)
         return visible;
 
-    // The first key's heads lie beside the places, so that sorting seldom looks anywhere else.
+    // The first key's heads lie beside the places, so that most of the sorting looks at nothing else.
     const DirectedKey& first = keys.front();
     std::vector<Entry> entries;
     entries.reserve(visible.size());
@@ -192,14 +203,16 @@ std::vector<CXTPReportRecord*> SortedVisibleRecords(const CXTPReportRecords& rec
         const std::uint64_t head = first.key->Head(place);
         entries.push_back({first.increasing ? head : ~head, place});
     }
-    std::stable_sort(entries.begin(), entries.end(), [&keys](const Entry& left, const Entry& right) {
-        if (left.head != right.head)
-            return left.head < right.head;
-        for (const DirectedKey& directed : keys)
-            if (const int result = directed.key->Compare(left.place, right.place))
-                return directed.increasing ? result < 0 : result > 0;
-        return false;
+    std::sort(entries.begin(), entries.end(), [](const Entry& left, const Entry& right) {
+        return left.head != right.head ? left.head < right.head : left.place < right.place;
     });
+    for (auto begin = entries.begin(); begin != entries.end();) {
+        const auto end =
+            std::find_if(begin, entries.end(), [&](const Entry& entry) { return entry.head != begin->head; });
+        if (end - begin > 1)
+            SortEqualHeads(keys, std::span(begin, end));
+        begin = end;
+    }
     std::vector<CXTPReportRecord*> sorted;
     sorted.reserve(visible.size());
     for (const Entry& entry : entries)

@@ -84,6 +84,7 @@ public:
         m_window.Draw(dc, CRect(0, m_window.RowTop(DragRow), ViewWidth, m_window.RowTop(DragRow + 1)));
         ::GdiFlush();
     }
+    void Update(int) override { m_window.Invalidate(FALSE); }
     CRect BarRect(int visibleRow, int bar) override {
         int left = 0;
         for (int column = 0; column < 2 + bar; ++column)

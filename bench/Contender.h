@@ -23,6 +23,13 @@ public:
     virtual void MoveOfDrag(int step) = 0;
     virtual void BeginDrag() {}
     virtual void EndDrag() {}
+    /// Finds the cell under the point (client coordinates), if the contender has such a thing.
+    virtual void HitTest(CPoint) {}
+    /// Fits the first column to its texts, if the contender can.
+    virtual void BestFit() {}
+    /// Changes the number of one of `RecordRows` rows and asks for a redraw, as a host does for each change. Not
+    /// painted.
+    virtual void Update(int n) = 0;
     /// The bar chart cell without its grid lines, client coordinates; row 0 is the one shown at the top.
     virtual CRect BarRect(int visibleRow, int bar) = 0;
 
@@ -32,6 +39,9 @@ public:
     void Show();
     /// Dispatches what waits in the queue: what a control has put off to a timer counts as well.
     static void Pump();
+
+    /// The rows of the contenders that are compared in everything but scrolling.
+    static constexpr int RecordRows = 1000;
 
 protected:
     /// The row in which a drag takes place, counted from the top one.

@@ -1,10 +1,12 @@
 // How fast the report grid draws, scrolls and answers, beside the system's list view and a bare loop of GDI calls that
 // show the same picture. Each figure is the median of several rounds; the contenders take turns, so that a passing load
 // of the machine meets all of them.
+#include "DrawingCalls.h"
 #include "GridContender.h"
+#include "Measure.h"
+#include "RecordBench.h"
+#include "Results.h"
 
-#include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cwchar>
 #include <functional>
@@ -13,48 +15,47 @@
 namespace {
 
 constexpr int Rounds = 9;
-constexpr int RecordRows = 1000;
 constexpr int ScrolledRows = 1'000'000;
 constexpr int ManyRows = 10'000'000;
 constexpr int FewRows = 1000;
 constexpr int Updates = 100'000;
 
-/// Microseconds that one of `count` runs of the step takes on average.
-template <class Step>
-double MicrosecondsOf(int count, Step step) {
-    const auto begin = std::chrono::steady_clock::now();
-    for (int i = 0; i < count; ++i)
-        step(i);
-    return std::chrono::duration<double, std::micro>(std::chrono::steady_clock::now() - begin).count() / count;
-}
+constexpr Results::Unit Microseconds{"µs", 0};
+constexpr Results::Unit FineMicroseconds{"µs", 2};
+constexpr Results::Unit Milliseconds{"ms", 1};
+constexpr Results::Unit Ratio{"", 2};
+constexpr Results::Unit Plain{"", 0};
 
-double Median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
+using Step = std::function<void(Contender&, int)>;
+
+/// What is compared, and how often a round does it.
+struct Comparison {
+    int count;
+    Step step;
+    std::function<void(Contender&)> before = [](Contender&) {};
+    std::function<void(Contender&)> after = [](Contender&) {};
+};
 
 /// The median of the step's time for each contender. The first round only warms up.
-std::vector<double> Compare(
-    const std::vector<Contender*>& contenders, int count, const std::function<void(Contender&, int)>& step,
-    const std::function<void(Contender&)>& before = [](Contender&) {},
-    const std::function<void(Contender&)>& after = [](Contender&) {}) {
+std::vector<double> Compare(const std::vector<Contender*>& contenders, const Comparison& comparison,
+                            int rounds = Rounds) {
     std::vector<std::vector<double>> times(contenders.size());
-    for (int round = 0; round <= Rounds; ++round) {
+    for (int round = 0; round <= rounds; ++round) {
         for (std::size_t i = 0; i < contenders.size(); ++i) {
             Contender& contender = *contenders[i];
             contender.Window().GetTopLevelParent()->BringWindowToTop();
             Contender::Pump();
             contender.Repaint();
-            before(contender);
-            const double time = MicrosecondsOf(count, [&](int n) { step(contender, n); });
-            after(contender);
+            comparison.before(contender);
+            const double time = measure::Microseconds(comparison.count, [&](int n) { comparison.step(contender, n); });
+            comparison.after(contender);
             if (round > 0)
                 times[i].push_back(time);
         }
     }
     std::vector<double> medians;
     for (const auto& each : times)
-        medians.push_back(Median(each));
+        medians.push_back(measure::Median(each));
     return medians;
 }
 
@@ -107,96 +108,168 @@ int DifferentPixels(Contender& a, Contender& b) {
     return different;
 }
 
-// --- The table -------------------------------------------------------------------------------------------------------
-
-constexpr const char* Unit = "µs";
-
-void PrintComparison(const char* name, const std::vector<double>& times, double toList, double toBare) {
-    std::printf("%-30s %9.0f %9.0f %9.0f   %6.2f (<= %.2f)", name, times[0], times[1], times[2], times[0] / times[1],
-                toList);
-    std::printf("   %6.2f", times[0] / times[2]);
-    if (toBare > 0)
-        std::printf(" (<= %.2f)", toBare);
-    std::printf("\n");
-    std::fflush(stdout);
-}
-
-void PrintAlone(const char* name, double value, const char* unit, double target) {
-    std::printf("%-46s %12.3f %s (<= %g)\n", name, value, unit, target);
-    std::fflush(stdout);
-}
-
 // --- Measurements ----------------------------------------------------------------------------------------------------
 
-void CompareDrawing(const std::vector<Contender*>& contenders) {
-    PrintComparison("full repaint", Compare(contenders, 20, [](Contender& each, int) { each.Repaint(); }), 0.8, 1.2);
-    const auto moves = Compare(
-        contenders, 100, [](Contender& each, int step) { each.MoveOfDrag(step); },
-        [](Contender& each) { each.BeginDrag(); }, [](Contender& each) { each.EndDrag(); });
-    PrintComparison("one move of a drag", moves, 0.8, 0);
+/// The most that our time may be of the others'; 0 for no target.
+struct Limits {
+    double toList = 0;
+    double toBare = 0;
+};
+
+std::string RatioText(double ratio, double limit) {
+    const std::string text = NumberText(ratio, Ratio);
+    return limit > 0 ? text + " (≤ " + NumberText(limit, Ratio) + ")" : text;
 }
 
-void CompareScrolling(const std::vector<Contender*>& contenders) {
+/// The line of three times in microseconds: grid, list view, bare loop.
+void Tell(Results& results, const std::string& name, const std::vector<double>& times, Limits limits,
+          Results::Unit unit = Microseconds) {
+    const double toList = times[0] / times[1];
+    const double toBare = times[0] / times[2];
+    std::optional<bool> met;
+    if (limits.toList > 0 || limits.toBare > 0)
+        met = (limits.toList == 0 || toList <= limits.toList) && (limits.toBare == 0 || toBare <= limits.toBare);
+    results.Line(name,
+                 {NumberText(times[0], unit), NumberText(times[1], unit), NumberText(times[2], unit),
+                  RatioText(toList, limits.toList), RatioText(toBare, limits.toBare)},
+                 met);
+}
+
+/// Drawing operations of one repaint.
+double CallsOfRepaint(Contender& contender) {
+    contender.Repaint();
+    const std::uint64_t before = drawingcalls::Count();
+    contender.Repaint();
+    return static_cast<double>(drawingcalls::Count() - before);
+}
+
+void CompareDrawing(Results& results, const std::vector<Contender*>& contenders) {
+    Tell(results, "full repaint", Compare(contenders, {20, [](Contender& each, int) { each.Repaint(); }}), {0.8, 1.2});
+    std::vector<double> calls;
+    for (Contender* const each : contenders)
+        calls.push_back(CallsOfRepaint(*each));
+    Tell(results, "drawing operations of a full repaint", calls, {}, Plain);
+    Tell(results, "one mouse move of a drag, painted",
+         Compare(contenders, {100, [](Contender& each, int step) { each.MoveOfDrag(step); },
+                              [](Contender& each) { each.BeginDrag(); }, [](Contender& each) { each.EndDrag(); }}),
+         {0.8, 0});
+}
+
+void CompareScrolling(Results& results, const std::vector<Contender*>& contenders) {
     int start = 0;
     const auto times = Compare(
-        contenders, 40, [](Contender& each, int) { each.PageDown(); },
-        [&start](Contender& each) { each.GoToRow(start = (start + 37'813) % (ScrolledRows - 10'000)); });
-    PrintComparison("a page of 1,000,000 rows", times, 1 / 1.5, 0);
-    std::printf("%-30s %9.1f %9.1f %9.1f\n", "  frames per second", 1e6 / times[0], 1e6 / times[1], 1e6 / times[2]);
+        contenders, {40, [](Contender& each, int) { each.PageDown(); },
+                     [&start](Contender& each) { each.GoToRow(start = (start + 37'813) % (ScrolledRows - 10'000)); }});
+    Tell(results, "a page of 1,000,000 virtual rows", times, {1 / 1.5, 0});
+    const double frames[] = {1e6 / times[0], 1e6 / times[1], 1e6 / times[2]};
+    results.Line("pages per second",
+                 {NumberText(frames[0], Plain), NumberText(frames[1], Plain), NumberText(frames[2], Plain),
+                  RatioText(frames[0] / frames[1], 0) + " (≥ 1.50)", RatioText(frames[0] / frames[2], 0)});
 }
 
-void MeasureAnswers(GridContender& contender) {
+/// Points all over the rows.
+CPoint HitPoint(int n) { return CPoint(n * 37 % 1150, 40 + n * 13 % 740); }
+
+void CompareAnswers(Results& results, const std::vector<Contender*>& contenders) {
+    // A bare loop knows nothing that could be asked.
+    const auto ask = [&](const char* name, int count, const Step& step, Results::Unit unit) {
+        const auto times = Compare({contenders[0], contenders[1]}, {count, step});
+        results.Line(name, {NumberText(times[0], unit), NumberText(times[1], unit), "–",
+                            RatioText(times[0] / times[1], 0), "–"});
+    };
+    ask(
+        "hit test", 20'000, [](Contender& each, int n) { each.HitTest(HitPoint(n)); }, FineMicroseconds);
+    ask(
+        "best fit of the names", 1, [](Contender& each, int) { each.BestFit(); }, Microseconds);
+    constexpr int rounds = 1; // the system's answers take seconds
+    const auto updates = Compare(contenders,
+                                 {1,
+                                  [](Contender& each, int) {
+                                      for (int n = 0; n < Updates; ++n)
+                                          each.Update(n);
+                                      each.Show();
+                                  }},
+                                 rounds);
+    Tell(results, "100,000 cell updates, each asking for a redraw", updates, {});
+}
+
+/// The ways in which a host changes 100,000 cells and gets them on the screen.
+void MeasureUpdates(Results& results, GridContender& contender) {
     CXTPReportControl& grid = contender.Grid();
-    int hits = 0;
-    std::vector<double> tests, fits, updates;
-    for (int round = 0; round <= Rounds; ++round) {
-        tests.push_back(MicrosecondsOf(20'000, [&](int n) {
-            const CPoint point(n * 37 % 1150, 40 + n * 13 % 740);
-            CRect rc;
-            CXTPReportColumn* column = nullptr;
-            if (const CXTPReportRow* row = grid.HitTest(point))
-                hits += row->HitTest(point, &rc, &column) != nullptr;
-        }));
-        fits.push_back(MicrosecondsOf(1, [&](int) { hits += grid.GetColumns()->GetAt(0)->GetBestFitWidth(); }));
-    }
-    PrintAlone(hits > 0 ? "hit test" : "hit test (hit nothing)", Median(tests), Unit, 1);
-    PrintAlone("best fit of a column", Median(fits) / 1000, "ms", 50);
-
-    const CXTPReportRecords* const records = grid.GetRecords();
-    for (int round = 0; round <= Rounds; ++round) {
-        updates.push_back(MicrosecondsOf(1, [&](int) {
-            for (int n = 0; n < Updates; ++n) {
-                CXTPReportRecordItem* const item = records->GetAt(n % records->GetCount())->GetItem(1);
-                static_cast<CXTPReportRecordItemNumber*>(item)->SetValue(n);
-                grid.RedrawControl();
-            }
-            contender.Show();
-        }));
-    }
-    PrintAlone("100,000 cell updates, each asking for a redraw", Median(updates) / 1000, "ms", 300);
+    const auto measureWay = [&](const char* name, const std::function<void()>& way) {
+        std::vector<double> times;
+        for (int round = 0; round <= Rounds; ++round) {
+            Contender::Pump();
+            times.push_back(measure::Microseconds(1, [&](int) {
+                way();
+                contender.Show();
+            }));
+        }
+        results.AtMost(std::string("100,000 cell updates, ") + name, measure::Median(times) / 1000, 300, Milliseconds);
+    };
+    const auto forAll = [&contender](const std::function<void(int)>& afterEach) {
+        for (int n = 0; n < Updates; ++n) {
+            contender.SetNumber(n);
+            afterEach(n);
+        }
+    };
+    const int visible = grid.GetFullyVisibleRowCount();
+    measureWay("`RedrawControl` after each", [&] { forAll([&](int) { grid.RedrawControl(); }); });
+    measureWay("`RedrawRow` after each, of 1,000 rows", [&] {
+        forAll(
+            [&](int n) { grid.RedrawRow(grid.GetRows()->Find(grid.GetRecords()->GetAt(n % Contender::RecordRows))); });
+    });
+    measureWay("`RedrawRow` after each, of the rows in view", [&] {
+        for (int n = 0; n < Updates; ++n) {
+            contender.SetNumber(n % visible);
+            grid.RedrawRow(grid.GetRows()->GetAt(n % visible));
+        }
+    });
+    measureWay("one `RedrawControl` at the end", [&] {
+        forAll([](int) {});
+        grid.RedrawControl();
+    });
+    measureWay("one `Populate` at the end", [&] {
+        forAll([](int) {});
+        grid.Populate();
+    });
+    measureWay("`RedrawControl` after each between `SetRedraw` off and on", [&] {
+        grid.SetRedraw(FALSE);
+        forAll([&](int) { grid.RedrawControl(); });
+        grid.SetRedraw(TRUE);
+        grid.Invalidate(FALSE);
+    });
 }
 
-void MeasureManyRows(GridContender& contender) {
-    const auto measure = [&contender](int rows, double& calls) {
+void MeasureHitTest(Results& results, GridContender& contender) {
+    std::vector<double> times;
+    for (int round = 0; round <= Rounds; ++round)
+        times.push_back(measure::Microseconds(20'000, [&](int n) { contender.HitTest(HitPoint(n)); }));
+    results.AtMost("hit test of row, cell and column", measure::Median(times), 1, FineMicroseconds);
+}
+
+void MeasureManyRows(Results& results, GridContender& contender) {
+    const auto frame = [&contender](int rows) {
         contender.SetVirtualRows(rows);
         contender.GoToRow(rows / 2);
         Contender::Pump();
         contender.Repaint();
-        const int before = GridContender::DrawCalls();
-        const double time = MicrosecondsOf(20, [&](int) { contender.Repaint(); });
-        calls = (GridContender::DrawCalls() - before) / 20.0;
-        return time;
+        return measure::Microseconds(20, [&](int) { contender.Repaint(); });
     };
     std::vector<double> few, many;
     double fewCalls = 0, manyCalls = 0;
     for (int round = 0; round <= Rounds; ++round) {
-        few.push_back(measure(FewRows, fewCalls));
-        many.push_back(measure(ManyRows, manyCalls));
+        few.push_back(frame(FewRows));
+        fewCalls = CallsOfRepaint(contender);
+        many.push_back(frame(ManyRows));
+        manyCalls = CallsOfRepaint(contender);
     }
-    std::printf("%-46s %12.0f %s, %.0f cells drawn\n", "a frame at 1,000 virtual rows", Median(few), Unit, fewCalls);
-    std::printf("%-46s %12.0f %s, %.0f cells drawn\n", "a frame at 10,000,000 virtual rows", Median(many), Unit,
-                manyCalls);
-    PrintAlone("  ratio", Median(many) / Median(few), "", 1.1);
+    results.Inform("a frame at 1,000 virtual rows", measure::Median(few), Microseconds);
+    results.Inform("a frame at 10,000,000 virtual rows", measure::Median(many), Microseconds);
+    results.AtMost("ratio of the two", measure::Median(many) / measure::Median(few), 1.1, Ratio);
+    results.Inform("drawing operations of a frame at 1,000 virtual rows", fewCalls, Plain);
+    results.Inform("drawing operations of a frame at 10,000,000 virtual rows", manyCalls, Plain);
+    results.AtMost("ratio of the two", manyCalls / fewCalls, 1.1, Ratio);
 }
 
 /// Whether the list view is that of version 6, which lives in a folder of its own.
@@ -206,25 +279,34 @@ bool IsListViewNew() {
     return std::wcsstr(path, L"winsxs") != nullptr;
 }
 
-void Run() {
-    GridContender grid(Rows::Records, RecordRows);
+void Run(Results& results) {
+    GridContender grid(Rows::Records, Contender::RecordRows);
     const auto bare = MakeBareContender(grid.Grid().GetHeaderRect().Height());
-    const auto list = MakeListViewContender(RecordRows);
-    std::printf("list view: common controls %s; plot pixels that differ: %d (list view), %d (bare loop)\n\n",
-                IsListViewNew() ? "version 6" : "before version 6", DifferentPixels(grid, *list),
-                DifferentPixels(grid, *bare));
-    std::printf("%-30s %9s %9s %9s   %-17s   %s\n", "median, microseconds", "grid", "list view", "bare loop",
-                "grid/list view", "grid/bare loop");
-    CompareDrawing({&grid, list.get(), bare.get()});
+    const auto list = MakeListViewContender(Contender::RecordRows);
+    drawingcalls::StartCounting();
+    char says[200];
+    std::snprintf(says, sizeof(says),
+                  "List view: common controls %s. Pixels of the plots that differ from ours: %d (list view), %d (bare "
+                  "loop).",
+                  IsListViewNew() ? "version 6" : "before version 6", DifferentPixels(grid, *list),
+                  DifferentPixels(grid, *bare));
+    results.Say(says);
 
+    results.Begin("Grid, list view and bare loop",
+                  {"median", "our grid", "list view", "bare loop", "ours / list view", "ours / bare loop", ""});
+    CompareDrawing(results, {&grid, list.get(), bare.get()});
     GridContender virtualGrid(Rows::Virtual, ScrolledRows);
-    const auto longList = MakeListViewContender(ScrolledRows);
-    CompareScrolling({&virtualGrid, longList.get(), bare.get()});
+    {
+        const auto longList = MakeListViewContender(ScrolledRows);
+        CompareScrolling(results, {&virtualGrid, longList.get(), bare.get()});
+    }
+    CompareAnswers(results, {&grid, list.get(), bare.get()});
 
-    std::printf("\n");
-    MeasureAnswers(grid);
+    results.Begin("Grid alone", {"median", "figure", "at most", ""});
+    MeasureHitTest(results, grid);
+    MeasureUpdates(results, grid);
     virtualGrid.Window().GetTopLevelParent()->BringWindowToTop();
-    MeasureManyRows(virtualGrid);
+    MeasureManyRows(results, virtualGrid);
 }
 
 } // namespace
@@ -233,6 +315,9 @@ int main() {
     if (!AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), SW_SHOWNORMAL))
         return 1;
     ::SetConsoleOutputCP(CP_UTF8);
-    Run();
-    return 0;
+    Results results;
+    Run(results);
+    recordbench::Run(results);
+    results.Say(results.Verdict());
+    return results.AllMet() ? 0 : 1;
 }

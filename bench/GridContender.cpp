@@ -132,6 +132,25 @@ void GridContender::PageDown() {
     Pump();
 }
 
+void GridContender::HitTest(CPoint point) {
+    CRect rc;
+    CXTPReportColumn* column = nullptr;
+    if (const CXTPReportRow* row = m_grid.HitTest(point))
+        row->HitTest(point, &rc, &column);
+}
+
+void GridContender::BestFit() { m_grid.GetColumns()->GetAt(0)->GetBestFitWidth(); }
+
+void GridContender::SetNumber(int n) {
+    CXTPReportRecordItem* const item = m_grid.GetRecords()->GetAt(n % RecordRows)->GetItem(1);
+    static_cast<CXTPReportRecordItemNumber*>(item)->SetValue(n);
+}
+
+void GridContender::Update(int n) {
+    SetNumber(n);
+    m_grid.RedrawControl();
+}
+
 CRect GridContender::BarRect(int visibleRow, int bar) {
     const CRect rcColumn = m_grid.GetColumns()->GetAt(2 + bar)->GetRect();
     const int top = m_grid.GetReportRectangle().top + visibleRow * benchpicture::RowHeight;

@@ -23,9 +23,14 @@ public:
     /// Presses the button on a mark; only a grid of records can be dragged in.
     void BeginDrag() override;
     void EndDrag() override;
+    void HitTest(CPoint point) override;
+    void BestFit() override;
+    void Update(int n) override;
     CRect BarRect(int visibleRow, int bar) override;
 
     CXTPReportControl& Grid() { return m_grid; }
+    /// Changes the number of a row without asking for a redraw.
+    void SetNumber(int n);
     /// Changes how many rows the virtual record stands for.
     void SetVirtualRows(int rows);
     /// How often `CXTPReportRecordItem::Draw` was called in this process.

@@ -104,6 +104,19 @@ public:
         m_list.SendMessage(LVM_REDRAWITEMS, static_cast<WPARAM>(row), row);
         Show();
     }
+    void HitTest(CPoint point) override {
+        LVHITTESTINFO hit = {};
+        hit.pt = point;
+        m_list.SendMessage(LVM_SUBITEMHITTEST, 0, reinterpret_cast<LPARAM>(&hit));
+    }
+    void BestFit() override {
+        m_list.SendMessage(LVM_SETCOLUMNWIDTH, 0, LVSCW_AUTOSIZE);
+        m_list.SendMessage(LVM_SETCOLUMNWIDTH, 0, benchpicture::ColumnWidths[0]);
+    }
+    void Update(int n) override {
+        const int row = n % RecordRows;
+        m_list.SendMessage(LVM_REDRAWITEMS, static_cast<WPARAM>(row), row);
+    }
     CRect BarRect(int visibleRow, int bar) override {
         const LRESULT row = m_list.SendMessage(LVM_GETTOPINDEX) + visibleRow;
         CRect rc;

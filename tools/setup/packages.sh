@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing, and only those; without any it neither asks for rights nor for a network.
-# packages.sh [fuzz]: with the argument, also what only tools/fuzz needs.
+# packages.sh [fuzz|bench]: with the argument, also what only the tool of that name needs.
 set -euo pipefail
 # shellcheck source=tools/lib/common.sh
 . "$(dirname "${BASH_SOURCE[0]}")/../lib/common.sh"
@@ -23,6 +23,10 @@ source packages: continued downloads, unpacking|5 s|curl xz-utils
 '
 if [ "${1:-}" = fuzz ]; then
     groups+='libFuzzer and the sanitizers of clang|20 s|clang-14 libclang-rt-14-dev
+'
+fi
+if [ "${1:-}" = bench ]; then
+    groups+='programs that compute the same statistics, to compare with|20 s|datamash miller
 '
 fi
 

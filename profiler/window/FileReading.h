@@ -4,6 +4,7 @@
 #include "window/ColumnFile.h"
 
 #include <atomic>
+#include <exception>
 #include <functional>
 #include <thread>
 
@@ -20,7 +21,7 @@ public:
     csv::ReadState State() const { return {m_fraction, m_rows}; }
     bool IsDone() const { return m_done; }
 
-    /// What came of it; call it once, when `IsDone`.
+    /// What came of it; call it once, when `IsDone`. Throws what reading threw.
     ColumnFileResult TakeResult();
 
 private:
@@ -32,6 +33,7 @@ private:
     std::atomic<double> m_fraction = 0;
     std::atomic<std::size_t> m_rows = 0;
     std::atomic<bool> m_done = false;
-    ColumnFileResult m_result; ///< the reading thread's until it is done
-    std::jthread m_thread;     ///< the last member: it uses the others
+    ColumnFileResult m_result; ///< the reading thread's until it is done, as the following
+    std::exception_ptr m_exception;
+    std::jthread m_thread; ///< the last member: it uses the others
 };

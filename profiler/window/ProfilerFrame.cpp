@@ -209,8 +209,9 @@ void ProfilerFrame::FinishReading() {
     // While a mark or a header is dragged, the grid keeps its rows; the timer asks again.
     if (m_reading == nullptr || !m_reading->IsDone() || ::GetCapture() != nullptr)
         return;
-    ColumnFileResult result = m_reading->TakeResult();
+    const std::unique_ptr<FileReading> reading = std::move(m_reading);
     LeaveReading();
+    ColumnFileResult result = reading->TakeResult();
     if (result.file != nullptr) {
         TakeFile(std::move(result.file));
         return;

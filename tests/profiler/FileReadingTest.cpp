@@ -57,6 +57,14 @@ TEST_F(FileReadingTest, GivesAnErrorInsteadOfAFile) {
               "reading_test.csv, line 1: the file is empty. Its first line must name the columns.");
 }
 
+TEST_F(FileReadingTest, WhatReadingThrowsComesWithTheResult) {
+    std::promise<void> done;
+    // Half a character cannot be written in a sentence about the file.
+    m_reading = std::make_unique<FileReading>(L"\xD800.csv", "Column %1%", [&] { done.set_value(); });
+    done.get_future().wait();
+    EXPECT_THROW(m_reading->TakeResult(), std::exception);
+}
+
 TEST_F(FileReadingTest, ProgressCanGiveUpAtAnyPoint) {
     std::ofstream(m_path, std::ios::binary) << "a,b\n1,2\n3,4\n";
     int whole = 0;

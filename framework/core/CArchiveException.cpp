@@ -1,6 +1,8 @@
 // CArchiveException.cpp - what went wrong while an archive was read or written.
 #include "core/CArchiveException.h"
 
+#include "core/ExceptionText.h"
+
 IMPLEMENT_DYNAMIC(CArchiveException, CException)
 
 namespace {
@@ -34,12 +36,7 @@ CArchiveException::CArchiveException(int cause, LPCTSTR archiveName) : m_cause(c
 
 BOOL CArchiveException::GetErrorMessage(LPTSTR error, UINT maxError, UINT* helpContext) const {
     CException::GetErrorMessage(error, maxError, helpContext);
-    if (!error || maxError == 0)
-        return FALSE;
-    CString sentence;
-    sentence.Format(SentenceFor(m_cause), m_strFileName.IsEmpty() ? CString(L"The file") : m_strFileName);
-    ::lstrcpynW(error, sentence, static_cast<int>(maxError));
-    return TRUE;
+    return exceptiontext::Write(SentenceFor(m_cause), m_strFileName, error, maxError);
 }
 
 void AfxThrowArchiveException(int cause, LPCTSTR archiveName) { throw new CArchiveException(cause, archiveName); }

@@ -1,6 +1,8 @@
 // CFileException.cpp - what went wrong with a file.
 #include "core/CFileException.h"
 
+#include "core/ExceptionText.h"
+
 IMPLEMENT_DYNAMIC(CFileException, CException)
 
 namespace {
@@ -47,12 +49,7 @@ CFileException::CFileException(int cause, LONG osError, LPCTSTR fileName)
 
 BOOL CFileException::GetErrorMessage(LPTSTR error, UINT maxError, UINT* helpContext) const {
     CException::GetErrorMessage(error, maxError, helpContext);
-    if (!error || maxError == 0)
-        return FALSE;
-    CString sentence;
-    sentence.Format(SentenceFor(m_cause), m_strFileName.IsEmpty() ? CString(L"The file") : m_strFileName);
-    ::lstrcpynW(error, sentence, static_cast<int>(maxError));
-    return TRUE;
+    return exceptiontext::Write(SentenceFor(m_cause), m_strFileName, error, maxError);
 }
 
 int CFileException::OsErrorToException(LONG osError) {

@@ -118,8 +118,8 @@ protected:
     afx_msg void OnMenuSelect(UINT nItemID, UINT nFlags, HMENU hSysMenu);
     /// Erases nothing when a pane covers the frame.
     afx_msg BOOL OnEraseBkgnd(CDC* pDC);
-    /// WM_DPICHANGED: the frame has come to a monitor of another resolution. Tells the descendants, takes the place that
-    /// the system suggests (lParam, a RECT; null in a frame inside another) and lays out.
+    /// WM_DPICHANGED: the frame has come to a monitor of another resolution. Tells the descendants, takes the place
+    /// that the system suggests (lParam, a RECT; null in a frame inside another) and lays out.
     afx_msg LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);
     /// WM_SETMESSAGESTRING: wParam a string id or 0, lParam a text or 0: shows it in the message bar; returns the id
     /// shown before.

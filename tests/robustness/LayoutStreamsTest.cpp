@@ -1,6 +1,8 @@
 // Saved layouts with errors in them, read by a control with a window: it takes all of one or nothing, and goes on.
 #include "Rig.h"
 
+#include "../support/LayoutBytes.h"
+
 #include <algorithm>
 #include <iostream>
 #include <iterator>
@@ -9,32 +11,6 @@
 namespace {
 
 using Bytes = std::vector<BYTE>;
-
-Bytes Save(CXTPReportControl& control) {
-    CMemFile file(1024);
-    CArchive archive(&file, CArchive::store);
-    control.SerializeState(archive);
-    archive.Close();
-    Bytes bytes(static_cast<std::size_t>(file.GetLength()));
-    file.SeekToBegin();
-    file.Read(bytes.data(), static_cast<UINT>(bytes.size()));
-    return bytes;
-}
-
-/// False when the control refused the bytes.
-bool Load(CXTPReportControl& control, Bytes& bytes) {
-    CMemFile file(bytes.data(), static_cast<UINT>(bytes.size()));
-    CArchive archive(&file, CArchive::load);
-    bool isRead = true;
-    try {
-        control.SerializeState(archive);
-    } catch (CArchiveException* exception) {
-        exception->Delete();
-        isRead = false;
-    }
-    archive.Abort();
-    return isRead;
-}
 
 /// A sentence about what no layout may bring about, or nothing.
 std::string Unusable(CXTPReportControl& control) {
@@ -98,19 +74,19 @@ private:
 TEST(LayoutStreams, MutatedOnesAreTakenInFullOrNotAtAll) {
     GridRig rig;
     CXTPReportColumns& columns = *rig.grid->GetColumns();
-    std::vector<Bytes> layouts = {Save(*rig.grid)};
+    std::vector<Bytes> layouts = {SaveLayout(*rig.grid)};
     columns.GetAt(1)->SetVisible(FALSE);
     columns.ChangeColumnOrder(0, 2);
     columns.SetSortColumn(columns.GetAt(0), FALSE);
-    layouts.push_back(Save(*rig.grid));
+    layouts.push_back(SaveLayout(*rig.grid));
     columns.GetSortOrder()->Add(columns.GetAt(2), TRUE);
     columns.GetGroupsOrder()->Add(columns.GetAt(1), FALSE);
     columns.GetAt(2)->SetWidth(311);
-    layouts.push_back(Save(*rig.grid));
+    layouts.push_back(SaveLayout(*rig.grid));
 
     // What a whole layout takes; a broken one may take that, and a few times its own size.
     long long taken = calltable::TakenBytes();
-    ASSERT_TRUE(Load(*rig.grid, layouts[2]));
+    ASSERT_EQ(LoadLayout(*rig.grid, layouts[2]), CArchiveException::none);
     const long long usual = calltable::TakenBytes() - taken;
     Mutator mutate(20261121);
     int accepted = 0;
@@ -118,14 +94,14 @@ TEST(LayoutStreams, MutatedOnesAreTakenInFullOrNotAtAll) {
     const int count = Repetitions(10000, 1000);
     for (int i = 0; i < count; ++i) {
         Bytes bytes = mutate(layouts[mutate.Pick(3)], layouts[mutate.Pick(3)]);
-        const Bytes before = Save(*rig.grid);
+        const Bytes before = SaveLayout(*rig.grid);
         taken = calltable::TakenBytes();
-        const bool isRead = Load(*rig.grid, bytes);
+        const bool isRead = LoadLayout(*rig.grid, bytes) == CArchiveException::none;
         const long long extra = calltable::TakenBytes() - taken - usual;
         most = std::max(most, extra - 8 * static_cast<long long>(bytes.size()));
         ASSERT_EQ(Unusable(*rig.grid), "") << "layout " << i;
         if (!isRead) {
-            ASSERT_EQ(Save(*rig.grid), before) << "layout " << i << " was refused and changed something";
+            ASSERT_EQ(SaveLayout(*rig.grid), before) << "layout " << i << " was refused and changed something";
         }
         accepted += isRead;
         if (i % 100 == 0)
@@ -134,8 +110,8 @@ TEST(LayoutStreams, MutatedOnesAreTakenInFullOrNotAtAll) {
     EXPECT_LE(most, 8 * 1024) << "bytes beyond the usual and eight times the stream";
     EXPECT_GT(accepted, count / 20);
     EXPECT_LT(accepted, count * 19 / 20);
-    ASSERT_TRUE(Load(*rig.grid, layouts[1]));
-    EXPECT_EQ(Save(*rig.grid).size(), layouts[1].size());
+    ASSERT_EQ(LoadLayout(*rig.grid, layouts[1]), CArchiveException::none);
+    EXPECT_EQ(SaveLayout(*rig.grid).size(), layouts[1].size());
     std::cout << "[ mutated  ] layouts: " << count << ", " << accepted << " still layouts" << std::endl;
 }
 

@@ -3,6 +3,7 @@
 #include "GridWindow.h"
 
 #include "../../framework/windows/WindowDpi.h"
+#include "../support/LayoutBytes.h"
 
 namespace {
 
@@ -200,16 +201,11 @@ TEST_F(DpiTest, ALayoutSavedAtOneResolutionHasTheProportionsAtAnother) {
     GoTo(144);
     m_columns[0]->SetWidth(300);
     m_columns[1]->SetWidth(61);
-    CMemFile file;
-    CArchive store(&file, CArchive::store);
-    m_grid.SerializeState(store);
-    store.Close();
+    const std::vector<BYTE> layout = SaveLayout(m_grid);
     GoTo(96);
     m_columns[0]->SetWidth(50);
     m_columns[1]->SetWidth(50);
-    file.SeekToBegin();
-    CArchive load(&file, CArchive::load);
-    m_grid.SerializeState(load);
+    ASSERT_EQ(LoadLayout(m_grid, layout), CArchiveException::none);
     EXPECT_EQ(Widths(), (std::vector<int>{200, 41, 60}));
 }
 

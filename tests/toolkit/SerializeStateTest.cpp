@@ -1,40 +1,14 @@
 // The layout of a control, written to an archive and read back.
 #include "ToolkitTestApp.h"
 
+#include "../support/LayoutBytes.h"
+
 #include <memory>
 #include <random>
 
 namespace {
 
 using Bytes = std::vector<BYTE>;
-
-Bytes Save(CXTPReportControl& control) {
-    CMemFile file(1024);
-    CArchive archive(&file, CArchive::store);
-    control.SerializeState(archive);
-    archive.Close();
-    Bytes bytes(static_cast<std::size_t>(file.GetLength()));
-    file.SeekToBegin();
-    file.Read(bytes.data(), static_cast<UINT>(bytes.size()));
-    return bytes;
-}
-
-/// Reads the layout; the cause of the archive exception, or `none`.
-int Load(CXTPReportControl& control, Bytes bytes) {
-    CMemFile file;
-    file.Attach(bytes.data(), static_cast<UINT>(bytes.size()));
-    CArchive archive(&file, CArchive::load);
-    int cause = CArchiveException::none;
-    try {
-        control.SerializeState(archive);
-    } catch (CArchiveException* exception) {
-        cause = exception->m_cause;
-        exception->Delete();
-    }
-    archive.Abort();
-    file.Detach();
-    return cause;
-}
 
 /// "name width visible" of each column from left to right, then the sort order.
 std::vector<std::wstring> Describe(const CXTPReportControl& control) {
@@ -86,22 +60,22 @@ protected:
 };
 
 TEST_F(SerializeStateTest, RestoresOrderWidthVisibilitySortingAndGrouping) {
-    const Bytes original = Save(m_control);
+    const Bytes original = SaveLayout(m_control);
     Rearrange(m_control);
     ASSERT_EQ(Describe(m_control), m_rearranged);
-    const Bytes rearranged = Save(m_control);
-    EXPECT_EQ(Load(m_control, original), CArchiveException::none);
+    const Bytes rearranged = SaveLayout(m_control);
+    EXPECT_EQ(LoadLayout(m_control, original), CArchiveException::none);
     EXPECT_EQ(Describe(m_control), m_original);
-    EXPECT_EQ(Load(m_control, rearranged), CArchiveException::none);
+    EXPECT_EQ(LoadLayout(m_control, rearranged), CArchiveException::none);
     EXPECT_EQ(Describe(m_control), m_rearranged);
-    EXPECT_EQ(Save(m_control), rearranged);
+    EXPECT_EQ(SaveLayout(m_control), rearranged);
 }
 
 TEST_F(SerializeStateTest, RestoresIntoAnotherControl) {
     Rearrange(m_control);
     CXTPReportControl other;
     AddColumns(other);
-    EXPECT_EQ(Load(other, Save(m_control)), CArchiveException::none);
+    EXPECT_EQ(LoadLayout(other, SaveLayout(m_control)), CArchiveException::none);
     EXPECT_EQ(Describe(other), m_rearranged);
 }
 
@@ -109,32 +83,32 @@ TEST_F(SerializeStateTest, SortsTheRowsAsTheLayoutSays) {
     for (const wchar_t* text : {L"b", L"a", L"c"})
         AddTexts(m_control, {text});
     m_control.Populate();
-    const Bytes unsorted = Save(m_control);
+    const Bytes unsorted = SaveLayout(m_control);
     m_control.GetColumns()->SetSortColumn(m_control.GetColumns()->GetAt(0), FALSE);
-    const Bytes sorted = Save(m_control);
-    EXPECT_EQ(Load(m_control, sorted), CArchiveException::none);
+    const Bytes sorted = SaveLayout(m_control);
+    EXPECT_EQ(LoadLayout(m_control, sorted), CArchiveException::none);
     EXPECT_EQ(RowTexts(m_control), (Lines{L"c", L"b", L"a"}));
-    EXPECT_EQ(Load(m_control, unsorted), CArchiveException::none);
+    EXPECT_EQ(LoadLayout(m_control, unsorted), CArchiveException::none);
     EXPECT_EQ(RowTexts(m_control), (Lines{L"b", L"a", L"c"}));
 }
 
 TEST_F(SerializeStateTest, KeepsNewColumnsAndDropsUnknownOnes) {
     Rearrange(m_control);
-    const Bytes bytes = Save(m_control);
+    const Bytes bytes = SaveLayout(m_control);
     CXTPReportControl other;
     other.AddColumn(new CXTPReportColumn(0, L"New", 45));
     other.AddColumn(new CXTPReportColumn(2, L"Name", 100));
     other.AddColumn(new CXTPReportColumn(1, L"inner", 100));
-    EXPECT_EQ(Load(other, bytes), CArchiveException::none);
+    EXPECT_EQ(LoadLayout(other, bytes), CArchiveException::none);
     EXPECT_EQ(Describe(other), (Lines{L"inner 60 -", L"Name 130 +", L"New 45 +", L"sort Name up", L"group Name"}));
 }
 
 TEST_F(SerializeStateTest, BringsWidthsWithinTheLimitsOfToday) {
     Rearrange(m_control);
-    const Bytes bytes = Save(m_control);
+    const Bytes bytes = SaveLayout(m_control);
     m_control.GetColumns()->Find(CString(L"Name"))->SetMaxWidth(90);
     m_control.GetColumns()->Find(CString(L"Größe"))->SetMinWidth(50);
-    EXPECT_EQ(Load(m_control, bytes), CArchiveException::none);
+    EXPECT_EQ(LoadLayout(m_control, bytes), CArchiveException::none);
     EXPECT_EQ(m_control.GetColumns()->Find(CString(L"Name"))->GetWidth(), 90);
     EXPECT_EQ(m_control.GetColumns()->Find(CString(L"Größe"))->GetWidth(), 50);
 }
@@ -143,9 +117,9 @@ TEST_F(SerializeStateTest, EveryTruncationThrowsEndOfFileAndChangesNothing) {
     CXTPReportControl source;
     AddColumns(source);
     Rearrange(source);
-    const Bytes bytes = Save(source);
+    const Bytes bytes = SaveLayout(source);
     for (std::size_t size = 0; size < bytes.size(); ++size) {
-        ASSERT_EQ(Load(m_control, Bytes(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(size))),
+        ASSERT_EQ(LoadLayout(m_control, Bytes(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(size))),
                   CArchiveException::endOfFile)
             << size;
         ASSERT_EQ(Describe(m_control), m_original) << size;
@@ -156,16 +130,16 @@ TEST_F(SerializeStateTest, AnotherVersionOrGarbageThrowsBadSchemaAndChangesNothi
     CXTPReportControl source;
     AddColumns(source);
     Rearrange(source);
-    Bytes otherVersion = Save(source);
+    Bytes otherVersion = SaveLayout(source);
     otherVersion[4] = 2;
-    EXPECT_EQ(Load(m_control, otherVersion), CArchiveException::badSchema);
-    EXPECT_EQ(Load(m_control, Bytes(200, 0xA5)), CArchiveException::badSchema);
-    Bytes tooManyColumns = Save(source);
+    EXPECT_EQ(LoadLayout(m_control, otherVersion), CArchiveException::badSchema);
+    EXPECT_EQ(LoadLayout(m_control, Bytes(200, 0xA5)), CArchiveException::badSchema);
+    Bytes tooManyColumns = SaveLayout(source);
     tooManyColumns[16] = 0xFF;
-    EXPECT_EQ(Load(m_control, tooManyColumns), CArchiveException::badSchema);
-    Bytes hugeSize = Save(source);
+    EXPECT_EQ(LoadLayout(m_control, tooManyColumns), CArchiveException::badSchema);
+    Bytes hugeSize = SaveLayout(source);
     hugeSize[9] = 0x7F;
-    EXPECT_EQ(Load(m_control, hugeSize), CArchiveException::badSchema);
+    EXPECT_EQ(LoadLayout(m_control, hugeSize), CArchiveException::badSchema);
     EXPECT_EQ(Describe(m_control), m_original);
 }
 
@@ -185,13 +159,13 @@ TEST_F(SerializeStateTest, LeavesTheArchiveBehindTheLayout) {
 
 TEST_F(SerializeStateTest, NoMutationLeavesTheControlUnusable) {
     Rearrange(m_control);
-    const Bytes bytes = Save(m_control);
+    const Bytes bytes = SaveLayout(m_control);
     std::mt19937 random(5);
     for (int i = 0; i < 2000; ++i) {
         Bytes mutated = bytes;
         for (unsigned changes = random() % 3 + 1; changes > 0; --changes)
             mutated[random() % mutated.size()] = static_cast<BYTE>(random());
-        Load(m_control, mutated);
+        LoadLayout(m_control, mutated);
         CXTPReportColumns& columns = *m_control.GetColumns();
         ASSERT_EQ(columns.GetCount(), 3);
         for (const wchar_t* name : {L"Name", L"Größe", L"inner"}) {
@@ -201,7 +175,7 @@ TEST_F(SerializeStateTest, NoMutationLeavesTheControlUnusable) {
             ASSERT_LE(column->GetWidth(), column->GetMaxWidth());
         }
     }
-    EXPECT_EQ(Load(m_control, bytes), CArchiveException::none);
+    EXPECT_EQ(LoadLayout(m_control, bytes), CArchiveException::none);
     EXPECT_EQ(Describe(m_control), m_rearranged);
 }
 

@@ -114,6 +114,32 @@ TEST_F(ReportModelTest, DeletingARecordTakesItsRowOutAtOnce) {
     rowB->InternalRelease();
 }
 
+TEST_F(ReportModelTest, RowsThatWereLookedAtMoveUpWhenRecordsGo) {
+    for (int i = 0; i < 1000; ++i)
+        AddNumbers(m_control, {1.0 * i});
+    m_control.Populate();
+    const CXTPReportRows& rows = *m_control.GetRows();
+    std::vector<CXTPReportRow*> looked;
+    for (int i = 0; i < 1000; ++i)
+        if (i < 3 || (i > 250 && i < 260) || i == 512 || i > 998)
+            looked.push_back(rows.GetAt(i));
+    std::vector<const CXTPReportRecord*> records;
+    for (const CXTPReportRow* const row : looked)
+        records.push_back(row->GetRecord());
+    for (const int removed : {20, 700, 0}) {
+        m_control.GetRecords()->GetAt(removed)->Delete();
+        if (removed == 0) {
+            looked.erase(looked.begin());
+            records.erase(records.begin());
+        }
+        for (std::size_t i = 0; i < looked.size(); ++i) {
+            ASSERT_EQ(looked[i]->GetRecord(), records[i]);
+            ASSERT_EQ(looked[i]->GetIndex(), records[i]->GetIndex());
+            ASSERT_EQ(rows.GetAt(looked[i]->GetIndex()), looked[i]);
+        }
+    }
+}
+
 TEST_F(ReportModelTest, ThousandsOfRecordsAreRemovedInAnyOrder) {
     std::vector<CXTPReportRecord*> records;
     for (int i = 0; i < 5000; ++i)

@@ -7,6 +7,8 @@
 #include "CXTPReportSelectedRows.h"
 
 #include <algorithm>
+#include <iterator>
+#include <new>
 #include <utility>
 
 CXTPReportRows::CXTPReportRows(CXTPReportControl* pControl)
@@ -24,11 +26,7 @@ CXTPReportRecord* CXTPReportRows::GetRecordAt(int nIndex) const {
 
 /// Where the row object of a row that is there is kept.
 CXTPReportRow*& CXTPReportRows::RowObject(int nIndex) const {
-    if (m_pVirtualRecord)
-        return m_virtualRowObjects[nIndex];
-    if (m_rowObjects.empty())
-        m_rowObjects.resize(GetCount());
-    return m_rowObjects[nIndex];
+    return m_rowObjects[nIndex / RowBlock][nIndex % RowBlock];
 }
 
 CXTPReportRow* CXTPReportRows::GetAt(int nIndex) const {
@@ -57,10 +55,27 @@ void CXTPReportRows::Detach(CXTPReportRow* pRow) {
 }
 
 void CXTPReportRows::DetachRowObjects() {
-    for (CXTPReportRow* const pRow : std::exchange(m_rowObjects, {}))
-        Detach(pRow);
-    for (const auto& [nIndex, pRow] : std::exchange(m_virtualRowObjects, {}))
-        Detach(pRow);
+    for (const auto& [nBlock, rows] : std::exchange(m_rowObjects, {}))
+        std::for_each(rows.begin(), rows.end(), Detach);
+}
+
+/// Lets go of a row object; those below it move up by one place. Want of memory costs all of them, to be made again.
+void CXTPReportRows::TakeOutRowObject(int nIndex) try {
+    std::vector<CXTPReportRow*> below;
+    for (const auto& [nBlock, rows] : m_rowObjects)
+        std::copy_if(rows.begin(), rows.end(), std::back_inserter(below),
+                     [nIndex](const CXTPReportRow* pRow) { return pRow && pRow->m_nIndex > nIndex; });
+    // Room is made before anything moves.
+    CXTPReportRow*& pTaken = RowObject(nIndex);
+    for (const CXTPReportRow* const pRow : below)
+        RowObject(pRow->m_nIndex - 1);
+    Detach(std::exchange(pTaken, nullptr));
+    for (const CXTPReportRow* const pRow : below)
+        RowObject(pRow->m_nIndex) = nullptr;
+    for (CXTPReportRow* const pRow : below)
+        RowObject(--pRow->m_nIndex) = pRow;
+} catch (const std::bad_alloc&) {
+    DetachRowObjects();
 }
 
 void CXTPReportRows::Rebuild(std::vector<CXTPReportRecord*> records) {
@@ -82,14 +97,8 @@ void CXTPReportRows::RecordRemoved(CXTPReportRecord* pRecord) {
     if (nIndex < 0)
         return;
     m_records.Erase(nIndex);
-    if (!m_rowObjects.empty()) {
-        Detach(m_rowObjects[nIndex]);
-        const auto next = m_rowObjects.erase(m_rowObjects.begin() + nIndex);
-        std::for_each(next, m_rowObjects.end(), [](CXTPReportRow* pRow) {
-            if (pRow)
-                --pRow->m_nIndex;
-        });
-    }
+    if (!m_rowObjects.empty())
+        TakeOutRowObject(nIndex);
     if (m_pControl) {
         m_pControl->GetSelectedRows()->RowRemoved(nIndex);
         m_pControl->OnRowRemoved(nIndex);

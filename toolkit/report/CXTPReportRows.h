@@ -5,6 +5,7 @@
 #include "RecordSequence.h"
 #include "XTPReportDefines.h"
 
+#include <array>
 #include <unordered_map>
 #include <vector>
 
@@ -39,14 +40,14 @@ public:
 private:
     CXTPReportRow*& RowObject(int nIndex) const;
     void DetachRowObjects();
-    void Detach(CXTPReportRow* pRow);
+    void TakeOutRowObject(int nIndex);
+    static void Detach(CXTPReportRow* pRow);
 
     CXTPReportControl* m_pControl;
     RecordSequence m_records;
     CXTPReportRecord* m_pVirtualRecord = nullptr;
     int m_nVirtualCount = 0;
-    /// By index, null for those that nobody has asked for; empty until somebody asks, and in virtual mode.
-    mutable std::vector<CXTPReportRow*> m_rowObjects;
-    /// Those of virtual mode by index: of very many rows few are ever looked at.
-    mutable std::unordered_map<int, CXTPReportRow*> m_virtualRowObjects;
+    static constexpr int RowBlock = 256;
+    /// By index in blocks, null for those that nobody has asked for: of very many rows few are ever looked at.
+    mutable std::unordered_map<int, std::array<CXTPReportRow*, RowBlock>> m_rowObjects;
 };

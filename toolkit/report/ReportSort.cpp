@@ -54,14 +54,28 @@ private:
     Items m_items;
 };
 
+// Exactly: a derived class may compare in another way.
+template <class Item>
+bool IsExactly(const CXTPReportRecordItem* item) {
+    return item && typeid(*item) == typeid(Item);
+}
+
 /// Plain number cells: their values, read once.
 class NumberKey : public ColumnKey {
 public:
-    explicit NumberKey(const Items& items) {
-        m_values.reserve(items.size());
-        for (const auto* const item : items)
-            m_values.push_back(static_cast<const CXTPReportRecordItemNumber*>(item)->GetValue());
+    /// Null when there are other cells.
+    static std::unique_ptr<ColumnKey> Of(const Items& items) {
+        std::vector<double> values;
+        values.reserve(items.size());
+        for (const auto* const item : items) {
+            // A cell is looked at once: what many cells cost is reading them from memory.
+            if (!IsExactly<CXTPReportRecordItemNumber>(item))
+                return nullptr;
+            values.push_back(static_cast<const CXTPReportRecordItemNumber*>(item)->GetValue());
+        }
+        return std::make_unique<NumberKey>(std::move(values));
     }
+    explicit NumberKey(std::vector<double> values) : m_values(std::move(values)) {}
     int Compare(std::uint32_t left, std::uint32_t right) const override {
         return itemcompare::Numbers(m_values[left], m_values[right]);
     }
@@ -139,21 +153,14 @@ private:
     std::vector<std::uint64_t> m_heads;
 };
 
-template <class Item>
-bool AllAreExactly(const Items& items) {
-    // Exactly: a derived class may compare in another way.
-    return std::all_of(items.begin(), items.end(),
-                       [](const CXTPReportRecordItem* item) { return item && typeid(*item) == typeid(Item); });
-}
-
 std::unique_ptr<ColumnKey> MakeKey(CXTPReportColumn* column, const std::vector<CXTPReportRecord*>& records) {
     Items items;
     items.reserve(records.size());
     for (const CXTPReportRecord* const record : records)
         items.push_back(record->GetItem(column));
-    if (AllAreExactly<CXTPReportRecordItemNumber>(items))
-        return std::make_unique<NumberKey>(items);
-    if (AllAreExactly<CXTPReportRecordItemText>(items))
+    if (std::unique_ptr<ColumnKey> numbers = NumberKey::Of(items))
+        return numbers;
+    if (std::all_of(items.begin(), items.end(), IsExactly<CXTPReportRecordItemText>))
         return std::make_unique<TextKey>(column, items);
     return std::make_unique<ItemKey>(column, std::move(items));
 }

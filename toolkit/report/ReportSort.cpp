@@ -12,6 +12,8 @@
 #include "CXTPReportSelectedRows.h"
 #include "ItemCompare.h"
 
+#include <boost/sort/pdqsort/pdqsort.hpp>
+
 #include <algorithm>
 #include <array>
 #include <cstdint>
@@ -64,11 +66,12 @@ bool IsExactly(const CXTPReportRecordItem* item) {
 class NumberKey : public ColumnKey {
 public:
     /// Null when there are other cells.
-    static std::unique_ptr<ColumnKey> Of(const Items& items) {
+    static std::unique_ptr<ColumnKey> Of(CXTPReportColumn* column, const std::vector<CXTPReportRecord*>& records) {
         std::vector<double> values;
-        values.reserve(items.size());
-        for (const auto* const item : items) {
+        values.reserve(records.size());
+        for (const CXTPReportRecord* const record : records) {
             // A cell is looked at once: what many cells cost is reading them from memory.
+            const CXTPReportRecordItem* const item = record->GetItem(column);
             if (!IsExactly<CXTPReportRecordItemNumber>(item))
                 return nullptr;
             values.push_back(static_cast<const CXTPReportRecordItemNumber*>(item)->GetValue());
@@ -154,12 +157,12 @@ private:
 };
 
 std::unique_ptr<ColumnKey> MakeKey(CXTPReportColumn* column, const std::vector<CXTPReportRecord*>& records) {
+    if (std::unique_ptr<ColumnKey> numbers = NumberKey::Of(column, records))
+        return numbers;
     Items items;
     items.reserve(records.size());
     for (const CXTPReportRecord* const record : records)
         items.push_back(record->GetItem(column));
-    if (std::unique_ptr<ColumnKey> numbers = NumberKey::Of(items))
-        return numbers;
     if (std::all_of(items.begin(), items.end(), IsExactly<CXTPReportRecordItemText>))
         return std::make_unique<TextKey>(column, items);
     return std::make_unique<ItemKey>(column, std::move(items));
@@ -210,8 +213,9 @@ std::vector<CXTPReportRecord*> SortedVisibleRecords(const CXTPReportRecords& rec
         const std::uint64_t head = first.key->Head(place);
         entries.push_back({first.increasing ? head : ~head, place});
     }
-    std::sort(entries.begin(), entries.end(), [](const Entry& left, const Entry& right) {
-        return left.head != right.head ? left.head < right.head : left.place < right.place;
+    // Without branches: which of two records comes first cannot be foretold.
+    boost::sort::pdqsort_branchless(entries.begin(), entries.end(), [](const Entry& left, const Entry& right) {
+        return (left.head < right.head) | ((left.head == right.head) & (left.place < right.place));
     });
     for (auto begin = entries.begin(); begin != entries.end();) {
         const auto end =

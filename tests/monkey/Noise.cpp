@@ -125,8 +125,10 @@ WPARAM Noise::RandomWord() {
     }
 }
 
-/// Messages that carry pointers and handles of drawing get valid ones, or none where that is allowed.
-void Noise::FillPointers(UINT message, WPARAM& wParam, LPARAM& lParam) {
+/// Messages that carry pointers and handles of drawing get valid ones, or none where that is allowed. Two things that
+/// Wine's own edit control dies of in any program, by a double click that comes later, stay away from the system's
+/// controls: texts of rare scripts, and a painting's device context that is none.
+void Noise::FillPointers(UINT message, bool isSystemControl, WPARAM& wParam, LPARAM& lParam) {
     NoiseMemory& memory = *m_memory;
     const auto pointTo = [&lParam](auto& target) { lParam = reinterpret_cast<LPARAM>(&target); };
     const auto number = [this] { return m_dice.Of({0, 1, -1, 100, 3000, -3000, 32767, INT_MAX, INT_MIN}); };
@@ -137,7 +139,7 @@ void Noise::FillPointers(UINT message, WPARAM& wParam, LPARAM& lParam) {
     case WM_SETMESSAGESTRING:
     case WM_POPMESSAGESTRING:
         for (wchar_t& each : memory.text)
-            each = static_cast<wchar_t>(m_dice.Between(1, 0xD7FF));
+            each = static_cast<wchar_t>(m_dice.Between(1, isSystemControl ? 0x024F : 0xD7FF));
         memory.text[m_dice.Below(256)] = L'\0';
         memory.text[255] = L'\0';
         lParam = m_dice.OneIn(4) ? 0 : reinterpret_cast<LPARAM>(memory.text);
@@ -240,6 +242,10 @@ void Noise::FillPointers(UINT message, WPARAM& wParam, LPARAM& lParam) {
     case WM_SETFONT:
         wParam = m_dice.OneIn(2) ? reinterpret_cast<WPARAM>(memory.font.GetSafeHandle()) : RandomWord();
         break;
+    case WM_PAINT:
+        if (isSystemControl)
+            wParam = m_dice.OneIn(3) ? 0 : reinterpret_cast<WPARAM>(memory.dc.m_hDC);
+        break;
     case WM_ERASEBKGND:
     case WM_ICONERASEBKGND:
     case WM_PRINT:
@@ -301,9 +307,10 @@ void Noise::Act() {
         wParam = static_cast<WPARAM>(m_dice.Between(0xE000, 0xE1FF));
     if (message == WM_SYSCOMMAND)
         wParam = static_cast<WPARAM>(0xF000 + 16 * m_dice.Below(25) + m_dice.Below(9));
-    if (IsLeftOut(message, IsSystemControl(window)))
+    const bool isSystemControl = IsSystemControl(window);
+    if (IsLeftOut(message, isSystemControl))
         return;
-    FillPointers(message, wParam, lParam);
+    FillPointers(message, isSystemControl, wParam, lParam);
     char text[256], name[64] = "";
     ::GetClassNameA(window, name, sizeof(name));
     std::snprintf(text, sizeof(text), "raw: %s 0x%04x 0x%llx 0x%llx", name, message,

@@ -18,7 +18,7 @@ private:
     UINT ChooseMessage();
     WPARAM RandomWord();
     HWND RandomWindow();
-    void FillPointers(UINT message, WPARAM& wParam, LPARAM& lParam);
+    void FillPointers(UINT message, bool isSystemControl, WPARAM& wParam, LPARAM& lParam);
 
     Dice& m_dice;
     Zoo& m_zoo;

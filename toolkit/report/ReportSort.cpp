@@ -12,7 +12,7 @@
 #include "CXTPReportSelectedRows.h"
 #include "ItemCompare.h"
 
-#include <boost/sort/pdqsort/pdqsort.hpp>
+#include <boost/sort/spreadsort/integer_sort.hpp>
 
 #include <algorithm>
 #include <array>
@@ -179,9 +179,11 @@ struct Entry {
     std::uint32_t place;
 };
 
-/// Brings records with the same head into the order of all keys; they come in the order of the collection. Cells may
-/// compare in any way, and merging bears even what is no order at all.
+/// Brings records with the same head into the order of all keys, and those that are equal by all into the order of the
+/// collection. Cells may compare in any way, and merging bears even what is no order at all.
 void SortEqualHeads(const std::vector<DirectedKey>& keys, std::span<Entry> entries) {
+    std::sort(entries.begin(), entries.end(),
+              [](const Entry& left, const Entry& right) { return left.place < right.place; });
     std::stable_sort(entries.begin(), entries.end(), [&keys](const Entry& left, const Entry& right) {
         for (const DirectedKey& directed : keys)
             if (const int result = directed.key->Compare(left.place, right.place))
@@ -213,10 +215,10 @@ std::vector<CXTPReportRecord*> SortedVisibleRecords(const CXTPReportRecords& rec
         const std::uint64_t head = first.key->Head(place);
         entries.push_back({first.increasing ? head : ~head, place});
     }
-    // Without branches: which of two records comes first cannot be foretold.
-    boost::sort::pdqsort_branchless(entries.begin(), entries.end(), [](const Entry& left, const Entry& right) {
-        return (left.head < right.head) | ((left.head == right.head) & (left.place < right.place));
-    });
+    // By the heads' bits, for which of two records comes first cannot be foretold by a processor.
+    boost::sort::spreadsort::integer_sort(
+        entries.begin(), entries.end(), [](const Entry& entry, unsigned bits) { return entry.head >> bits; },
+        [](const Entry& left, const Entry& right) { return left.head < right.head; });
     for (auto begin = entries.begin(); begin != entries.end();) {
         const auto end =
             std::find_if(begin, entries.end(), [&](const Entry& entry) { return entry.head != begin->head; });

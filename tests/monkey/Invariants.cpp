@@ -6,8 +6,10 @@
 
 #include "plotcells/KyPlotRecordItem.h"
 
+#include "../support/LayoutBytes.h"
+
 #include <algorithm>
-#include <cstdlib>
+#include <string>
 #include <vector>
 
 namespace {
@@ -80,18 +82,6 @@ void CheckCells(CXTPReportControl& grid) {
     }
 }
 
-std::vector<BYTE> LayoutOf(CXTPReportControl& grid) {
-    CMemFile file(1024);
-    CArchive archive(&file, CArchive::store);
-    grid.SerializeState(archive);
-    archive.Close();
-    const auto length = static_cast<std::size_t>(file.GetLength());
-    BYTE* bytes = file.Detach();
-    std::vector<BYTE> layout(bytes, bytes + length);
-    std::free(bytes);
-    return layout;
-}
-
 } // namespace
 
 namespace invariants {
@@ -113,16 +103,11 @@ void Check(const Zoo& zoo, bool isAtRest) {
 
 void CheckLayouts(const Zoo& zoo) {
     for (CXTPReportControl* grid : zoo.Grids()) {
-        std::vector<BYTE> layout = LayoutOf(*grid);
-        CMemFile file(layout.data(), static_cast<UINT>(layout.size()));
-        CArchive archive(&file, CArchive::load);
-        try {
-            grid->SerializeState(archive);
-        } catch (CException* e) {
-            e->Delete();
-            sentinel::Fail("broken: a layout that was written can be read");
-        }
-        Expect(LayoutOf(*grid) == layout, "a layout read back is the one written");
+        const std::vector<BYTE> layout = SaveLayout(*grid);
+        const int cause = LoadLayout(*grid, layout);
+        if (cause != CArchiveException::none)
+            sentinel::Fail("broken: a layout that was written can be read; cause " + std::to_string(cause));
+        Expect(SaveLayout(*grid) == layout, "a layout read back is the one written");
     }
 }
 

@@ -80,7 +80,7 @@ TEST(LayoutStream, RefusesAResolutionThatIsNone) {
     ReportLayout layout = ThreeColumns();
     layout.dpi = 96;
     const auto bytes = Encode(layout);
-    for (const std::uint32_t dpi : {0u, MaxDpi + 1, 0xFFFFFFFFu})
+    for (const int dpi : {0, MaxDpi + 1, -1})
         EXPECT_EQ(Decode(Patched(bytes, bytes.size() - 4, dpi, 4)).status, Status::Broken) << dpi;
     EXPECT_EQ(Decode(Patched(bytes, bytes.size() - 4, MaxDpi, 4)).status, Status::Ok);
 }

@@ -197,6 +197,20 @@ TEST_F(DpiTest, DividersAreAsEasyToTakeHoldOf) {
     EXPECT_EQ(m_header->HitTestDivider(CPoint(m_columns[0]->GetRect().right + 5, 5)), nullptr);
 }
 
+TEST_F(DpiTest, ResolutionsOfNoMonitorAreIgnored) {
+    for (const int dpi : {0, 9601, 0xFFFF}) {
+        GoTo(dpi);
+        EXPECT_EQ(Look().GetDpi(), 96) << dpi;
+        Look().SetDpi(dpi);
+        EXPECT_EQ(Look().GetDpi(), 96) << dpi;
+    }
+    Look().SetDpi(-96);
+    EXPECT_EQ(Look().GetDpi(), 96);
+    GoTo(9600);
+    EXPECT_EQ(Look().GetDpi(), 9600) << "the finest that a saved layout may tell";
+    EXPECT_EQ(LoadLayout(m_grid, SaveLayout(m_grid)), CArchiveException::none);
+}
+
 TEST_F(DpiTest, ALayoutSavedAtOneResolutionHasTheProportionsAtAnother) {
     GoTo(144);
     m_columns[0]->SetWidth(300);

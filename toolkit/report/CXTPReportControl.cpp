@@ -255,7 +255,7 @@ LRESULT CXTPReportControl::OnDpiChangedAroundParent(WPARAM, LPARAM) {
 }
 
 void CXTPReportControl::Impl::FollowDpi(int dpi) {
-    if (dpi < 1 || dpi == paintManager->GetDpi())
+    if (dpi < 1 || dpi > MaxDpi || dpi == paintManager->GetDpi())
         return;
     CancelGesture();
     toolTips.CancelToolTips();

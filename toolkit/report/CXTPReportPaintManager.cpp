@@ -133,7 +133,7 @@ void CXTPReportPaintManager::MeasureFont() {
 }
 
 void CXTPReportPaintManager::SetDpi(int nDpi) {
-    if (nDpi < 1 || nDpi == m_nDpi)
+    if (nDpi < 1 || nDpi > MaxDpi || nDpi == m_nDpi)
         return;
     m_nDpi = nDpi;
     MeasureFont();

@@ -43,8 +43,8 @@ public:
     // --- Metrics ------------------------------------------------------------------------------------------------
     /// Dots per inch; at first the resolution with which the program started.
     int GetDpi() const { return m_nDpi; }
-    /// Fonts, row height and everything else follow, also what the host has set. Values below 1 are ignored. Called by
-    /// the control, whose columns and layout follow as well.
+    /// Fonts, row height and everything else follow, also what the host has set. Values outside 1 to `MaxDpi` are
+    /// ignored. Called by the control, whose columns and layout follow as well.
     void SetDpi(int nDpi);
     /// From one row's upper edge to the next one's, the grid line included.
     virtual int GetRowHeight() const;

@@ -5,6 +5,9 @@
 #include <cstdint>
 #include <limits>
 
+/// Resolutions beyond this, in dots per inch, are no monitor's: who tells of one is broken.
+constexpr int MaxDpi = 9600;
+
 /// Pixels together with the resolution (dots per inch) for which they were set. What is shown elsewhere is worked out
 /// from them anew each time, so that going to another resolution and back gives the same pixels.
 /// @ingroup toolkit_report

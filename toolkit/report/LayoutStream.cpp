@@ -1,8 +1,6 @@
 // A grid's saved layout: its form as bytes, and how it is applied to the columns a grid has now.
 #include "LayoutStream.h"
 
-#include "DpiLength.h"
-
 #include <algorithm>
 #include <array>
 #include <cstring>
@@ -283,10 +281,9 @@ Decoded DecodePayload(std::span<const std::uint8_t> payload) {
                 return {Status::Broken, {}};
             (tag == TagSortOrder ? layout.sortOrder : layout.groupsOrder) = std::move(*keys);
         } else if (tag == TagDpi) {
-            const std::uint32_t dpi = section.U32();
-            if (section.HasFailed() || dpi == 0 || dpi > MaxDpi)
+            layout.dpi = section.I32();
+            if (section.HasFailed() || layout.dpi < 1 || layout.dpi > MaxDpi)
                 return {Status::Broken, {}};
-            layout.dpi = static_cast<int>(dpi);
         }
     }
     if (!hasColumns || !KeysMeanColumns(layout.sortOrder, layout.columns.size()) ||

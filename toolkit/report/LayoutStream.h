@@ -12,6 +12,8 @@
 //     resolution they are read at.
 #pragma once
 
+#include "DpiLength.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -32,9 +34,6 @@ struct Key {
     bool increasing = true;
     bool operator==(const Key&) const = default;
 };
-
-/// Resolutions beyond this are nobody's; a stream with one is broken.
-constexpr std::uint32_t MaxDpi = 9600;
 
 /// A layout as it was saved.
 struct ReportLayout {

@@ -532,6 +532,19 @@ TEST_F(PaintTest, DamagesFarApartAreDrawnApart) {
     EXPECT_EQ(CellsDrawn(), 2 * 3);
 }
 
+TEST_F(PaintTest, DamagesFarApartAreDrawnInAMirroredWindowToo) {
+    AddRecords(20);
+    m_grid.ModifyStyleEx(0, WS_EX_LAYOUTRTL, SWP_FRAMECHANGED);
+    m_grid.UpdateWindow();
+    Settle();
+    m_grid.RedrawRow(m_grid.GetRows()->GetAt(0));
+    m_grid.RedrawRow(m_grid.GetRows()->GetAt(9));
+    m_grid.UpdateWindow();
+    for (const int row : {0, 9})
+        for (int column = 0; column < 3; ++column)
+            EXPECT_EQ(Item(row, column)->drawn, 1) << row << ", " << column;
+}
+
 TEST_F(PaintTest, MovingTheSelectionDrawsTwoRows) {
     AddRecords(20);
     Click(Cell(2));

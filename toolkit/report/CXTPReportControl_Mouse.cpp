@@ -116,7 +116,7 @@ void CXTPReportControl::OnLButtonUp(UINT, CPoint point) {
     if (m_impl->IsHeaderGesture()) {
         const WindowGuard guard(*this);
         m_impl->header->OnLButtonUp(point);
-        if (!guard.IsGone())
+        if (!guard.IsGone() && !m_impl->HasCapture())
             m_impl->TrackLeave();
         return;
     }
@@ -128,7 +128,8 @@ void CXTPReportControl::Impl::ReleaseRow(CPoint point) {
     const bool wasSelecting = mouseMode == xtpReportMouseSelectingRows;
     const RowPress released = press;
     EndPress();
-    TrackLeave();
+    if (!HasCapture())
+        TrackLeave();
     if (wasSelecting) {
         if (released.selected != selectedRows->GetRanges())
             control.OnSelectionChanged();
@@ -191,12 +192,12 @@ void CXTPReportControl::OnLButtonDblClk(UINT nFlags, CPoint point) {
 
 // --- Selecting by dragging -------------------------------------------------------------------------------------------
 
-void CXTPReportControl::Impl::TrackRowSelection(CPoint point) {
+void CXTPReportControl::Impl::TrackRowSelection(CPoint point, bool isCaptured) {
     press.lastPoint = point;
     if (mouseMode != xtpReportMouseSelectingRows) {
         const CRect rcReport = control.GetReportRectangle();
         const int row = RowGrid().NearestRow(topRow, point.y - rcReport.top);
-        const bool isOurs = press.maySelect && press.hasCapture && ::GetCapture() == control.m_hWnd;
+        const bool isOurs = press.maySelect && press.hasCapture && isCaptured;
         if (!isOurs || row < 0 || row == press.cell.rowIndex)
             return;
         mouseMode = xtpReportMouseSelectingRows;
@@ -258,7 +259,7 @@ void CXTPReportControl::Impl::EndPress() {
     if (!control.m_hWnd)
         return;
     control.KillTimer(ReportTimerAutoScroll);
-    if (hadCapture && ::GetCapture() == control.m_hWnd)
+    if (hadCapture && HasCapture())
         ::ReleaseCapture();
 }
 
@@ -291,7 +292,10 @@ void CXTPReportControl::OnCancelMode() {
 // --- Moving ---------------------------------------------------------------------------------------------------------
 
 void CXTPReportControl::OnMouseMove(UINT nFlags, CPoint point) {
-    m_impl->TrackLeave();
+    // Asked once: a move of a drag is worth few questions to the system.
+    const bool isCaptured = m_impl->HasCapture();
+    if (!isCaptured)
+        m_impl->TrackLeave();
     if (m_impl->IsHeaderGesture()) {
         const XTPReportMouseMode former = m_impl->mouseMode;
         m_impl->press.lastPoint = point;
@@ -302,9 +306,9 @@ void CXTPReportControl::OnMouseMove(UINT nFlags, CPoint point) {
     }
     const WindowGuard guard(*this);
     m_impl->HoverHeader(nFlags, point);
-    m_impl->TrackRowSelection(point);
+    m_impl->TrackRowSelection(point, isCaptured);
     if (!guard.IsGone())
-        m_impl->RouteMouseMove(nFlags, point);
+        m_impl->RouteMouseMove(nFlags, point, isCaptured);
 }
 
 void CXTPReportControl::Impl::HoverHeader(UINT flags, CPoint point) {
@@ -314,14 +318,14 @@ void CXTPReportControl::Impl::HoverHeader(UINT flags, CPoint point) {
         header->OnMouseLeave();
 }
 
-void CXTPReportControl::Impl::RouteMouseMove(UINT flags, CPoint point) {
+void CXTPReportControl::Impl::RouteMouseMove(UINT flags, CPoint point, bool isCaptured) {
     RefreshMovedRow(RowAt(point));
     const CellHit hit = HitCell(point);
     if (!hit.item)
         return;
     const WindowGuard guard(control);
     // A virtual item stands in every row.
-    const bool isDrag = (flags & MK_LBUTTON) != 0 && !control.IsVirtualMode() && ::GetCapture() == control.m_hWnd;
+    const bool isDrag = (flags & MK_LBUTTON) != 0 && !control.IsVirtualMode() && isCaptured;
     draggedRow = isDrag ? hit.rowIndex : -1;
     hit.item->OnMouseMove(flags, point, &control);
     if (!guard.IsGone())
@@ -334,8 +338,10 @@ void CXTPReportControl::OnMouseLeave() {
     CWnd::OnMouseLeave();
 }
 
+bool CXTPReportControl::Impl::HasCapture() const { return control.m_hWnd && ::GetCapture() == control.m_hWnd; }
+
 void CXTPReportControl::Impl::TrackLeave() {
-    if (!control.m_hWnd || isTrackingLeave || ::GetCapture() == control.m_hWnd)
+    if (!control.m_hWnd || isTrackingLeave)
         return;
     TRACKMOUSEEVENT track = {sizeof(track), TME_LEAVE, control.m_hWnd, 0};
     isTrackingLeave = ::TrackMouseEvent(&track) != FALSE;

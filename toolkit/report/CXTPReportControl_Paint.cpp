@@ -14,16 +14,34 @@ constexpr DWORD MaxDamageRects = 24;
 constexpr int MaxRequests = 64;
 constexpr UINT DamageDelay = 50;
 
-/// The rectangles that make up the region; its bounds alone when there are very many.
-std::vector<CRect> RectsOf(const CRgn& region) {
+/// The rectangles that are to be painted, in client coordinates; their bounds alone when there are very many. Asked of
+/// the device context, which knows them: asking the window for its damage takes the system longer than drawing a row.
+std::vector<CRect> DamageOf(const CPaintDC& dc, CPoint origin) {
+    CRect rcBounds;
+    switch (::GetClipBox(dc, &rcBounds)) {
+    case ERROR:
+    case NULLREGION:
+        return {};
+    case COMPLEXREGION:
+        break;
+    default:
+        return {rcBounds};
+    }
+    CRgn region;
+    region.CreateRectRgn(0, 0, 0, 0);
+    // Pixels of the screen, which a mirrored window counts the other way round.
+    if ((::GetLayout(dc) & LAYOUT_RTL) != 0 || ::GetRandomRgn(dc, region, SYSRGN) < 1)
+        return {rcBounds};
     std::vector<BYTE> bytes(::GetRegionData(region, 0, nullptr));
     auto* data = reinterpret_cast<RGNDATA*>(bytes.data());
-    if (bytes.empty() || !::GetRegionData(region, static_cast<DWORD>(bytes.size()), data))
-        return {};
-    if (data->rdh.nCount > MaxDamageRects)
-        return {CRect(data->rdh.rcBound)};
+    if (bytes.empty() || !::GetRegionData(region, static_cast<DWORD>(bytes.size()), data) ||
+        data->rdh.nCount > MaxDamageRects)
+        return {rcBounds};
     const RECT* rects = reinterpret_cast<const RECT*>(data->Buffer);
-    return std::vector<CRect>(rects, rects + data->rdh.nCount);
+    std::vector<CRect> damage(rects, rects + data->rdh.nCount);
+    for (CRect& rc : damage)
+        rc.OffsetRect(-origin.x, -origin.y);
+    return damage;
 }
 
 /// Holds, for the length of one drawing, whether the control has the focus: every selected cell asks, and the system
@@ -138,11 +156,10 @@ BOOL CXTPReportControl::OnEraseBkgnd(CDC*) { return TRUE; } // painting leaves n
 
 void CXTPReportControl::OnPaint() {
     m_impl->damage.requests = 0;
-    CRgn region;
-    region.CreateRectRgn(0, 0, 0, 0);
-    GetUpdateRgn(&region, FALSE);
     CPaintDC dc(this);
-    for (const CRect& rc : RectsOf(region))
+    CPoint origin(0, 0);
+    ClientToScreen(&origin);
+    for (const CRect& rc : DamageOf(dc, origin))
         m_impl->PaintRect(dc, rc);
 }
 

@@ -169,7 +169,8 @@ struct CXTPReportControl::Impl {
     CellHit HitCell(CPoint point) const;
     XTP_REPORTRECORDITEM_CLICKARGS ClickArgs(const CellHit& hit, CPoint point) const;
     bool IsHeaderGesture() const;
-    void TrackLeave();
+    bool HasCapture() const;
+    void TrackLeave(); ///< not while the mouse is captured: its leaving would be told at once
     void StopTrackingLeave();
     void PressRow(UINT flags, CPoint point);
     void FocusPressedColumn(CPoint point);
@@ -177,11 +178,11 @@ struct CXTPReportControl::Impl {
     void Click(const CellHit& pressed, CPoint point);
     void CaptureForPress();
     void EndPress();
-    void TrackRowSelection(CPoint point);
+    void TrackRowSelection(CPoint point, bool isCaptured);
     void SelectDraggedRows(CPoint point);
     void AutoScroll();
     void HoverHeader(UINT flags, CPoint point);
-    void RouteMouseMove(UINT flags, CPoint point);
+    void RouteMouseMove(UINT flags, CPoint point, bool isCaptured);
     /// The one way in which a gesture ends without effect.
     void CancelGesture();
 

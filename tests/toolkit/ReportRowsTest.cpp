@@ -247,6 +247,37 @@ TEST_F(ReportModelTest, NumbersOfAllKindsAreSortedInBothDirections) {
     }
 }
 
+TEST_F(ReportModelTest, ManyRecordsAreSortedAsFewAre) {
+    // Numbers of all sizes among few that occur often; the second column tells those apart, or nothing does.
+    std::mt19937_64 random(5);
+    constexpr int count = 20000;
+    for (int i = 0; i < count; ++i) {
+        const double often = static_cast<int>(random() % 3) - 1.0;
+        const double any =
+            std::ldexp(static_cast<double>(random() % 2000) - 1000, static_cast<int>(random() % 60) - 30);
+        AddNumbers(m_control, {i % 2 ? often : any, static_cast<double>(random() % 100)});
+    }
+    const auto value = [](const CXTPReportRecord* record, int item) {
+        return static_cast<CXTPReportRecordItemNumber*>(record->GetItem(item))->GetValue();
+    };
+    for (const bool increasing : {true, false}) {
+        m_control.GetColumns()->GetSortOrder()->Clear();
+        m_control.GetColumns()->GetSortOrder()->Add(m_columnA, increasing);
+        m_control.GetColumns()->GetSortOrder()->Add(m_columnB, TRUE);
+        m_control.Populate();
+        std::vector<CXTPReportRecord*> expected;
+        for (int i = 0; i < count; ++i)
+            expected.push_back(m_control.GetRecords()->GetAt(i));
+        std::stable_sort(expected.begin(), expected.end(), [&](CXTPReportRecord* a, CXTPReportRecord* b) {
+            if (value(a, 0) != value(b, 0))
+                return increasing ? value(a, 0) < value(b, 0) : value(a, 0) > value(b, 0);
+            return value(a, 1) < value(b, 1);
+        });
+        for (int row = 0; row < count; ++row)
+            ASSERT_EQ(m_control.GetRows()->GetRecordAt(row), expected[row]) << row << ", " << increasing;
+    }
+}
+
 TEST_F(ReportModelTest, LaterColumnsDecideAmongEqualOnes) {
     AddNumbers(m_control, {2, 1});
     AddNumbers(m_control, {1, 1});

@@ -35,6 +35,19 @@ INSTANTIATE_TEST_SUITE_P(
                       PathCase{L"C:\\only\\folder\\", L"C:", L"\\only\\folder\\", L"", L""},
                       PathCase{L".profile", L"", L"", L"", L".profile"}));
 
+TEST(ColorManager, AnswersWithTheSystemsColours) {
+    ASSERT_NE(XTPColorManager(), nullptr);
+    EXPECT_EQ(XTPColorManager(), XTPColorManager());
+    const int index = COLOR_BTNFACE;
+    const COLORREF former = ::GetSysColor(index);
+    EXPECT_EQ(XTPColorManager()->GetColor(index), former);
+    const COLORREF other = former ^ RGB(1, 2, 3);
+    ::SetSysColors(1, &index, &other);
+    EXPECT_EQ(XTPColorManager()->GetColor(index), other); // as it is now
+    ::SetSysColors(1, &index, &former);
+    EXPECT_EQ(XTPColorManager()->GetColor(-1), 0u);
+}
+
 TEST(PaintManagerColor, ACustomValueStandsInFrontOfTheStandardOne) {
     CXTPPaintManagerColor color(RGB(1, 2, 3));
     EXPECT_EQ(COLORREF(color), RGB(1, 2, 3));

@@ -6,6 +6,7 @@
 #include <afxext.h>
 #include <afxwin.h>
 
+#include "../common/CXTPColorManager.h"
 #include "../common/CXTPPaintManager.h"
 #include "../common/CXTPPaintManagerColor.h"
 #include "../common/CXTPSplitPath.h"

@@ -1,6 +1,5 @@
 // The bar chart cell: values, tool tip, and its picture pixel by pixel.
-#include "PixelImage.h"
-#include "PlotCellProbes.h"
+#include "PlotPictures.h"
 
 #include <common/Translation.h>
 
@@ -12,12 +11,6 @@
 namespace {
 
 constexpr float M = -99.0f; // no value
-constexpr COLORREF White = RGB(255, 255, 255);
-constexpr COLORREF Black = RGB(0, 0, 0);
-constexpr COLORREF Red = RGB(255, 0, 0);
-constexpr COLORREF Blue = RGB(0, 0, 255);
-constexpr COLORREF Green = RGB(0, 255, 0);
-constexpr COLORREF Gold = RGB(255, 215, 0);
 /// The middle of the three colours between the standard dark and light bar colour.
 constexpr COLORREF BarColor = RGB(89, 114, 207);
 
@@ -29,37 +22,6 @@ constexpr std::array<COLORREF, 20> Ramp = {
     RGB(146, 172, 229), RGB(132, 159, 224), RGB(119, 146, 219), RGB(107, 134, 214), RGB(95, 121, 209),
     RGB(83, 108, 204),  RGB(72, 95, 199),   RGB(61, 82, 194),   RGB(51, 70, 189),   RGB(42, 58, 184),
     RGB(32, 45, 179),   RGB(23, 34, 174),   RGB(15, 22, 169),   RGB(7, 11, 164),    RGB(0, 0, 160)};
-
-/// A memory context with a bitmap at the screen's depth, for drawing cells into.
-class Surface {
-public:
-    Surface(int width, int height, COLORREF color) : m_width(width), m_height(height) {
-        CClientDC screen(nullptr);
-        m_dc.CreateCompatibleDC(&screen);
-        m_bitmap.CreateCompatibleBitmap(&screen, width, height);
-        m_former = m_dc.SelectObject(&m_bitmap);
-        m_dc.FillSolidRect(0, 0, width, height, color);
-    }
-    ~Surface() { m_dc.SelectObject(m_former); }
-    Surface(const Surface&) = delete;
-    Surface& operator=(const Surface&) = delete;
-
-    CDC& Dc() { return m_dc; }
-    PixelImage Image() const {
-        PixelImage image(m_width, m_height, 0);
-        for (int y = 0; y < m_height; ++y)
-            for (int x = 0; x < m_width; ++x)
-                image.Set(x, y, m_dc.GetPixel(x, y));
-        return image;
-    }
-
-private:
-    CBitmap m_bitmap;
-    CDC m_dc;
-    CBitmap* m_former = nullptr;
-    int m_width;
-    int m_height;
-};
 
 /// A cell 402 pixels wide and 22 high draws into x 1…400 and y 1…20: w = 400, a hundredth is 4 pixels. Without a
 /// margin and on the scale 0…100, the value v stands at x = 1 + 4 v.
@@ -79,14 +41,7 @@ protected:
     /// What `OnScale` hides at the edges is drawn before the marks.
     static void DrawScaleEnds(PixelImage& image) { image.Fill(1, 1, 2, 21, Red).Fill(400, 1, 401, 21, Red); }
 
-    PixelImage Draw() {
-        void* const block = bar.CreateDIB(host.grid, 402, 22);
-        EXPECT_NE(block, nullptr);
-        const PixelImage image = PixelImage::FromPackedDib(::GlobalLock(block));
-        ::GlobalUnlock(block);
-        ::GlobalFree(block);
-        return image;
-    }
+    PixelImage Draw() { return PictureOf(bar, host.grid, 402, 22); }
 
     void ExpectPicture(const PixelImage& expected) { EXPECT_EQ(PixelImage::Difference(Draw(), expected), ""); }
 
@@ -101,20 +56,6 @@ protected:
     PlotGridHost host;
     ProbeBar bar;
 };
-
-/// Counts the pixels that blue text leaves on white between two columns: with smoothed edges, but blue throughout.
-int CountInk(const PixelImage& image, int x0, int x1) {
-    int count = 0;
-    for (int y = 0; y < image.Height(); ++y) {
-        for (int x = x0; x < x1; ++x) {
-            if (image.At(x, y) == White)
-                continue;
-            ++count;
-            EXPECT_EQ(GetBValue(image.At(x, y)), 255) << x << ", " << y;
-        }
-    }
-    return count;
-}
 
 /// The two halves of a gradient bar as the pieces' own arithmetic gives them for whole-numbered, even steps.
 void FillGradient(PixelImage& image, int lower, int center, int upper) {
@@ -253,11 +194,7 @@ TEST_F(BarChartTest, WithTheDefaultMarginTheMarksStandAtTheirFractions) {
     // w = 398: red marks at 60.7 and 339.3, the bar from 144.28 to 255.72, the target at 200.
     ProbeBar standard;
     standard.SetError(5, 0, 10, 3, 7, M, M, M, M);
-    void* const block = standard.CreateDIB(host.grid, 400, 22);
-    ASSERT_NE(block, nullptr);
-    const PixelImage image = PixelImage::FromPackedDib(::GlobalLock(block));
-    ::GlobalUnlock(block);
-    ::GlobalFree(block);
+    const PixelImage image = PictureOf(standard, host.grid, 400, 22);
     PixelImage expected(400, 22, White);
     expected.Fill(144, 1, 255, 21, BarColor);
     expected.Fill(59, 1, 61, 21, Red).Fill(338, 1, 340, 21, Red).Fill(199, 1, 201, 21, Gold);
@@ -558,30 +495,12 @@ TEST(BarChartRobustness, NothingIsEverDrawnOutsideTheCell) {
         for (const auto distribution :
              {KyBarChartRecordItem::DistributionNone, KyBarChartRecordItem::DistributionCentered,
               KyBarChartRecordItem::DistributionTarget}) {
-            for (const CRect& cell : {CRect(30, 10, 90, 31), CRect(30, 10, 32, 12), CRect(30, 10, 31, 11),
-                                      CRect(30, 10, 30, 10), CRect(40, 20, 30, 10)}) {
+            for (const CRect& cell : CellsOfEverySize()) {
                 const auto& v = values[i];
                 ProbeBar bar;
                 bar.SetError(v[0], v[1], v[2], v[3], v[4], v[5], v[6], v[7], v[8]);
                 bar.SetDistribution(distribution, true);
-                Surface surface(120, 40, Gold);
-                XTP_REPORTRECORDITEM_DRAWARGS args;
-                args.pDC = &surface.Dc();
-                args.pControl = &host.grid;
-                args.rcItem = cell;
-                bar.OnDrawCaption(&args, nullptr);
-                PixelImage image = surface.Image();
-                for (int y = cell.top; y < cell.bottom; ++y)
-                    for (int x = cell.left; x < cell.right; ++x)
-                        image.Set(x, y, Gold);
-                EXPECT_EQ(PixelImage::Difference(image, PixelImage(120, 40, Gold)), "")
-                    << "values " << i << ", distribution " << distribution << ", width " << cell.Width();
-                bar.BeginDrag(CPoint(60, 20), cell);
-                bar.OnMouseMove(0, CPoint(70, 20), &host.grid);
-                bar.OnSetCursor(CPoint(70, 20));
-                (void)bar.GetInfoTip();
-                bar.OnDrawCaption(&args, nullptr);
-                bar.EndDrag(CPoint(80, 20), cell, true);
+                EXPECT_TRUE(StaysInside(bar, host.grid, cell)) << "values " << i << ", distribution " << distribution;
             }
         }
     }

@@ -48,6 +48,7 @@ function(ky_public_headers result house)
             common/ParseDouble.h
             common/Translation.h
             plotcells/KyBarChartRecordItem.h
+            plotcells/KyDragLineRecordItem.h
             plotcells/KyPlotRecordItem.h
             plotcells/KyPlotRecordReportControl.h
             reportgrid/KyReportControl.h

@@ -92,6 +92,8 @@ public:
     virtual CString GetInfoTip() const = 0;
 
 protected:
+    void StopDragging(); ///< clears the three dragging flags; no value changes
+
     double m_dragPos = KyMissingValue; ///< where the pointer was last, as a fraction of the cell width
     double m_lower = KyMissingValue;   ///< in the scale's unit, like the two that follow
     double m_upper = KyMissingValue;   ///< subclasses fill it from setters of their own, as the lower value
@@ -116,6 +118,5 @@ private:
     double FractionOf(double value) const;
     Marks ReachableMarks() const;
     bool* ChooseDrag(const Marks& marks);
-    void StopDragging();
     void ApplyDrag(double value);
 };

@@ -24,6 +24,10 @@ double PointerFraction(int x, int left, int right) {
     return distance / width;
 }
 
+double ExactPointerFraction(int x, int left, int right) {
+    return (static_cast<double>(x) - left) / (static_cast<double>(right) - left);
+}
+
 bool IsNear(double mark, double pointer) { return !IsMissing(mark) && std::fabs(mark - pointer) < NearDistance; }
 
 std::optional<double> ValueUnderPointer(double fraction, const Scale& scale) {

@@ -26,6 +26,9 @@ double ToValue(double fraction, const Scale& scale);
 /// not clamped. A rectangle without width gives an infinite or NaN fraction.
 double PointerFraction(int x, int left, int right);
 
+/// The same in double precision.
+double ExactPointerFraction(int x, int left, int right);
+
 /// True when a mark at fraction `mark` is near the pointer's fraction. A missing mark is near to nothing, also not to
 /// the missing pointer fraction of a cell that the pointer has not been over yet.
 bool IsNear(double mark, double pointer);

@@ -4,6 +4,7 @@
 #include "KyTestApp.h"
 
 #include <plotcells/KyBarChartRecordItem.h>
+#include <plotcells/KyDragLineRecordItem.h>
 #include <plotcells/KyPlotRecordItem.h>
 #include <plotcells/KyPlotRecordReportControl.h>
 

@@ -59,6 +59,16 @@ TEST(PlotScale, TheFractionIsDividedInSinglePrecision) {
     EXPECT_EQ(PointerFraction(11, 1, 31), 11184811.0 / 33554432.0);
 }
 
+TEST(PlotScale, TheExactFractionIsDividedInDoublePrecision) {
+    EXPECT_EQ(ExactPointerFraction(11, 1, 31), 10.0 / 30.0);
+    EXPECT_EQ(ExactPointerFraction(-5, 1, 31), -6.0 / 30.0);
+    constexpr int lowest = std::numeric_limits<int>::min();
+    constexpr int highest = std::numeric_limits<int>::max();
+    EXPECT_EQ(ExactPointerFraction(highest, lowest, highest), 1.0);
+    EXPECT_EQ(ExactPointerFraction(5, 4, 4), Infinity);
+    EXPECT_TRUE(std::isnan(ExactPointerFraction(4, 4, 4)));
+}
+
 TEST(PlotScale, ThePointerFractionIsNotClamped) {
     EXPECT_EQ(PointerFraction(-50, 0, 100), -0.5);
     EXPECT_EQ(PointerFraction(250, 0, 100), 2.5);

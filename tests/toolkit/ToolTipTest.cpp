@@ -299,4 +299,21 @@ TEST_F(TipLookTest, StylesLookDifferent) {
     EXPECT_NE(borders[0], borders[2]);
 }
 
+TEST(ToolInfo, TitleTipAndDescriptionStandInLinesOfTheirOwn) {
+    const auto textOf = [](const CString& tip, const CString& title, const CString& description) {
+        TOOLINFO info = {};
+        CXTPToolTipContext::FillInToolInfo(&info, nullptr, CRect(1, 2, 3, 4), 7, tip, title, description);
+        EXPECT_EQ(info.uId, 7u);
+        EXPECT_EQ(CRect(info.rect), CRect(1, 2, 3, 4));
+        const CString text = info.lpszText;
+        std::free(info.lpszText);
+        return text;
+    };
+    EXPECT_EQ(textOf(_T("tip"), _T(""), _T("")), _T("tip"));
+    EXPECT_EQ(textOf(_T("tip"), _T("title"), _T("more")), _T("title\ntip\nmore"));
+    EXPECT_EQ(textOf(_T(""), _T("title"), _T("more")), _T("title\nmore"));
+    EXPECT_EQ(textOf(_T(""), _T(""), _T("")), _T(""));
+    CXTPToolTipContext::FillInToolInfo(nullptr, nullptr, CRect(), 1, _T("nowhere"));
+}
+
 } // namespace

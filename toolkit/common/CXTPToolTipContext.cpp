@@ -82,6 +82,24 @@ CXTPToolTipContext::CXTPToolTipContext() : m_impl(std::make_unique<Impl>(*this))
 
 CXTPToolTipContext::~CXTPToolTipContext() = default;
 
+// --- Tools -----------------------------------------------------------------------------------------------------------
+
+void CXTPToolTipContext::FillInToolInfo(TOOLINFO* pTI, HWND hWnd, const CRect& rect, INT_PTR nHit,
+                                        const CString& strTip, const CString& strTitle, const CString& strDescription) {
+    if (!pTI)
+        return;
+    CString strText;
+    for (const CString* part : {&strTitle, &strTip, &strDescription}) {
+        if (!strText.IsEmpty() && !part->IsEmpty())
+            strText += _T("\n");
+        strText += *part;
+    }
+    pTI->hwnd = hWnd;
+    pTI->uId = static_cast<UINT_PTR>(nHit);
+    pTI->rect = rect;
+    pTI->lpszText = _tcsdup(strText);
+}
+
 // --- Settings -------------------------------------------------------------------------------------------------------
 
 void CXTPToolTipContext::SetStyle(XTPToolTipStyle style) {

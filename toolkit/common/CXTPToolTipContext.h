@@ -30,6 +30,18 @@ public:
     /// Milliseconds; TTDT_INITIAL, TTDT_RESHOW or TTDT_AUTOPOP. −1 restores the system's time.
     void SetDelayTime(DWORD dwType, int nTime);
 
+    /// For `OnToolHitTest`: fills `pTI` with a tool. Each of the texts that is not empty stands in lines of its own:
+    /// the title, the tip, the description. Without any of them the tool shows no tip.
+    /// @param pTI            filled; its text is allocated with malloc, for the caller to free. Null does nothing
+    /// @param hWnd           the window that has the tool
+    /// @param rect           the tool's place, client coordinates
+    /// @param nHit           the tool's number
+    /// @param strTip         what it says
+    /// @param strTitle       above it
+    /// @param strDescription below it
+    static void FillInToolInfo(TOOLINFO* pTI, HWND hWnd, const CRect& rect, INT_PTR nHit, const CString& strTip,
+                               const CString& strTitle = CString(), const CString& strDescription = CString());
+
     /// Looks at a message of `pWnd` before it is dispatched: mouse moves ask `pWnd->OnToolHitTest` and start, move or
     /// end the tip; presses, keys and wheel end it.
     void FilterToolTipMessage(CWnd* pWnd, UINT message, WPARAM wParam, LPARAM lParam);

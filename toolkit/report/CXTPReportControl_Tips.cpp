@@ -14,16 +14,6 @@ namespace {
 constexpr INT_PTR FirstHeaderTool = 1;
 constexpr INT_PTR FirstCellTool = INT_PTR{1} << 24;
 
-INT_PTR FillTool(TOOLINFO* tool, const CWnd& window, INT_PTR id, const CRect& rc, const CString& text) {
-    if (tool) {
-        tool->hwnd = window.m_hWnd;
-        tool->uId = static_cast<UINT_PTR>(id);
-        tool->rect = rc;
-        tool->lpszText = _tcsdup(text);
-    }
-    return id;
-}
-
 /// The text of a cell that does not fit into it; empty when there is nothing to add to what one sees.
 CString CutOffText(CXTPReportControl& control, const CellHit& hit) {
     const XTP_REPORTRECORDITEM_METRICS metrics = CellMetrics(control, hit.row, hit.column, hit.item);
@@ -43,7 +33,9 @@ INT_PTR CXTPReportControl::OnToolHitTest(CPoint point, TOOLINFO* pTI) const {
             text = column->GetCaption();
         if (text.IsEmpty())
             return -1;
-        return FillTool(pTI, *this, FirstHeaderTool + column->GetIndex(), column->GetRect(), text);
+        const INT_PTR headerId = FirstHeaderTool + column->GetIndex();
+        CXTPToolTipContext::FillInToolInfo(pTI, m_hWnd, column->GetRect(), headerId, text);
+        return headerId;
     }
     m_impl->RefreshMovedRow(m_impl->RowAt(point));
     const CellHit hit = m_impl->HitCell(point);
@@ -56,10 +48,11 @@ INT_PTR CXTPReportControl::OnToolHitTest(CPoint point, TOOLINFO* pTI) const {
     const bool isTool = hit.item->OnToolHitTest(point, &ofItem) != -1;
     const CString itemText = isTool ? ofItem.lpszText : nullptr;
     std::free(ofItem.lpszText);
-    if (isTool)
-        return itemText.IsEmpty() ? -1 : FillTool(pTI, *this, id, CRect(ofItem.rect), itemText);
-    const CString text = CutOffText(m_impl->control, hit);
-    return text.IsEmpty() ? -1 : FillTool(pTI, *this, id, hit.rcItem, text);
+    const CString text = isTool ? itemText : CutOffText(m_impl->control, hit);
+    if (text.IsEmpty())
+        return -1;
+    CXTPToolTipContext::FillInToolInfo(pTI, m_hWnd, isTool ? CRect(ofItem.rect) : hit.rcItem, id, text);
+    return id;
 }
 
 BOOL CXTPReportControl::PreTranslateMessage(MSG* pMsg) {

@@ -29,6 +29,12 @@ void ProbeItem::OnClick(XTP_REPORTRECORDITEM_CLICKARGS* pClickArgs) {
 
 void ProbeItem::OnDblClick(XTP_REPORTRECORDITEM_CLICKARGS*) { ++doubleClicks; }
 
+void ProbeItem::OnEditChanged(XTP_REPORTRECORDITEM_ARGS* pItemArgs, LPCTSTR szText) {
+    CXTPReportRecordItemText::OnEditChanged(pItemArgs, szText);
+    if (const auto action = onEditChanged)
+        action();
+}
+
 void ProbeItem::OnMouseMove(UINT, CPoint point, CXTPReportControl*) { moves.push_back(point); }
 
 void ProbeGrid::OnSelectionChanged() {
@@ -51,7 +57,8 @@ void OwnerWindow::OnContextMenu(CWnd*, CPoint) { ++contextMenus; }
 
 BOOL OwnerWindow::OnNotify(WPARAM, LPARAM lParam, LRESULT* pResult) {
     const auto* header = reinterpret_cast<const NMHDR*>(lParam);
-    const bool isColumn = header->code <= XTP_NM_REPORT_SORTORDERCHANGED && header->code > XTP_NM_REPORT_FIRST - 100;
+    const bool isColumn =
+        header->code <= XTP_NM_REPORT_SORTORDERCHANGED && header->code >= XTP_NM_REPORT_COLUMNWIDTHCHANGED;
     if (isColumn) {
         const auto* notify = reinterpret_cast<const XTP_NM_REPORTCOLUMN*>(lParam);
         notifications.push_back({header->code, -1, nullptr, notify->pColumn});
@@ -60,8 +67,10 @@ BOOL OwnerWindow::OnNotify(WPARAM, LPARAM lParam, LRESULT* pResult) {
         notifications.push_back(
             {header->code, notify->pRow ? notify->pRow->GetIndex() : -1, notify->pItem, notify->pColumn});
     }
-    if (onNotify)
-        onNotify(header->code);
+    if (refusesEdit && header->code == XTP_NM_REPORT_REQUESTEDIT)
+        reinterpret_cast<XTP_NM_REPORTREQUESTEDIT*>(lParam)->bCancel = TRUE;
+    if (const auto action = onNotify)
+        action(header->code);
     *pResult = answer;
     return TRUE;
 }

@@ -24,6 +24,7 @@ public:
     void OnClick(XTP_REPORTRECORDITEM_CLICKARGS* pClickArgs) override;
     void OnDblClick(XTP_REPORTRECORDITEM_CLICKARGS* pClickArgs) override;
     void OnMouseMove(UINT nFlags, CPoint point, CXTPReportControl* pReportControl) override;
+    void OnEditChanged(XTP_REPORTRECORDITEM_ARGS* pItemArgs, LPCTSTR szText) override;
 
     int drawn = 0;
     CRect drawnAt;   ///< rcItem of the last drawing
@@ -32,6 +33,7 @@ public:
     std::vector<CPoint> moves;
     bool takesPress = false;
     std::function<void()> onClick;
+    std::function<void()> onEditChanged; ///< after the text was taken
 };
 
 /// A control that counts its selection changes.
@@ -62,6 +64,7 @@ public:
     std::vector<Notification> notifications;
     std::function<void(UINT code)> onNotify;
     LRESULT answer = 0;
+    bool refusesEdit = false;
     int contextMenus = 0;
 
     int Count(UINT code) const;

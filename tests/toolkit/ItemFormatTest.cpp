@@ -29,4 +29,23 @@ TEST(ItemFormat, RefusesWhatWouldReadAnotherArgument) {
     EXPECT_FALSE(IsSafe(nullptr, Value::Number));
 }
 
+TEST(ReadNumber, TakesBothSeparatorsAndWhiteSpaceAround) {
+    double number = 0;
+    EXPECT_TRUE(itemformat::ReadNumber(L"1.5", number));
+    EXPECT_EQ(number, 1.5);
+    EXPECT_TRUE(itemformat::ReadNumber(L" -2,25\t", number));
+    EXPECT_EQ(number, -2.25);
+    EXPECT_TRUE(itemformat::ReadNumber(L"1e3", number));
+    EXPECT_EQ(number, 1000);
+}
+
+TEST(ReadNumber, LeavesTheNumberWhenTheTextIsNone) {
+    double number = 7;
+    for (const wchar_t* text :
+         {L"", L" ", L"x", L"1x", L"1 2", L"1.234,5", L"1,2,3", L"inf", L"-nan", L"1e999", L"--1"})
+        EXPECT_FALSE(itemformat::ReadNumber(text, number));
+    EXPECT_FALSE(itemformat::ReadNumber(nullptr, number));
+    EXPECT_EQ(number, 7);
+}
+
 } // namespace

@@ -152,4 +152,21 @@ TEST_F(ColumnsTest, TheSortOrderHoldsAColumnOnce) {
     EXPECT_EQ(order.GetCount(), 0);
 }
 
+TEST_F(ColumnsTest, TheNextVisibleColumnPassesOverHiddenOnes) {
+    const CXTPReportHeader& header = *m_control.GetReportHeader();
+    Column(1).SetVisible(FALSE);
+    EXPECT_EQ(header.GetNextVisibleColumn(0), &Column(2));
+    EXPECT_EQ(header.GetNextVisibleColumn(0, 1), &Column(2));
+    EXPECT_EQ(header.GetNextVisibleColumn(2, -1), &Column(0));
+    EXPECT_EQ(header.GetNextVisibleColumn(1, -1), &Column(0)) << "from a hidden one";
+    EXPECT_EQ(header.GetNextVisibleColumn(3), nullptr);
+    EXPECT_EQ(header.GetNextVisibleColumn(0, -1), nullptr);
+    EXPECT_EQ(header.GetNextVisibleColumn(-1), &Column(0));
+    EXPECT_EQ(header.GetNextVisibleColumn(4, -1), &Column(3));
+    EXPECT_EQ(header.GetNextVisibleColumn(INT_MAX, -1), &Column(3));
+    EXPECT_EQ(header.GetNextVisibleColumn(INT_MAX, 1), nullptr);
+    EXPECT_EQ(header.GetNextVisibleColumn(INT_MIN, 1), &Column(0));
+    EXPECT_EQ(header.GetNextVisibleColumn(INT_MIN, -1), nullptr);
+}
+
 } // namespace

@@ -45,6 +45,11 @@ public:
         }
         EXPECT_TRUE(tips->IsTipVisible());
         Printed();
+        m_grid.AllowEdit(TRUE);
+        Key(VK_F2);
+        EXPECT_NE(m_grid.GetActiveItem(), nullptr);
+        m_grid.SetTheme(xtpReportThemeOffice2013);
+        Key(VK_F2); // is left open
     }
 };
 

@@ -219,6 +219,59 @@ TEST_F(PaintTest, ShadedColumnsSinkWhenPressed) {
     EXPECT_EQ(Printed()->BoxOf(RGB(1, 2, 3)), idle);
 }
 
+TEST_F(PaintTest, AColumnMayHideItsDivider) {
+    for (const XTPReportColumnStyle style : {xtpReportColumnShaded, xtpReportColumnFlat, xtpReportColumnExplorer,
+                                             xtpReportColumnOffice2003, xtpReportColumnResource}) {
+        SCOPED_TRACE(style);
+        m_look->SetColumnStyle(style);
+        m_look->m_clrHeaderDivider = RGB(1, 2, 3);
+        m_columns[0]->HideDivider(FALSE);
+        EXPECT_FALSE(m_columns[0]->IsDividerHidden());
+        const auto shown = Printed();
+        m_columns[0]->HideDivider(TRUE);
+        EXPECT_TRUE(m_columns[0]->IsDividerHidden());
+        const auto hidden = Printed();
+        const int y = HeaderHeight() / 2;
+        const bool isRaised = style == xtpReportColumnShaded; // a button keeps its edges
+        for (const int x : {98, 99}) {
+            if (shown->At(x, y) == RGB(1, 2, 3)) {
+                EXPECT_EQ(hidden->At(x, y) == RGB(1, 2, 3), isRaised) << x;
+            }
+        }
+        EXPECT_TRUE(shown->At(98, y) == RGB(1, 2, 3) || shown->At(99, y) == RGB(1, 2, 3));
+        EXPECT_TRUE(hidden->At(178, y) == RGB(1, 2, 3) || hidden->At(179, y) == RGB(1, 2, 3)) << "of the next one";
+    }
+}
+
+/// A look that draws the columns of a header in its own way.
+class OwnHeaderLook : public CXTPReportThemeResource {
+public:
+    using CXTPReportThemeResource::DrawColumnBackground;
+    void DrawColumnBackground(CDC* pDC, CXTPReportColumn* pColumn, CRect rcColumn, int& nHot, int& nPressed,
+                              CXTPReportHeader* pHeader) override {
+        header = pHeader;
+        nHot = FALSE;
+        nPressed = FALSE;
+        CXTPReportThemeResource::DrawColumnBackground(pDC, pColumn, rcColumn, nHot, nPressed, pHeader);
+        pDC->FillSolidRect(rcColumn.left, rcColumn.top, 3, 3, RGB(1, 2, 3));
+    }
+    CXTPReportHeader* header = nullptr;
+};
+
+TEST_F(PaintTest, ADerivedLookDrawsTheColumnsOfTheHeader) {
+    auto* const look = new OwnHeaderLook;
+    m_grid.SetPaintManager(look);
+    EXPECT_EQ(look->GetTheme(), xtpReportThemeResource);
+    const auto idle = Printed();
+    EXPECT_EQ(look->header, m_header);
+    for (const int x : {0, 100, 180})
+        EXPECT_EQ(idle->At(x + 2, 2), RGB(1, 2, 3)) << x;
+    Move(HeaderOf(0), 0);
+    EXPECT_EQ(Difference(*idle, *Printed()), 0) << "it leaves the hot look out";
+    m_grid.SetPaintManager(new CXTPReportThemeResource);
+    EXPECT_NE(Printed()->At(50, 5), idle->At(50, 5)) << "which the base has";
+}
+
 // --- Alternate rows -------------------------------------------------------------------------------------------------
 
 TEST_F(PaintTest, EverySecondRowMayHaveABackgroundOfItsOwn) {

@@ -20,6 +20,7 @@
 #include "../report/CXTPReportColumns.h"
 #include "../report/CXTPReportControl.h"
 #include "../report/CXTPReportHeader.h"
+#include "../report/CXTPReportInplaceEdit.h"
 #include "../report/CXTPReportPaintManager.h"
 #include "../report/CXTPReportRecord.h"
 #include "../report/CXTPReportRecordItem.h"
@@ -29,4 +30,5 @@
 #include "../report/CXTPReportRow.h"
 #include "../report/CXTPReportRows.h"
 #include "../report/CXTPReportSelectedRows.h"
+#include "../report/CXTPReportThemeResource.h"
 #include "../report/XTPReportDefines.h"

@@ -8,6 +8,8 @@
 #include "CXTPReportRecordItem.h"
 #include "CXTPReportRows.h"
 
+#include "../common/ObjectReference.h"
+
 #include <algorithm>
 
 IMPLEMENT_DYNAMIC(CXTPReportColumn, CCmdTarget)
@@ -101,7 +103,14 @@ void CXTPReportColumn::SetAlignment(int nAlignment) { Set(m_nAlignment, nAlignme
 
 void CXTPReportColumn::SetHeaderAlignment(int nAlignment) { Set(m_nHeaderAlignment, nAlignment, Effect::Look); }
 
+void CXTPReportColumn::HideDivider(BOOL bHide) {
+    Set(m_bDividerHidden, static_cast<BOOL>(bHide != FALSE), Effect::Look);
+}
+
 void CXTPReportColumn::SetVisible(BOOL bVisible) {
+    const boost::intrusive_ptr<CXTPReportColumn> alive(this); // the host's hooks may delete the column
+    if (!bVisible && m_bVisible && GetControl())
+        GetControl()->OnColumnLeaving(this);
     Set(m_bVisible, static_cast<BOOL>(bVisible != FALSE), Effect::Layout);
 }
 

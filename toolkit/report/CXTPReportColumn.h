@@ -62,7 +62,8 @@ public:
     void SetHeaderAlignment(int nAlignment); ///< any negative number follows the cells again
 
     BOOL IsVisible() const { return m_bVisible; } ///< a hidden column keeps its place, width and sort
-    void SetVisible(BOOL bVisible);               ///< lays the others out anew
+    /// Lays the others out anew. A cell of the column that is being edited takes what was typed first.
+    void SetVisible(BOOL bVisible);
     /// What the user may do with the column; each also needs the header's consent (`CXTPReportHeader`). The host's own
     /// calls are not held to it.
     BOOL IsSortable() const { return m_bSortable; }
@@ -73,6 +74,11 @@ public:
     void SetAllowDragging(BOOL bAllow) { m_bAllowDragging = bAllow; } ///< others may still be dropped before it
     BOOL IsResizable() const { return m_bResizable; }                 ///< its divider can be dragged; TRUE at first
     void SetResizable(BOOL bResizable) { m_bResizable = bResizable; } ///< also keeps it out of "fit all columns"
+    BOOL IsEditable() const { return m_bEditable; }                   ///< its cells can be edited; TRUE at first
+    void SetEditable(BOOL bEditable) { m_bEditable = bEditable; }     ///< see `CXTPReportControl::AllowEdit`
+    /// The header draws no line between this column and the next one; FALSE at first.
+    BOOL IsDividerHidden() const { return m_bDividerHidden; }
+    void HideDivider(BOOL bHide); ///< resizing at the divider stays as it was
     /// Kept for the host: the control itself never sizes columns by the width of its window.
     BOOL IsAutoSize() const { return m_bAutoSize; }
     void SetAutoSize(BOOL bAutoSize) { m_bAutoSize = bAutoSize; } ///< see `IsAutoSize`
@@ -120,7 +126,8 @@ private:
     int m_nHeaderAlignment = -1;
     int m_nIconID;
     BOOL m_bAutoSize, m_bSortable, m_bVisible;
-    BOOL m_bAllowRemove = TRUE, m_bAllowDragging = TRUE, m_bResizable = TRUE;
+    BOOL m_bAllowRemove = TRUE, m_bAllowDragging = TRUE, m_bResizable = TRUE, m_bEditable = TRUE;
+    BOOL m_bDividerHidden = FALSE;
     BOOL m_bSortIncreasing = TRUE;
     CRect m_rcColumn;
 };

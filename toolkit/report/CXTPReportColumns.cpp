@@ -61,7 +61,9 @@ void CXTPReportColumns::Add(CXTPReportColumn* pColumn) {
 }
 
 void CXTPReportColumns::Remove(CXTPReportColumn* pColumn) {
-    const int nIndex = IndexOf(pColumn);
+    if (m_pControl && IndexOf(pColumn) >= 0)
+        m_pControl->OnColumnLeaving(pColumn);
+    const int nIndex = IndexOf(pColumn); // the host's hooks may have changed it
     if (nIndex < 0)
         return;
     m_sortOrder.Remove(pColumn);
@@ -73,6 +75,8 @@ void CXTPReportColumns::Remove(CXTPReportColumn* pColumn) {
 }
 
 void CXTPReportColumns::Clear() {
+    if (m_pControl)
+        m_pControl->OnColumnLeaving(nullptr);
     m_sortOrder.Clear();
     m_groupsOrder.Clear();
     if (m_pControl)

@@ -89,7 +89,7 @@ CXTPReportControl::Impl::Impl(CXTPReportControl& owner)
       columns(std::make_unique<CXTPReportColumns>(&owner)), rows(std::make_unique<CXTPReportRows>(&owner)),
       selectedRows(std::make_unique<CXTPReportSelectedRows>(&owner)),
       records(std::make_unique<CXTPReportRecords>(&owner)),
-      header(std::make_unique<CXTPReportHeader>(&owner, columns.get())) {
+      header(std::make_unique<CXTPReportHeader>(&owner, columns.get())), ownEdit(new CXTPReportInplaceEdit, false) {
     paintManager->SetControl(&owner);
 }
 
@@ -102,6 +102,8 @@ CXTPReportControl::CXTPReportControl() : m_impl(std::make_unique<Impl>(*this)) {
 CXTPReportControl::~CXTPReportControl() {
     if (m_hWnd)
         DestroyWindow();
+    if (CXTPReportInplaceEdit* const pEdit = std::exchange(m_impl->openEdit, nullptr))
+        pEdit->ForgetControl();
     // Emptied while everything still stands, because records and columns tell the control when they go.
     m_impl->records->RemoveAll();
     m_impl->records->SetVirtualMode(nullptr, 0);
@@ -128,6 +130,7 @@ int CXTPReportControl::OnCreate(LPCREATESTRUCT lpCreateStruct) {
 }
 
 void CXTPReportControl::OnDestroy() {
+    m_impl->FinishEdit();
     m_impl->toolTips.CancelToolTips();
     m_impl->CancelGesture();
     m_impl->buffer.Release();
@@ -144,6 +147,8 @@ void CXTPReportControl::AddColumn(CXTPReportColumn* pColumn) { m_impl->columns->
 CXTPReportRecord* CXTPReportControl::AddRecord(CXTPReportRecord* pRecord) { return m_impl->records->Add(pRecord); }
 
 void CXTPReportControl::Populate() {
+    if (!m_impl->FinishEdit())
+        return;
     reportsort::RowStateKeeper keeper(*m_impl->rows, *m_impl->selectedRows, m_impl->focusedRow);
     if (IsVirtualMode())
         m_impl->rows->RebuildVirtual(m_impl->records->GetVirtualRecord(), m_impl->records->GetVirtualCount());
@@ -278,6 +283,8 @@ void CXTPReportControl::OnSettingChange(UINT uFlags, LPCTSTR lpszSection) {
 
 void CXTPReportControl::OnEnable(BOOL bEnable) {
     CWnd::OnEnable(bEnable);
+    if (!m_impl->FinishEdit())
+        return;
     m_impl->CancelGesture();
     RedrawControl();
 }

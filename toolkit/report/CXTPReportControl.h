@@ -24,9 +24,18 @@
 /// whose text in the sorted (else the first) column begins with it. Left and right move the focused column, with ctrl
 /// they scroll sideways, as alt+page keys do by a page; F3 sorts by it, with shift in addition; alt+left and alt+right
 /// change its width, alt+plus fits it, ctrl+plus fits all; ctrl+shift+left and right move it; alt+down opens the menu
-/// of its header. Enter follows the link of the focused cell, else it sends NM_RETURN. The menu key sends NM_RCLICK for
-/// the focused cell; when the owner answers 0, the menu of the focused column's header opens. Ctrl+F1 shows the tool
-/// tip of the focused cell.
+/// of its header. Enter follows the link of the focused cell, else it edits it, else it sends NM_RETURN. The menu key
+/// sends NM_RCLICK for the focused cell; when the owner answers 0, the menu of the focused column's header opens.
+/// Ctrl+F1 shows the tool tip of the focused cell.
+///
+/// Editing. Where `AllowEdit`, the column and the item allow it, F2, Enter, a double click and typing edit the focused
+/// cell, tab and shift+tab the next and the previous such cell. A session begins when the owner does not refuse
+/// (XTP_NM_REPORT_REQUESTEDIT). It takes effect by Enter, Tab, up, down and page keys, a click elsewhere, the loss of
+/// the focus, scrolling, sorting and `Populate`, when its column is hidden or deleted, and when the control is disabled
+/// or destroyed: the text goes to the item for which it was typed, wherever that stands then. Escape ends it without
+/// effect, and so does the removal of the record. In virtual mode the item has to keep what was typed, see
+/// `CXTPReportRecordItem::OnEditChanged`. What changes in the layout, the theme or the resolution moves the editor
+/// along with its cell.
 ///
 /// Drawing. Only damaged cells are drawn. Scrolling moves the pixels of the rows that stay; an item whose pixels were
 /// moved is drawn again before the mouse meets it, so that it may keep the rectangle of its last drawing. Rows have one
@@ -126,6 +135,23 @@ public:
     /// Widths keep their proportions when they were written at another resolution.
     virtual void SerializeState(CArchive& ar);
 
+    // --- In-place editing ------------------------------------------------------------------------------------------
+    /// Whether the user may edit cells; FALSE at first. Column and item have to allow it as well, which they do at
+    /// first: see `CXTPReportColumn::SetEditable` and `CXTPReportRecordItem::SetEditable`. Forbidding it ends an
+    /// editing under way, which takes effect.
+    void AllowEdit(BOOL bAllow);
+    BOOL IsAllowEdit() const; ///< see `AllowEdit`
+    /// Edits the cell of row and column (the other members are not looked at), which gets the focus and is scrolled
+    /// into view. Nothing happens where editing is not allowed, and when the owner refuses. Null ends the editing that
+    /// is under way, which takes effect.
+    void EditItem(const XTP_REPORTRECORDITEM_ARGS* pItemArgs);
+    CXTPReportRecordItem* GetActiveItem() const; ///< the item that is being edited; null if none
+    /// The edit control in which the user types now, or will; never null. Another one after `SetInplaceEdit`.
+    CXTPReportInplaceEdit* GetInplaceEdit() const;
+    /// Takes ownership of the edit control, for editors with keys of their own, and deletes the one that was there. An
+    /// editing under way takes effect first. Null changes nothing.
+    void SetInplaceEdit(CXTPReportInplaceEdit* pEdit);
+
     // --- Editing commands -----------------------------------------------------------------------------------------
     virtual BOOL CanCut();   ///< FALSE here: the control does not cut
     virtual BOOL CanCopy();  ///< whether rows are selected
@@ -137,6 +163,9 @@ public:
     /// Sends a WM_NOTIFY about a cell to the owner; returns the owner's answer.
     LRESULT SendItemNotify(UINT nCode, CPoint pt, CXTPReportRow* pRow, CXTPReportRecordItem* pItem,
                            CXTPReportColumn* pColumn, int nHyperlink = -1);
+    /// Sends a WM_NOTIFY about a cell that was edited to the owner. Row, item and column are null in it when they have
+    /// left the control meanwhile.
+    void SendEditNotify(UINT nCode, const XTP_REPORTRECORDITEM_ARGS& args);
     /// Sends a WM_NOTIFY about a column (null: about all of them) to the owner; returns the owner's answer. 0 without a
     /// window or an owner, as for cells.
     LRESULT SendColumnNotify(UINT nCode, CXTPReportColumn* pColumn);
@@ -154,11 +183,17 @@ public:
     void OnRowsCleared();
     /// The column is about to be deleted: the header forgets it, and a drag or resize of it ends without effect.
     void OnColumnRemoved(CXTPReportColumn* pColumn);
+    /// The column (null: every column) is about to be hidden or deleted: an editor in it takes effect and closes. Runs
+    /// hooks of the host, so whatever was looked up before has to be looked up again.
+    void OnColumnLeaving(const CXTPReportColumn* pColumn);
+    /// The record (null: every record) is about to be deleted: an editor in it closes without effect. Runs hooks as
+    /// well.
+    void OnRecordLeaving(const CXTPReportRecord* pRecord);
 
 protected:
     // --- Messages; derived classes call these handlers from their own ----------------------------------------------
     int OnCreate(LPCREATESTRUCT lpCreateStruct); ///< lays out; −1 when the window is refused
-    void OnDestroy();                            ///< hides the tip, ends gestures, gives back the back buffer
+    void OnDestroy();                            ///< hides the tip, ends gestures and editing, frees the back buffer
     void OnPaint();                              ///< draws what is damaged into the back buffer and shows it
     BOOL OnEraseBkgnd(CDC* pDC);                 ///< TRUE without drawing: painting leaves no gap
     void OnSize(UINT nType, int cx, int cy);     ///< lays out; nothing when the window is minimised
@@ -180,15 +215,16 @@ protected:
     void OnCancelMode();               ///< ends a gesture without effect
     void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);    ///< see the top of this class
     void OnSysKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags); ///< alt with arrows: see the top of this class
-    void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);       ///< finds the row that begins with what is typed
-    void OnSysChar(UINT nChar, UINT nRepCnt, UINT nFlags);    ///< kept from the menus when its key was ours
+    /// Edits the focused cell, else finds the row that begins with what is typed; tab edits the next cell.
+    void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
+    void OnSysChar(UINT nChar, UINT nRepCnt, UINT nFlags); ///< kept from the menus when its key was ours
     UINT OnGetDlgCode(); ///< arrows and characters; every key during a gesture, so that Escape ends it alone
     void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar); ///< `pScrollBar` is null for the control's own
     void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar); ///< `pScrollBar` is null for the control's own
     void OnTimer(UINT_PTR nIDEvent); ///< scrolling at the edges, delayed redraws; derived classes have other numbers
     void OnSetFocus(CWnd* pOldWnd);  ///< the selection and the focused row look active
     void OnKillFocus(CWnd* pNewWnd); ///< and inactive again; the tip goes
-    void OnEnable(BOOL bEnable);     ///< ends gestures; a disabled grid has grey texts
+    void OnEnable(BOOL bEnable);     ///< ends gestures and editing; a disabled grid has grey texts
     void OnSysColorChange();         ///< the theme takes the new colours
     void OnSettingChange(UINT uFlags, LPCTSTR lpszSection); ///< the theme takes the new fonts and metrics
     LRESULT OnDpiChanged(WPARAM wParam, LPARAM lParam);     ///< a parent's WM_DPICHANGED, passed on: everything scales
@@ -199,6 +235,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    friend class CXTPReportInplaceEdit;
     LRESULT SendNotify(UINT nCode, NMHDR* pHeader);
 
     struct Impl;

@@ -237,6 +237,8 @@ void CXTPReportControl::Impl::BestFitAll() {
 // --- Cells ----------------------------------------------------------------------------------------------------------
 
 bool CXTPReportControl::Impl::CellByKey(UINT key) {
+    if (key == VK_F2)
+        return EditFocusedCell();
     const bool isTip = key == VK_F1 && IsKeyDown(VK_CONTROL);
     if (!isTip && key != VK_RETURN)
         return false;
@@ -257,6 +259,8 @@ bool CXTPReportControl::Impl::CellByKey(UINT key) {
     const CPoint point = cell.rcItem.CenterPoint();
     if (cell.item->GetHyperlinksCount() > 0)
         control.SendItemNotify(XTP_NM_REPORT_HYPERLINK, point, cell.row, cell.item, cell.column, 0);
+    else if (CanEdit(cell))
+        EditFocusedCell();
     else
         control.SendItemNotify(NM_RETURN, point, cell.row, cell.item, cell.column);
     return true;
@@ -282,7 +286,14 @@ void CXTPReportControl::OnSysChar(UINT nChar, UINT nRepCnt, UINT nFlags) {
 }
 
 void CXTPReportControl::OnChar(UINT nChar, UINT nRepCnt, UINT nFlags) {
+    if (nChar == VK_TAB && m_impl->allowsEdit) {
+        m_impl->EditNextCell(IsKeyDown(VK_SHIFT) ? -1 : 1);
+        return;
+    }
     const bool isSpaceOfSelection = nChar == ' ' && !m_impl->IsTyping();
+    const WindowGuard guard(*this);
+    if (nChar >= ' ' && !isSpaceOfSelection && (m_impl->EditByTyping(nChar, nRepCnt, nFlags) || guard.IsGone()))
+        return;
     if (nChar < ' ' || isSpaceOfSelection || IsKeyDown(VK_CONTROL)) {
         CWnd::OnChar(nChar, nRepCnt, nFlags);
         return;

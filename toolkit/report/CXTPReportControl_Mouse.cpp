@@ -59,6 +59,8 @@ void CXTPReportControl::OnLButtonDown(UINT nFlags, CPoint point) {
     m_impl->CancelGesture();
     // Whoever captures the mouse now is not told about the pointer's leaving before the capture ends.
     m_impl->StopTrackingLeave();
+    if (!m_impl->FinishEdit())
+        return;
     if (m_hWnd && ::GetFocus() != m_hWnd)
         SetFocus();
     if (guard.IsGone())
@@ -181,9 +183,11 @@ void CXTPReportControl::OnLButtonDblClk(UINT nFlags, CPoint point) {
     if (!hit.row || !hit.IsSameCell(pressed))
         return;
     SendItemNotify(NM_DBLCLK, point, hit.row, hit.item, hit.column);
+    if (guard.IsGone() || m_impl->EditPressedCell(pressed, point) || guard.IsGone())
+        return;
     // A cell that is dragged wants the press, however soon it follows the last one. Unless an answer to the double
     // click has outlasted the button.
-    if (guard.IsGone() || ::GetKeyState(VK_LBUTTON) >= 0)
+    if (::GetKeyState(VK_LBUTTON) >= 0)
         return;
     SendMessage(WM_LBUTTONDOWN, nFlags & ~static_cast<UINT>(MK_CONTROL | MK_SHIFT), MAKELPARAM(point.x, point.y));
     if (!guard.IsGone())
@@ -377,6 +381,8 @@ void CXTPReportControl::OnRButtonDown(UINT, CPoint point) {
     const WindowGuard guard(*this);
     m_impl->toolTips.CancelToolTips();
     m_impl->CancelGesture();
+    if (!m_impl->FinishEdit())
+        return;
     if (m_hWnd && ::GetFocus() != m_hWnd)
         SetFocus();
     const int row = guard.IsGone() ? -1 : m_impl->RowAt(point);

@@ -78,6 +78,8 @@ void CXTPReportControl::Impl::LayOut() {
     header->AdjustLayout(control.GetHeaderRect());
     UpdateThumbs();
     movedRows.Clear();
+    if (openEdit)
+        openEdit->FollowCell();
 }
 
 void CXTPReportControl::Impl::FitBars() {
@@ -146,9 +148,15 @@ void CXTPReportControl::Impl::RedrawStaleThumbs() {
 
 // --- Scrolling ------------------------------------------------------------------------------------------------------
 
-void CXTPReportControl::SetTopRow(int nIndex) { m_impl->ScrollRowsTo(nIndex); }
+void CXTPReportControl::SetTopRow(int nIndex) {
+    if (m_impl->FinishEdit())
+        m_impl->ScrollRowsTo(nIndex);
+}
 
-void CXTPReportControl::SetLeftOffset(int nOffset) { m_impl->ScrollSidewaysTo(nOffset); }
+void CXTPReportControl::SetLeftOffset(int nOffset) {
+    if (m_impl->FinishEdit())
+        m_impl->ScrollSidewaysTo(nOffset);
+}
 
 void CXTPReportControl::EnsureVisible(CXTPReportRow* pRow) {
     if (pRow && pRow->GetControl() == this)
@@ -169,6 +177,8 @@ void CXTPReportControl::Impl::ScrollRowsTo(std::int64_t top) {
         return;
     toolTips.CancelToolTips();
     UpdateThumbs();
+    if (openEdit)
+        openEdit->FollowCell();
     if (control.m_hWnd)
         MoveRowPixels(former);
 }
@@ -208,6 +218,8 @@ void CXTPReportControl::Impl::ScrollSidewaysTo(int offset) {
     toolTips.CancelToolTips();
     header->AdjustLayout(control.GetHeaderRect());
     UpdateThumbs();
+    if (openEdit)
+        openEdit->FollowCell();
     // All cells change their place, and items compare the pointer with where they stand: they have to draw.
     control.RedrawControl();
 }
@@ -252,6 +264,8 @@ void CXTPReportControl::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBa
         CWnd::OnVScroll(nSBCode, nPos, pScrollBar);
         return;
     }
+    if (!m_impl->FinishEdit())
+        return;
     const gridgeometry::UniformRows grid = m_impl->RowGrid();
     m_impl->ScrollRowsTo(
         m_impl->ScrollTarget(SB_VERT, nSBCode, nPos, m_impl->topRow, 1, grid.FullyVisibleCount(), grid.MaxTopRow()));
@@ -262,6 +276,8 @@ void CXTPReportControl::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBa
         CWnd::OnHScroll(nSBCode, nPos, pScrollBar);
         return;
     }
+    if (!m_impl->FinishEdit())
+        return;
     const int viewWidth = m_impl->ClientRect().Width();
     const int maximum = gridgeometry::MaxLeftOffset(m_impl->header->GetTotalWidth(), viewWidth);
     m_impl->ScrollSidewaysTo(m_impl->ScrollTarget(SB_HORZ, nSBCode, nPos, m_impl->leftOffset, m_impl->SidewaysStep(),
@@ -271,6 +287,8 @@ void CXTPReportControl::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBa
 // --- Wheel ----------------------------------------------------------------------------------------------------------
 
 BOOL CXTPReportControl::OnMouseWheel(UINT nFlags, short zDelta, CPoint pt) {
+    if (!m_impl->FinishEdit())
+        return TRUE;
     if (nFlags & MK_SHIFT) {
         m_impl->ScrollSidewaysTo(m_impl->leftOffset + m_impl->wheelH.Turn(zDelta, 1) * m_impl->SidewaysStep());
         return TRUE;
@@ -286,6 +304,8 @@ BOOL CXTPReportControl::OnMouseWheel(UINT nFlags, short zDelta, CPoint pt) {
 }
 
 void CXTPReportControl::OnMouseHWheel(UINT, short zDelta, CPoint) {
+    if (!m_impl->FinishEdit())
+        return;
     // Tilting to the right is positive, turning away from the user is as well.
     m_impl->ScrollSidewaysTo(m_impl->leftOffset - m_impl->wheelH.Turn(zDelta, 1) * m_impl->SidewaysStep());
 }

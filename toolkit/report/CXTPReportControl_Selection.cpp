@@ -31,6 +31,9 @@ void CXTPReportControl::SetFocusedRow(CXTPReportRow* pRow, BOOL bSelect) {
     if (pRow && pRow->GetControl() != this)
         return;
     const WindowGuard guard(*this);
+    const boost::intrusive_ptr<CXTPReportRow> alive(pRow);
+    if (!m_impl->FinishEdit() || (pRow && pRow->GetControl() != this))
+        return;
     const int index = pRow ? pRow->GetIndex() : -1;
     m_impl->SetFocus(index);
     if (guard.IsGone() || index < 0)
@@ -57,6 +60,9 @@ void CXTPReportControl::SetFocusedColumn(CXTPReportColumn* pColumn) {
     if (pColumn && (pColumn->GetControl() != this || !pColumn->IsVisible()))
         return;
     const WindowGuard guard(*this);
+    const boost::intrusive_ptr<CXTPReportColumn> alive(pColumn);
+    if (!m_impl->FinishEdit() || (pColumn && pColumn->GetControl() != this))
+        return;
     m_impl->FocusColumn(pColumn, pColumn != nullptr);
     if (!guard.IsGone() && pColumn == m_impl->focusedColumn)
         m_impl->ShowColumn(pColumn);

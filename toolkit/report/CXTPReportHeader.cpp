@@ -72,6 +72,17 @@ CXTPReportColumn* CXTPReportHeader::HitTestDivider(CPoint ptPoint) const {
     return m_pColumns->GetVisibleAt(gridgeometry::DividerAt(HeaderExtents(*this), ptPoint.x, reach));
 }
 
+CXTPReportColumn* CXTPReportHeader::GetNextVisibleColumn(int nColumnIndex, int nDirection) const {
+    const int nStep = nDirection < 0 ? -1 : 1;
+    // A place far outside is as good as the next one outside.
+    for (int i = std::clamp(nColumnIndex, -1, m_pColumns->GetCount()) + nStep; i >= 0 && i < m_pColumns->GetCount();
+         i += nStep) {
+        if (m_pColumns->GetAt(i)->IsVisible())
+            return m_pColumns->GetAt(i);
+    }
+    return nullptr;
+}
+
 void CXTPReportHeader::BestFit(CXTPReportColumn* pColumn) {
     if (pColumn)
         pColumn->SetWidth(pColumn->GetBestFitWidth());

@@ -41,6 +41,10 @@ public:
     /// none.
     CXTPReportColumn* HitTestDivider(CPoint ptPoint) const;
 
+    /// The visible column nearest to the place `nColumnIndex` among all columns, to the right of it (nDirection 1) or
+    /// to the left (−1); null if none.
+    CXTPReportColumn* GetNextVisibleColumn(int nColumnIndex, int nDirection = 1) const;
+
     /// Draws the strip; columns outside the clip box of `pDC` are left out.
     virtual void Draw(CDC* pDC, const CRect& rcHeader);
     /// The drop mark and the picture of the column being dragged; drawn last, over everything.

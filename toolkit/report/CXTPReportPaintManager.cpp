@@ -361,3 +361,10 @@ void CXTPReportPaintManager::DrawFocusedCell(CDC* pDC, const CRect& rcCell,
         }
     }
 }
+
+void CXTPReportPaintManager::DrawEditedCell(CDC* pDC, const CRect& rcCell) {
+    const bool hasFrame = m_clrFocusFrame != CXTPPaintManagerColor::Unset;
+    const COLORREF frame = hasFrame ? m_clrFocusFrame : m_clrWindowText;
+    pDC->FillSolidRect(&rcCell, m_clrWindow);
+    pDC->Draw3dRect(&rcCell, frame, frame);
+}

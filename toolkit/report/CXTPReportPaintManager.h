@@ -104,6 +104,8 @@ public:
     virtual void DrawFocusedCell(CDC* pDC, const CRect& rcCell, const XTP_REPORTRECORDITEM_METRICS& metrics);
     /// The mark of the column that the keyboard acts on, in its header.
     virtual void DrawFocusedColumn(CDC* pDC, const CRect& rcColumn);
+    /// Background and frame of a cell that is being edited; the frame is a pixel wide. The text is the editor's own.
+    virtual void DrawEditedCell(CDC* pDC, const CRect& rcCell);
 
     // --- Colours ------------------------------------------------------------------------------------------------
     CXTPPaintManagerColor m_clrHighlight;             ///< background of a selected row while the control has the focus
@@ -166,7 +168,8 @@ private:
     void ApplyColors();
     void MeasureFont();
     void DrawGridLine(CDC* pDC, const CRect& rcLine, XTPReportGridStyle style, const CRect& rcCell) const;
-    void DrawColumnEdges(CDC* pDC, const CRect& rcColumn, BOOL bHot, BOOL bPressed) const;
+    void DrawColumnEdges(CDC* pDC, const CXTPReportColumn* pColumn, const CRect& rcColumn, BOOL bHot,
+                         BOOL bPressed) const;
     void FillHeader(CDC* pDC, const CRect& rc, COLORREF clrLight, COLORREF clrDark) const;
 
     bool m_bAlternateRows = false;

@@ -125,13 +125,16 @@ void CXTPReportPaintManager::DrawColumnBackground(CDC* pDC, CXTPReportColumn* pC
     else
         FillHeader(pDC, rcFill, m_clrHeaderLight, m_clrHeader);
     FillIfSet(pDC, rcColumn.left, rcColumn.bottom - 1, rcColumn.right, rcColumn.bottom, m_clrHeaderLine);
-    DrawColumnEdges(pDC, rcColumn, bHot, bPressed);
+    DrawColumnEdges(pDC, pColumn, rcColumn, bHot, bPressed);
 }
 
-void CXTPReportPaintManager::DrawColumnEdges(CDC* pDC, const CRect& rcColumn, BOOL bHot, BOOL bPressed) const {
+void CXTPReportPaintManager::DrawColumnEdges(CDC* pDC, const CXTPReportColumn* pColumn, const CRect& rcColumn,
+                                             BOOL bHot, BOOL bPressed) const {
     const reportlook::ColumnLook& look = *GetLook().header;
     const int left = rcColumn.left, top = rcColumn.top, right = rcColumn.right, line = rcColumn.bottom - 1;
     const COLORREF frame = bHot || bPressed ? COLORREF(m_clrHeaderFrame) : CXTPPaintManagerColor::Unset;
+    const bool hasDivider = !pColumn || !pColumn->IsDividerHidden();
+    const COLORREF divider = hasDivider ? COLORREF(m_clrHeaderDivider) : CXTPPaintManagerColor::Unset;
     switch (look.edge) {
     case HeaderEdge::Raised: {
         if (bPressed) {
@@ -146,26 +149,27 @@ void CXTPReportPaintManager::DrawColumnEdges(CDC* pDC, const CRect& rcColumn, BO
         break;
     }
     case HeaderEdge::Boxed:
-        FillIfSet(pDC, right - 1, top, right, line, m_clrHeaderDivider);
+        FillIfSet(pDC, right - 1, top, right, line, divider);
         if (frame != CXTPPaintManagerColor::Unset)
             pDC->Draw3dRect(left, top, right - 1 - left, line - top, frame, frame);
         break;
     case HeaderEdge::Thin:
-        FillIfSet(pDC, right - 1, top, right, line, m_clrHeaderDivider);
+        FillIfSet(pDC, right - 1, top, right, line, divider);
         FillIfSet(pDC, left, top, left + 1, line, frame);
         FillIfSet(pDC, right - 1, top, right, line, frame);
         FillIfSet(pDC, left, line, right, line + 1, frame);
         break;
     case HeaderEdge::ShortDivider: {
         const int gap = ScaleForDpi(look.dividerMargin);
-        FillIfSet(pDC, right - 2, top + gap, right - 1, line - gap, m_clrHeaderDivider);
-        FillIfSet(pDC, right - 1, top + gap + 1, right, line - gap + 1, m_clrHeaderDividerLight);
+        FillIfSet(pDC, right - 2, top + gap, right - 1, line - gap, divider);
+        if (hasDivider)
+            FillIfSet(pDC, right - 1, top + gap + 1, right, line - gap + 1, m_clrHeaderDividerLight);
         FillIfSet(pDC, left, line + 1 - ScaleForDpi(HotLine), right, line + 1, frame);
         break;
     }
     case HeaderEdge::Inset:
         FillIfSet(pDC, left, top, left + 1, line, m_clrHeaderDividerLight);
-        FillIfSet(pDC, right - 1, top, right, line, m_clrHeaderDivider);
+        FillIfSet(pDC, right - 1, top, right, line, divider);
         if (frame != CXTPPaintManagerColor::Unset) {
             FillIfSet(pDC, left, top, right - 1, top + 1, frame);
             FillIfSet(pDC, left, top, left + 1, line, frame);

@@ -3,6 +3,7 @@
 
 #include "CXTPReportColumn.h"
 #include "CXTPReportControl.h"
+#include "CXTPReportInplaceEdit.h"
 #include "CXTPReportPaintManager.h"
 #include "CXTPReportRecord.h"
 #include "CXTPReportRecords.h"
@@ -178,13 +179,36 @@ INT_PTR CXTPReportRecordItem::OnToolHitTest(CPoint point, TOOLINFO* pTI) {
     // A virtual item stands in many rows: each of its cells is a tool of its own.
     const INT_PTR nTool =
         (reinterpret_cast<INT_PTR>(this) ^ (static_cast<INT_PTR>(pRow->GetIndex()) << 4)) & MAXINT_PTR;
-    if (pTI) {
-        pTI->hwnd = pControl->GetSafeHwnd();
-        pTI->uId = static_cast<UINT_PTR>(nTool);
-        pTI->rect = rcItem;
-        pTI->lpszText = _tcsdup(m_pExtras->strTooltip);
-    }
+    CXTPToolTipContext::FillInToolInfo(pTI, pControl->GetSafeHwnd(), rcItem, nTool, m_pExtras->strTooltip);
     return nTool;
+}
+
+// --- Editing ---------------------------------------------------------------------------------------------------------
+
+void CXTPReportRecordItem::OnValidateEdit(XTP_REPORTRECORDITEM_ARGS* pItemArgs) {
+    CXTPReportControl* const pControl = pItemArgs->pControl;
+    const CXTPReportInplaceEdit* const pEdit = pControl ? pControl->GetInplaceEdit() : nullptr;
+    if (!pEdit || !pEdit->m_hWnd)
+        return;
+    CString strText;
+    pEdit->GetWindowText(strText);
+    if (strText == pEdit->GetStartText()) {
+        OnEditCanceled(pItemArgs);
+        return;
+    }
+    const HWND hWnd = pControl->m_hWnd;
+    OnEditChanged(pItemArgs, strText);
+    if (!::IsWindow(hWnd))
+        return; // the hook has destroyed the control
+    pControl->RedrawControl();
+    pControl->SendEditNotify(XTP_NM_REPORT_VALUECHANGED, *pItemArgs);
+}
+
+void CXTPReportRecordItem::OnEditChanged(XTP_REPORTRECORDITEM_ARGS* /*pItemArgs*/, LPCTSTR /*szText*/) {}
+
+void CXTPReportRecordItem::OnEditCanceled(XTP_REPORTRECORDITEM_ARGS* pItemArgs) {
+    if (pItemArgs->pControl)
+        pItemArgs->pControl->SendEditNotify(XTP_NM_REPORT_EDITCANCELED, *pItemArgs);
 }
 
 // --- Place -----------------------------------------------------------------------------------------------------------

@@ -96,8 +96,24 @@ public:
     /// Every mouse move over the cell; the cursor over a hyperlink is the control's affair.
     virtual void OnMouseMove(UINT nFlags, CPoint point, CXTPReportControl* pReportControl);
     /// The tool under the point: fills `pTI` (never null), that is `pTI->rect` (client coordinates) and `pTI->lpszText`
-    /// (allocated with malloc, freed by the caller) and returns an identifier, or −1 when the cell has no tool tip.
+    /// (allocated with malloc, freed by the caller) and returns an identifier, or −1 when the cell has no tool tip; see
+    /// `CXTPToolTipContext::FillInToolInfo`.
     virtual INT_PTR OnToolHitTest(CPoint point, TOOLINFO* pTI);
+
+    // --- Editing; `pItemArgs` and what it points to last as long as the call
+    // ------------------------------------------
+    BOOL IsEditable() const { return m_bEditable; } ///< TRUE at first
+    /// Whether the cell can be edited where control and column allow it; see `CXTPReportControl::AllowEdit`.
+    void SetEditable(BOOL bEditable) { m_bEditable = bEditable != FALSE; }
+    /// The user has finished typing; `CXTPReportControl::GetInplaceEdit` still has the text. Here a text that differs
+    /// from that at the beginning goes to `OnEditChanged`, and then the owner is told (XTP_NM_REPORT_VALUECHANGED);
+    /// else `OnEditCanceled` is called.
+    virtual void OnValidateEdit(XTP_REPORTRECORDITEM_ARGS* pItemArgs);
+    /// Takes the text that was typed; here it is dropped. In virtual mode `pItemArgs->pRow` tells the row that is
+    /// meant; the texts and numbers of this toolkit take nothing then, because their value is that of every row.
+    virtual void OnEditChanged(XTP_REPORTRECORDITEM_ARGS* pItemArgs, LPCTSTR szText);
+    /// Editing ended without effect. Tells the owner (XTP_NM_REPORT_EDITCANCELED).
+    virtual void OnEditCanceled(XTP_REPORTRECORDITEM_ARGS* pItemArgs);
 
     // --- Place ------------------------------------------------------------------------------------------------
     CXTPReportRecord* GetRecord() const { return m_pRecord; } ///< null when in none
@@ -112,6 +128,7 @@ private:
     // In this order the members leave no gaps: millions of items are ordinary.
     short m_nAlignment = -1;
     bool m_bBold = false;
+    bool m_bEditable = true;
 
 protected:
     /// Sets the format; items with the same one share its text.

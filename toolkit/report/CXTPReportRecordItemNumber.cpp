@@ -1,6 +1,7 @@
 // A cell that shows a number through a printf-style format.
 #include "CXTPReportRecordItemNumber.h"
 
+#include "CXTPReportControl.h"
 #include "ItemCompare.h"
 #include "ItemFormat.h"
 
@@ -25,4 +26,12 @@ int CXTPReportRecordItemNumber::Compare(CXTPReportColumn* pColumn, CXTPReportRec
     if (const auto* const pNumber = dynamic_cast<const CXTPReportRecordItemNumber*>(pItem))
         return itemcompare::Numbers(m_dValue, pNumber->m_dValue);
     return CXTPReportRecordItem::Compare(pColumn, pItem);
+}
+
+void CXTPReportRecordItemNumber::OnEditChanged(XTP_REPORTRECORDITEM_ARGS* pItemArgs, LPCTSTR szText) {
+    double dValue = 0;
+    if ((pItemArgs->pControl && pItemArgs->pControl->IsVirtualMode()) || !itemformat::ReadNumber(szText, dValue))
+        return;
+    SetCaption(_T("")); // it would hide what the user has typed
+    SetValue(dValue);
 }

@@ -22,6 +22,9 @@ public:
     CString GetCaption(CXTPReportColumn* pColumn) override;
     /// By value with another number cell, else by caption.
     int Compare(CXTPReportColumn* pColumn, CXTPReportRecordItem* pItem) override;
+    /// Takes the number, outside of virtual mode; an explicit caption goes. Both '.' and ',' are decimal separators,
+    /// and there are none between thousands. A text that is no finite number changes nothing.
+    void OnEditChanged(XTP_REPORTRECORDITEM_ARGS* pItemArgs, LPCTSTR szText) override;
 
 protected:
     double m_dValue; ///< the number

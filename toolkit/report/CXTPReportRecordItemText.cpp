@@ -1,6 +1,7 @@
 // A cell that shows a text.
 #include "CXTPReportRecordItemText.h"
 
+#include "CXTPReportControl.h"
 #include "ItemCompare.h"
 #include "ItemFormat.h"
 
@@ -25,4 +26,11 @@ CString CXTPReportRecordItemText::GetCaption(CXTPReportColumn* /*pColumn*/) {
 
 int CXTPReportRecordItemText::Compare(CXTPReportColumn* pColumn, CXTPReportRecordItem* pItem) {
     return CXTPReportRecordItem::Compare(pColumn, pItem);
+}
+
+void CXTPReportRecordItemText::OnEditChanged(XTP_REPORTRECORDITEM_ARGS* pItemArgs, LPCTSTR szText) {
+    if (pItemArgs->pControl && pItemArgs->pControl->IsVirtualMode())
+        return;
+    SetCaption(_T("")); // it would hide what the user has typed
+    SetValue(szText);
 }

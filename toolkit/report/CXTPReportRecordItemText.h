@@ -20,6 +20,8 @@ public:
     CString GetCaption(CXTPReportColumn* pColumn) override;
     /// By caption in the user's locale, without regard to case.
     int Compare(CXTPReportColumn* pColumn, CXTPReportRecordItem* pItem) override;
+    /// Takes the text as the value, outside of virtual mode; an explicit caption goes.
+    void OnEditChanged(XTP_REPORTRECORDITEM_ARGS* pItemArgs, LPCTSTR szText) override;
 
 protected:
     CompactText m_strText; ///< the text; copies of an item share it

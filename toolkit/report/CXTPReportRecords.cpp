@@ -48,6 +48,8 @@ void CXTPReportRecords::InsertAt(int nIndex, CXTPReportRecord* pRecord) {
 }
 
 BOOL CXTPReportRecords::RemoveRecord(CXTPReportRecord* pRecord) {
+    if (m_pControl && pRecord)
+        m_pControl->OnRecordLeaving(pRecord);
     if (pRecord && pRecord == m_pVirtualRecord) {
         SetVirtualMode(nullptr, 0);
         return TRUE;
@@ -65,6 +67,8 @@ BOOL CXTPReportRecords::RemoveRecord(CXTPReportRecord* pRecord) {
 void CXTPReportRecords::RemoveAt(int nIndex) { RemoveRecord(GetAt(nIndex)); }
 
 void CXTPReportRecords::RemoveAll() {
+    if (m_pControl)
+        m_pControl->OnRecordLeaving(nullptr);
     if (CXTPReportRows* const pRows = GetRows())
         pRows->Clear();
     for (CXTPReportRecord* const pRecord : m_records.Take())

@@ -1,7 +1,14 @@
-// Checks of the printf-style formats that hosts give to cells.
+// Numbers as texts: checks of formats, and reading what a user typed.
 #include "ItemFormat.h"
 
+#include <cerrno>
+#include <clocale>
+#include <cmath>
+#include <cstdlib>
+#include <cstring>
 #include <cwchar>
+#include <cwctype>
+#include <string>
 
 namespace itemformat {
 
@@ -45,6 +52,30 @@ bool IsSafe(const wchar_t* format, Value value) {
         ++directives;
     }
     return directives == 1;
+}
+
+bool ReadNumber(const wchar_t* text, double& number) {
+    if (!text)
+        return false;
+    std::wstring typed(text);
+    const char* const localPoint = std::localeconv()->decimal_point;
+    wchar_t point = L'.';
+    if (std::mbtowc(&point, localPoint, std::strlen(localPoint)) <= 0)
+        point = L'.';
+    for (wchar_t& c : typed)
+        if (c == L'.' || c == L',')
+            c = point;
+    wchar_t* end = nullptr;
+    errno = 0;
+    const double read = std::wcstod(typed.c_str(), &end);
+    if (end == typed.c_str() || errno == ERANGE || !std::isfinite(read))
+        return false;
+    while (std::iswspace(*end))
+        ++end;
+    if (*end != L'\0')
+        return false;
+    number = read;
+    return true;
 }
 
 } // namespace itemformat

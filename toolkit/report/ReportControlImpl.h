@@ -1,13 +1,14 @@
 // The inside of a report control: its parts and its state. Only the control's own sources include this.
 //
-// The operations stand in the source of their concern: CXTPReportControl_Paint, _Scroll, _Selection, _Mouse, _Keyboard
-// and _Tips. Callbacks to items, to the owner and to overrides may do anything, even destroy the control: whoever makes
-// one holds a WindowGuard and returns at once when the window is gone, and finds rows and items anew afterwards.
+// The operations stand in the source of their concern: CXTPReportControl_Paint, _Scroll, _Selection, _Mouse, _Keyboard,
+// _Edit and _Tips. Callbacks to items, to the owner and to overrides may do anything, even destroy the control: whoever
+// makes one holds a WindowGuard and returns at once when the window is gone, and finds rows and items anew afterwards.
 #pragma once
 
 #include "CXTPReportColumns.h"
 #include "CXTPReportControl.h"
 #include "CXTPReportHeader.h"
+#include "CXTPReportInplaceEdit.h"
 #include "CXTPReportPaintManager.h"
 #include "CXTPReportRecords.h"
 #include "CXTPReportRow.h"
@@ -18,6 +19,7 @@
 #include "RowSelection.h"
 
 #include "../common/BackBuffer.h"
+#include "../common/ObjectReference.h"
 
 #include <optional>
 
@@ -41,6 +43,9 @@ struct CellHit {
 
     bool IsSameCell(const CellHit& other) const { return rowIndex == other.rowIndex && item == other.item; }
 };
+
+/// The cell of row and column without its grid lines, as `CXTPReportRow::HitTest` tells it; empty where there is none.
+CRect CellRect(const CXTPReportRow& row, const CXTPReportColumn& column);
 
 /// A press of the left button over the rows, from button down to button up.
 struct RowPress {
@@ -185,6 +190,23 @@ struct CXTPReportControl::Impl {
     void RouteMouseMove(UINT flags, CPoint point, bool isCaptured);
     /// The one way in which a gesture ends without effect.
     void CancelGesture();
+
+    // --- Editing ----------------------------------------------------------------------------------------------------
+    bool allowsEdit = false;
+    boost::intrusive_ptr<CXTPReportInplaceEdit> ownEdit; ///< for every cell that brings no editor of its own
+    CXTPReportInplaceEdit* openEdit = nullptr;           ///< in which a cell is being edited; removes itself
+
+    /// Ends an editing under way, which takes effect. False when the control has been destroyed by what that ran.
+    bool FinishEdit();
+    bool CanEdit(const CellHit& cell) const;
+    CellHit CellAt(int rowIndex, CXTPReportColumn* column) const;
+    bool EditCell(int rowIndex, CXTPReportColumn* column);
+    bool EditFocusedCell();
+    bool EditPressedCell(const CellHit& pressed, CPoint point);
+    bool EditByTyping(UINT character, UINT repeat, UINT flags);
+    void EditNextCell(int direction);
+    CellHit NextEditableCell(int direction) const;
+    bool MayEdit(const CellHit& cell);
 
     // --- Keyboard ---------------------------------------------------------------------------------------------------
     CString searchText; ///< typed so far; the rows that begin with it are looked for

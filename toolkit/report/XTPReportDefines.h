@@ -12,6 +12,7 @@ class CXTPReportColumn;
 class CXTPReportColumns;
 class CXTPReportControl;
 class CXTPReportHeader;
+class CXTPReportInplaceEdit;
 class CXTPReportPaintManager;
 class CXTPReportRecord;
 class CXTPReportRecordItem;
@@ -78,7 +79,7 @@ struct XTP_REPORTRECORDITEM_CLICKARGS : XTP_REPORTRECORDITEM_ARGS {
 };
 
 /// Notifications sent to the control's owner through WM_NOTIFY.
-/// NM_CLICK, NM_DBLCLK, NM_RCLICK and the selection, focus and hyperlink codes carry XTP_NM_REPORTRECORDITEM;
+/// NM_CLICK, NM_DBLCLK, NM_RCLICK and the selection, focus, hyperlink and editing codes carry XTP_NM_REPORTRECORDITEM;
 /// the column codes carry XTP_NM_REPORTCOLUMN.
 constexpr UINT XTP_NM_REPORT_FIRST = 0U - 5000U;
 constexpr UINT XTP_NM_REPORT_SELCHANGED = XTP_NM_REPORT_FIRST - 1;         ///< the selection is another one; no item
@@ -88,6 +89,13 @@ constexpr UINT XTP_NM_REPORT_SORTORDERCHANGED = XTP_NM_REPORT_FIRST - 4;   ///< 
 constexpr UINT XTP_NM_REPORT_COLUMNORDERCHANGED = XTP_NM_REPORT_FIRST - 5; ///< the user has moved a column
 /// The user has made columns wider or narrower; no column when all were fitted at once.
 constexpr UINT XTP_NM_REPORT_COLUMNWIDTHCHANGED = XTP_NM_REPORT_FIRST - 6;
+/// A cell is about to be edited; carries XTP_NM_REPORTREQUESTEDIT, in which the owner may refuse. Every editing that
+/// begins ends with one of the two that follow, unless the item has an `OnValidateEdit` of its own.
+constexpr UINT XTP_NM_REPORT_REQUESTEDIT = XTP_NM_REPORT_FIRST - 7;
+/// The item was given the text that the user typed. One that could not make a value of it has its former value.
+constexpr UINT XTP_NM_REPORT_VALUECHANGED = XTP_NM_REPORT_FIRST - 8;
+/// Editing ended without effect: by Escape, with the text that was there before, or because the record is about to go.
+constexpr UINT XTP_NM_REPORT_EDITCANCELED = XTP_NM_REPORT_FIRST - 9;
 
 /// What a notification about a cell carries. The pointers are valid until the owner returns.
 struct XTP_NM_REPORTRECORDITEM {
@@ -97,6 +105,11 @@ struct XTP_NM_REPORTRECORDITEM {
     CXTPReportColumn* pColumn;   ///< null when there is no item
     int nHyperlink;              ///< index of the hyperlink, −1 for none
     POINT pt;                    ///< client coordinates
+};
+
+/// What XTP_NM_REPORT_REQUESTEDIT carries.
+struct XTP_NM_REPORTREQUESTEDIT : XTP_NM_REPORTRECORDITEM {
+    BOOL bCancel; ///< FALSE; the owner sets TRUE to leave the cell as it is
 };
 
 /// What a notification about a column carries.

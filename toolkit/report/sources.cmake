@@ -19,6 +19,7 @@ list(APPEND kytoolkit_report_SOURCES
 list(APPEND kytoolkit_report_SOURCES
     report/CellText.cpp
     report/CXTPReportControl.cpp
+    report/CXTPReportControl_Edit.cpp
     report/CXTPReportControl_Keyboard.cpp
     report/CXTPReportControl_Mouse.cpp
     report/CXTPReportControl_Paint.cpp
@@ -27,7 +28,9 @@ list(APPEND kytoolkit_report_SOURCES
     report/CXTPReportControl_Tips.cpp
     report/CXTPReportHeader.cpp
     report/CXTPReportHeader_Mouse.cpp
+    report/CXTPReportInplaceEdit.cpp
     report/CXTPReportPaintManager.cpp
     report/CXTPReportPaintManager_Header.cpp
     report/CXTPReportRow.cpp
+    report/CXTPReportThemeResource.cpp
     report/ReportLook.cpp)

@@ -6,8 +6,10 @@
 #include "../common/Truncation.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
+#include <vector>
 
 namespace colorramp {
 namespace {
@@ -108,6 +110,30 @@ void Gradient(std::uint32_t first, std::uint32_t last, std::span<std::uint32_t> 
         const bool grey = std::fabs(running.saturation) < std::numeric_limits<float>::epsilon();
         colors[i] = HsvToRgb({grey ? KyMissingValue : running.hue, running.saturation, running.value});
     }
+}
+
+std::span<const std::uint32_t> SharedGradient(std::uint32_t first, std::uint32_t last, std::size_t count) {
+    struct Ramp {
+        std::uint32_t first = 0;
+        std::uint32_t last = 0;
+        std::vector<std::uint32_t> colors;
+    };
+    struct Kept {
+        std::array<Ramp, 8> ramps;
+        std::size_t oldest = 0;
+    };
+    thread_local Kept kept;
+    for (const Ramp& ramp : kept.ramps) {
+        if (ramp.colors.size() == count && ramp.first == first && ramp.last == last)
+            return ramp.colors;
+    }
+    Ramp& ramp = kept.ramps[kept.oldest];
+    kept.oldest = (kept.oldest + 1) % kept.ramps.size();
+    ramp.colors.assign(count, 0);
+    ramp.first = first;
+    ramp.last = last;
+    Gradient(first, last, ramp.colors);
+    return ramp.colors;
 }
 
 } // namespace colorramp

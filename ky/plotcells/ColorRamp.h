@@ -19,4 +19,8 @@ std::uint32_t HsvToRgb(const Hsv& color);
 /// Fills `colors` with a gradient whose first and last element are exactly `first` and `last`.
 void Gradient(std::uint32_t first, std::uint32_t last, std::span<std::uint32_t> colors);
 
+/// A gradient of that many colours that was not made for this call alone: the cells of a grid mostly share theirs, and
+/// the last few are kept. Valid until the thread asks for another one.
+std::span<const std::uint32_t> SharedGradient(std::uint32_t first, std::uint32_t last, std::size_t count);
+
 } // namespace colorramp

@@ -8,7 +8,7 @@
 #include "PlotCellDrawing.h"
 #include "PlotScale.h"
 
-#include <array>
+#include <algorithm>
 
 // The base cell has no run-time class of its own.
 IMPLEMENT_DYNCREATE(KyBarChartRecordItem, CXTPReportRecordItemText)
@@ -19,36 +19,26 @@ namespace {
 struct Drawing {
     CDC& dc;
     CRect rect;
+    COLORREF background;
     bargeometry::Marks marks;
 };
 
 void DrawPlainBar(const Drawing& drawing, COLORREF dark, COLORREF light) {
-    std::array<std::uint32_t, 3> colors{};
-    colorramp::Gradient(dark, light, colors);
     plotcell::FillSpan(drawing.dc, drawing.rect, bargeometry::PlainBar(plotcell::ExtentOf(drawing.rect), drawing.marks),
-                       colors[1]);
-}
-
-/// The colours of a gradient bar. The bars of a grid mostly share theirs, so the ramp that was made last is kept.
-const std::array<std::uint32_t, bargeometry::GradientColors>& GradientColors(COLORREF light, COLORREF dark) {
-    struct Ramp {
-        COLORREF light = 0;
-        COLORREF dark = 0;
-        std::array<std::uint32_t, bargeometry::GradientColors> colors{}; // from black to black
-    };
-    thread_local Ramp ramp;
-    if (ramp.light != light || ramp.dark != dark) {
-        ramp.light = light;
-        ramp.dark = dark;
-        colorramp::Gradient(light, dark, ramp.colors);
-    }
-    return ramp.colors;
+                       colorramp::SharedGradient(dark, light, 3)[1]);
 }
 
 void DrawGradientBar(const Drawing& drawing, bargeometry::Darkest darkest, COLORREF dark, COLORREF light) {
-    const auto& colors = GradientColors(light, dark);
-    for (const auto& piece : GradientBar(plotcell::ExtentOf(drawing.rect), drawing.marks, darkest))
-        plotcell::FillSpan(drawing.dc, drawing.rect, piece.span, colors[piece.color]);
+    const auto pieces = GradientBar(plotcell::ExtentOf(drawing.rect), drawing.marks, darkest);
+    const plotspan::Span seen = plotcell::VisibleColumns(drawing.dc, drawing.rect);
+    plotspan::Span bar{seen.end, seen.begin};
+    for (const auto& [span, color] : pieces)
+        bar = {std::min(bar.begin, span.begin), std::max(bar.end, span.end)};
+    const auto colors = colorramp::SharedGradient(light, dark, bargeometry::GradientColors);
+    plotspan::PixelRow row(plotspan::Clip(bar, seen.begin, seen.end), drawing.background);
+    for (const auto& [span, color] : pieces)
+        row.Fill(span, colors[static_cast<std::size_t>(color)]);
+    plotcell::DrawRow(drawing.dc, drawing.rect, row);
 }
 
 /// A whisker end and its line, which runs from the first fraction to the second, just above the middle of the height.
@@ -160,12 +150,11 @@ void KyBarChartRecordItem::OnDrawCaption(XTP_REPORTRECORDITEM_DRAWARGS* args, XT
         m_distribution < DistributionTarget ? bargeometry::Symmetry::Kept : bargeometry::Symmetry::Free;
     const bargeometry::Marks atRest{fraction(m_lower), fraction(m_target), fraction(m_upper)};
 
-    m_itemRect = args->rcItem;
-    m_itemRect.InflateRect(-1, -1);
     CDC& dc = *args->pDC;
-    plotcell::Fill(dc, m_itemRect, plotcell::BackgroundColor(*args, GetBackgroundColor()));
+    const plotcell::Ground ground = plotcell::DrawGround(*args, GetBackgroundColor());
+    m_itemRect = ground.rect;
 
-    const Drawing drawing{dc, m_itemRect, WhileDragging(atRest, drag, m_dragPos, symmetry)};
+    const Drawing drawing{dc, m_itemRect, ground.color, WhileDragging(atRest, drag, m_dragPos, symmetry)};
     switch (PlaceOf(drawing.marks)) {
     case bargeometry::BarPlace::Nowhere:
         break;

@@ -21,10 +21,7 @@ namespace {
 constexpr COLORREF TrackColor = 0x00E7EAEA;
 constexpr COLORREF TrackFrameColor = 0x00D6D6D6;
 
-CRect Deflated(CRect rect) {
-    rect.InflateRect(-1, -1);
-    return rect;
-}
+using plotcell::Deflated;
 
 /// In single precision: what is told while the handle moves is quantised like a float.
 double PointerFraction(CPoint point, const CRect& cell) {

@@ -3,6 +3,7 @@
 
 #include "../common/KeepAlive.h"
 #include "../common/MissingValue.h"
+#include "PlotCellDrawing.h"
 #include "PlotCellImage.h"
 #include "PlotScale.h"
 
@@ -16,9 +17,8 @@ double PointerFraction(CPoint point, const CRect& rect) {
     return plotscale::PointerFraction(point.x, rect.left, rect.right);
 }
 
-double PointerFractionInCell(CPoint point, CRect cell) {
-    cell.InflateRect(-1, -1);
-    return PointerFraction(point, cell);
+double PointerFractionInCell(CPoint point, const CRect& cell) {
+    return PointerFraction(point, plotcell::Deflated(cell));
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 namespace plotcell {
 
 using plotspan::Extent;
+using plotspan::PixelRow;
 using plotspan::Span;
 
 bool CanDraw(const XTP_REPORTRECORDITEM_DRAWARGS* args) {
@@ -14,6 +15,11 @@ bool CanDraw(const XTP_REPORTRECORDITEM_DRAWARGS* args) {
 }
 
 Extent ExtentOf(const CRect& rect) { return {rect.left, rect.right}; }
+
+CRect Deflated(CRect rect) {
+    rect.InflateRect(-1, -1);
+    return rect;
+}
 
 COLORREF BackgroundColor(const XTP_REPORTRECORDITEM_DRAWARGS& args, COLORREF itemColor) {
     const bool selected = args.pRow != nullptr && args.pRow->IsSelected();
@@ -27,6 +33,12 @@ COLORREF BackgroundColor(const XTP_REPORTRECORDITEM_DRAWARGS& args, COLORREF ite
     return highlight != CXTPPaintManagerColor::Unset ? highlight : itemColor;
 }
 
+Ground DrawGround(const XTP_REPORTRECORDITEM_DRAWARGS& args, COLORREF itemColor) {
+    const Ground ground{Deflated(args.rcItem), BackgroundColor(args, itemColor)};
+    Fill(*args.pDC, ground.rect, ground.color);
+    return ground;
+}
+
 void Fill(CDC& dc, const CRect& rect, COLORREF color) {
     if (rect.left < rect.right && rect.top < rect.bottom)
         dc.FillSolidRect(&rect, color);
@@ -35,6 +47,35 @@ void Fill(CDC& dc, const CRect& rect, COLORREF color) {
 void FillSpan(CDC& dc, const CRect& rect, Span span, COLORREF color) {
     const Span visible = Clip(span, rect.left, rect.right);
     Fill(dc, CRect(visible.begin, rect.top, visible.end, rect.bottom), color);
+}
+
+Span VisibleColumns(const CDC& dc, const CRect& rect) {
+    CRect clip;
+    if (dc.GetClipBox(&clip) == ERROR)
+        return {rect.left, rect.right};
+    return plotspan::Clip({rect.left, rect.right}, clip.left, clip.right);
+}
+
+void DrawRow(CDC& dc, const CRect& rect, const PixelRow& row) {
+    const Span columns = row.Columns();
+    if (columns.IsEmpty() || rect.top >= rect.bottom)
+        return;
+    const int width = columns.end - columns.begin;
+    std::vector<std::uint32_t> pixels(row.Colors());
+    for (std::uint32_t& pixel : pixels) // a bitmap has blue in its lowest byte
+        pixel = (pixel & 0xFFu) << 16 | (pixel & 0xFF00u) | (pixel >> 16 & 0xFFu);
+    BITMAPINFO info = {};
+    info.bmiHeader = {sizeof(info.bmiHeader), width, 1, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    if (::StretchDIBits(dc, columns.begin, rect.top, width, rect.Height(), 0, 0, width, 1, pixels.data(), &info,
+                        DIB_RGB_COLORS, SRCCOPY) > 0)
+        return;
+    // A device that shows no bitmaps, or no memory: colour by colour.
+    const std::vector<std::uint32_t>& colors = row.Colors();
+    for (int begin = 0, end = 0; begin < width; begin = end) {
+        while (end < width && colors[end] == colors[begin])
+            ++end;
+        Fill(dc, CRect(columns.begin + begin, rect.top, columns.begin + end, rect.bottom), colors[begin]);
+    }
 }
 
 void DrawMark(CDC& dc, const CRect& rect, double fraction, COLORREF color) {

@@ -144,4 +144,26 @@ TEST(ColorRamp, TheTwentyColoursOfAGradientBar) {
                   Rgb(32, 45, 179),   Rgb(23, 34, 174),   Rgb(15, 22, 169),   Rgb(7, 11, 164),    Rgb(0, 0, 160)}));
 }
 
+TEST(ColorRamp, ASharedGradientIsTheSameAsOneMadeAnew) {
+    const auto shared = [](std::uint32_t first, std::uint32_t last, std::size_t count) {
+        const auto colors = SharedGradient(first, last, count);
+        return std::vector<std::uint32_t>(colors.begin(), colors.end());
+    };
+    for (int round = 0; round < 2; ++round) {
+        for (std::uint32_t shade = 0; shade < 12; ++shade) { // more than are kept
+            EXPECT_EQ(shared(Light, Rgb(0, 0, shade), 20), MakeGradient(Light, Rgb(0, 0, shade), 20));
+            EXPECT_EQ(shared(Rgb(0, 0, shade), Light, 20), MakeGradient(Rgb(0, 0, shade), Light, 20));
+            EXPECT_EQ(shared(Light, Rgb(0, 0, shade), 200), MakeGradient(Light, Rgb(0, 0, shade), 200));
+        }
+    }
+    EXPECT_TRUE(shared(0, 0, 0).empty());
+}
+
+TEST(ColorRamp, AGradientThatIsAskedForAgainIsKept) {
+    const auto* const made = SharedGradient(Light, Dark, 200).data();
+    for (std::uint32_t shade = 1; shade < 8; ++shade)
+        SharedGradient(Light, Rgb(shade, 0, 0), 200);
+    EXPECT_EQ(SharedGradient(Light, Dark, 200).data(), made);
+}
+
 } // namespace

@@ -49,6 +49,7 @@ function(ky_public_headers result house)
             common/Translation.h
             plotcells/KyBarChartRecordItem.h
             plotcells/KyDragLineRecordItem.h
+            plotcells/KyHistogramRecordItem.h
             plotcells/KyPlotRecordItem.h
             plotcells/KyPlotRecordReportControl.h
             reportgrid/KyReportControl.h

@@ -121,6 +121,10 @@ std::span<const std::uint32_t> SharedGradient(std::uint32_t first, std::uint32_t
     struct Kept {
         std::array<Ramp, 8> ramps;
         std::size_t oldest = 0;
+        Kept() {
+            for (Ramp& ramp : ramps) // all that is ever kept is taken at once
+                ramp.colors.reserve(200);
+        }
     };
     thread_local Kept kept;
     for (const Ramp& ramp : kept.ramps) {

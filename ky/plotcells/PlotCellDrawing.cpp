@@ -92,13 +92,13 @@ void DrawDashedMark(CDC& dc, const CRect& rect, double fraction, COLORREF color)
 }
 
 void DrawArrows(CDC& dc, const CRect& rect, Beside side) {
+    constexpr UINT format = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX;
+    const bool isLeft = side == Beside::Left;
     CRect place(rect);
     dc.SetTextColor(Blue);
-    constexpr UINT format = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX;
-    if (side == Beside::Left)
-        dc.DrawText(L"<<<", 3, &place, format | DT_LEFT);
-    else
-        dc.DrawText(L">>>", 3, &place, format | DT_RIGHT);
+    // Text is not held within a rectangle that has no inside.
+    if (place.left < place.right && place.top < place.bottom)
+        dc.DrawText(isLeft ? L"<<<" : L">>>", 3, &place, format | (isLeft ? DT_LEFT : DT_RIGHT));
     dc.SetTextColor(Black);
 }
 

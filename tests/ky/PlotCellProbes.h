@@ -5,6 +5,7 @@
 
 #include <plotcells/KyBarChartRecordItem.h>
 #include <plotcells/KyDragLineRecordItem.h>
+#include <plotcells/KyHistogramRecordItem.h>
 #include <plotcells/KyPlotRecordItem.h>
 #include <plotcells/KyPlotRecordReportControl.h>
 

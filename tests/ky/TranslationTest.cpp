@@ -3,6 +3,7 @@
 #include <common/ParseDouble.h>
 #include <common/Translation.h>
 #include <plotcells/KyBarChartRecordItem.h>
+#include <plotcells/KyHistogramRecordItem.h>
 
 #include <gtest/gtest.h>
 
@@ -149,6 +150,14 @@ TEST_F(TranslationTest, TheShippedGermanCatalogueHasTheLibrarysTexts) {
     ASSERT_TRUE(SetLanguage(L"de", catalogues.c_str()));
     EXPECT_EQ(TranslateFormat("Plot value", "Value: %1%.", 2.5), CString(L"Wert: 2.5."));
     EXPECT_EQ(Translate("Restore default layout"), CString(L"Standardlayout wiederherstellen"));
+    // The tip of a histogram is put together from two texts.
+    CXTPReportControl control;
+    KyHistogramRecordItem histogram;
+    std::vector<double> bins = {7, 8};
+    histogram.SetError(5, 0, 10, bins, 0, 10);
+    ::GlobalFree(histogram.CreateDIB(control, 402, 22));
+    histogram.OnMouseMove(0, CPoint(201, 10), &control);
+    EXPECT_EQ(histogram.GetInfoTip(), CString(L"Wert: 5, Anzahl: 7."));
 }
 
 TEST(ParseDouble, ReadsFrameworkStrings) {

@@ -3,6 +3,8 @@
 
 #include "common/Translation.h"
 #include "plotcells/KyBarChartRecordItem.h"
+#include "plotcells/KyDragLineRecordItem.h"
+#include "plotcells/KyHistogramRecordItem.h"
 #include "plotcells/KyPlotRecordReportControl.h"
 
 #include <afxext.h>
@@ -145,6 +147,29 @@ void Yard::Fill(CXTPReportControl& grid, int index) {
     grid.Populate();
 }
 
+/// Every kind of plot in turn, most of them bars.
+KyPlotRecordItem* MakePlot(int number) {
+    const auto middle = static_cast<float>(number % 10);
+    if (number % 5 == 3) {
+        auto* const slider = new KyDragLineRecordItem;
+        slider->SetTargetValues(middle, 0, 10);
+        slider->SetLimitValues({{2, RGB(0, 128, 0)}, {8, RGB(128, 0, 0)}});
+        slider->ShowLimits(true);
+        return slider;
+    }
+    if (number % 5 == 4) {
+        auto* const histogram = new KyHistogramRecordItem;
+        std::vector<double> bins(static_cast<std::size_t>(number * 37 % 1000));
+        for (std::size_t bin = 0; bin < bins.size(); ++bin)
+            bins[bin] = static_cast<double>(bin * bin % 17);
+        histogram->SetError(middle, middle - 3, middle + 3, bins, 0, 10);
+        return histogram;
+    }
+    auto* const bar = new KyBarChartRecordItem;
+    bar->SetError(middle, 0, 10, middle - 2, middle + 2, middle - 3, middle + 3, -99, -99);
+    return bar;
+}
+
 CXTPReportRecord* Yard::MakeRecord(int index, int number) {
     auto* record = new CXTPReportRecord;
     CString text;
@@ -154,14 +179,12 @@ CXTPReportRecord* Yard::MakeRecord(int index, int number) {
     link->SetTooltip(_T("a tip"));
     record->AddItem(link);
     record->AddItem(new CXTPReportRecordItemNumber(number % 13));
-    auto* bar = new KyBarChartRecordItem;
-    const auto middle = static_cast<float>(number % 10);
-    bar->SetError(middle, 0, 10, middle - 2, middle + 2, middle - 3, middle + 3, -99, -99);
-    bar->m_valueChanged.connect([this, index](float, float, float) {
+    auto* const plot = MakePlot(number);
+    plot->m_valueChanged.connect([this, index](float, float, float) {
         ++m_heard.draggedValues;
         DoMischief(index);
     });
-    record->AddItem(bar);
+    record->AddItem(plot);
     record->AddItem(new CXTPReportRecordItemText(_T("wide wide wide wide wide wide wide wide wide")));
     return record;
 }

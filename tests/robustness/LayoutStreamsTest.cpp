@@ -30,7 +30,7 @@ std::string Unusable(CXTPReportControl& control) {
                 return "a key twice, or of no column";
         }
     }
-    return control.GetRows()->GetCount() == 8 ? "" : "rows came or went";
+    return control.GetRows()->GetCount() == control.GetRecords()->GetCount() ? "" : "rows came or went";
 }
 
 class Mutator {

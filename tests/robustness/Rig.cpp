@@ -136,10 +136,10 @@ GridRig::~GridRig() { Destroy(); }
 
 void GridRig::Create() {
     owner.CreateEx(0, AfxRegisterWndClass(0), L"Robustness", WS_POPUP | (m_visible ? WS_VISIBLE : 0),
-                   CRect(100, 100, 540, 320), nullptr, 0);
+                   CRect(100, 100, 540, 375), nullptr, 0);
     theApp.m_pMainWnd = &owner;
     grid = new Grid;
-    grid->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 420, 200), &owner, 42);
+    grid->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 420, 255), &owner, 42);
     Fill();
     Paint();
     BecomeIdle();
@@ -154,6 +154,16 @@ void GridRig::Destroy() {
     owner.DestroyWindow();
     theApp.m_pMainWnd = nullptr;
     BecomeIdle();
+}
+
+template <class Plot>
+Plot* GridRig::AddPlot() {
+    CXTPReportRecord* const record = grid->AddRecord(new CXTPReportRecord);
+    record->AddItem(new CXTPReportRecordItemText(L"Another plot"));
+    record->AddItem(new CXTPReportRecordItemNumber(0));
+    auto* const plot = new Plot;
+    record->AddItem(plot);
+    return plot;
 }
 
 void GridRig::Fill() {
@@ -176,6 +186,17 @@ void GridRig::Fill() {
         if (i == 7)
             bar->SetError(50, 0, 100, -90, -80, -99, -99, -99, -99); // "<<<"
     }
+    for (const std::size_t bins : {12, 1000}) {
+        auto* const histogram = AddPlot<KyHistogramRecordItem>();
+        std::vector<double> counts(bins);
+        for (std::size_t bin = 0; bin < bins; ++bin)
+            counts[bin] = static_cast<double>(bin * 7 % 12);
+        histogram->SetError(50, 20, 80, counts, 0, 100);
+    }
+    auto* const slider = AddPlot<KyDragLineRecordItem>();
+    slider->SetTargetValues(50, 0, 100);
+    slider->SetLimitValues({{25, RGB(0, 128, 0)}, {75, RGB(0, 128, 0)}});
+    slider->ShowLimits(true);
     grid->Populate();
     SelectThirdRow();
 }

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <plotcells/KyBarChartRecordItem.h>
+#include <plotcells/KyDragLineRecordItem.h>
+#include <plotcells/KyHistogramRecordItem.h>
 #include <plotcells/KyPlotRecordReportControl.h>
 
 #include "CallTable.h"
@@ -48,7 +50,8 @@ private:
 /// What a program does when it is idle: messages are dispatched, temporary objects go.
 void BecomeIdle();
 
-/// A window with a grid: a text, a number and a bar chart column, eight records with bars of every shape.
+/// A window with a grid: a text, a number and a plot column; eight records with bars of every shape, then two
+/// with histograms and one with a slider.
 class GridRig {
 public:
     explicit GridRig(bool visible = true);
@@ -62,6 +65,7 @@ public:
     void SelectThirdRow();
     /// The client area as it stands on the screen, 0x00RRGGBB.
     std::vector<std::uint32_t> Picture();
+    /// One of the first eight rows, as long as they are not sorted.
     KyBarChartRecordItem& Bar(int row);
     /// The part of the window that shows the bar of that row.
     CRect BarRect(int row);
@@ -77,6 +81,8 @@ public:
     CWnd owner;
 
 private:
+    template <class Plot>
+    Plot* AddPlot();
     void Fill();
     bool m_visible;
 };

@@ -128,6 +128,23 @@ protected:
 
 TEST(FailingCalls, Drawing) { Try<Draw>(); }
 
+TEST(FailingCalls, PlotsLookTheSameOnADeviceThatShowsNoBitmaps) {
+    GridRig rig;
+    rig.Paint();
+    const auto expected = rig.Picture();
+    int failed = 0;
+    for (unsigned call = 1; failed < 3; ++call) {
+        calltable::Begin(call);
+        rig.Paint();
+        const calltable::Outcome outcome = calltable::End();
+        ASSERT_NE(outcome.failed, nullptr) << "no call beyond " << call;
+        if (std::string_view(outcome.failed) != "StretchDIBits")
+            continue;
+        ++failed;
+        EXPECT_TRUE(rig.Picture() == expected) << "call " << call;
+    }
+}
+
 /// A window with a grid is made, painted and closed; the grid loads its layout and saves it when it goes.
 class Life : public Scenario {
 public:

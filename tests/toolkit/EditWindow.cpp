@@ -1,6 +1,8 @@
 // A grid whose cells can be edited, driven by key messages through the queue.
 #include "EditWindow.h"
 
+#include "../support/QueuedKeys.h"
+
 EditTest::EditTest() {
     AddRecords(12);
     m_grid.AllowEdit(TRUE);
@@ -16,21 +18,9 @@ void EditTest::Edit(int rowIndex, int columnIndex) {
     m_grid.EditItem(&args);
 }
 
-void EditTest::TypeKey(UINT key) {
-    const LPARAM scan = static_cast<LPARAM>(::MapVirtualKey(key, MAPVK_VK_TO_VSC)) << 16;
-    ::PostMessage(::GetFocus(), WM_KEYDOWN, key, scan | 1);
-    Pump();
-    if (const HWND focus = ::GetFocus())
-        ::PostMessage(focus, WM_KEYUP, key, static_cast<LPARAM>(scan | 0xC0000001));
-    Pump();
-}
+void EditTest::TypeKey(UINT key) { ::TypeKey(key); }
 
-void EditTest::Type(const wchar_t* letters) {
-    for (; *letters; ++letters) {
-        ::PostMessage(::GetFocus(), WM_CHAR, *letters, 1);
-        Pump();
-    }
-}
+void EditTest::Type(const wchar_t* letters) { ::TypeText(letters); }
 
 CString EditTest::EditorText() const {
     CString text;

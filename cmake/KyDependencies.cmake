@@ -2,6 +2,7 @@
 #
 #   Boost::headers   Boost's header-only libraries
 #   Boost::locale    Boost.Locale as a DLL (Windows builds only); its copy beside the programs is made here
+#   pugixml::pugixml pugixml with UTF-16 texts, static (Windows builds only)
 #   GTest::gtest, GTest::gtest_main, GTest::gmock, GTest::gmock_main
 
 if(NOT EXISTS ${KY_DEPS_DIR}/include/boost/version.hpp)
@@ -20,6 +21,15 @@ if(WIN32)
         INTERFACE_LINK_LIBRARIES Boost::headers)
     file(COPY ${KY_DEPS_DIR}/bin/libboost_locale.dll DESTINATION ${CMAKE_RUNTIME_OUTPUT_DIRECTORY})
     list(APPEND KY_RUNTIME_DLLS ${KY_DEPS_DIR}/bin/libboost_locale.dll)
+
+    if(NOT EXISTS ${KY_DEPS_DIR}/lib/libpugixml.a)
+        message(FATAL_ERROR "There is no pugixml in ${KY_DEPS_DIR}. Run ./test or tools/setup/pugixml.sh first.")
+    endif()
+    add_library(pugixml::pugixml STATIC IMPORTED GLOBAL)
+    set_target_properties(pugixml::pugixml PROPERTIES
+        IMPORTED_LOCATION ${KY_DEPS_DIR}/lib/libpugixml.a
+        INTERFACE_INCLUDE_DIRECTORIES ${KY_DEPS_DIR}/include/pugixml
+        INTERFACE_COMPILE_DEFINITIONS "PUGIXML_WCHAR_MODE;PUGIXML_NO_XPATH")
 endif()
 
 # GoogleTest is compiled in each build: it must have the same runtime and the same sanitizers as the tests.

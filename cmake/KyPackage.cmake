@@ -67,6 +67,7 @@ install(FILES /usr/share/doc/gcc-mingw-w64-x86-64-posix-runtime/copyright DESTIN
     RENAME libstdc++-and-libgcc.txt)
 install(FILES /usr/share/doc/mingw-w64-x86-64-dev/copyright DESTINATION ${notices} RENAME libwinpthread.txt)
 install(FILES /usr/share/doc/libboost1.81-dev/copyright DESTINATION ${notices} RENAME libboost_locale.txt)
+install(FILES /usr/share/doc/libpugixml-dev/copyright DESTINATION ${notices} RENAME pugixml.txt)
 install(FILES /usr/share/common-licenses/GPL-3 /usr/share/common-licenses/LGPL-2.1 DESTINATION ${notices})
 
 # The zip. Who makes it has built what is in it, see tools/package.

@@ -95,6 +95,8 @@ zip_step() {
     done
     check_contains "the notice of the compiler's runtime has its exception" "GCC Runtime Library Exception" \
         "$(tr '\n' ' ' <"$package/share/doc/kycontrols/licenses/libstdc++-and-libgcc.txt")"
+    check_contains "the notice of pugixml is its licence" "Permission is hereby granted, free of charge" \
+        "$(cat "$package/share/doc/kycontrols/licenses/pugixml.txt")"
     check_contains "the notice of Boost is its licence" "Boost Software License - Version 1.0" \
         "$(cat "$package/share/doc/kycontrols/licenses/libboost_locale.txt")"
 }

@@ -9,6 +9,8 @@
 #include "../common/CXTPColorManager.h"
 #include "../common/CXTPPaintManager.h"
 #include "../common/CXTPPaintManagerColor.h"
+#include "../common/CXTPPropExchange.h"
+#include "../common/CXTPPropExchangeXMLNode.h"
 #include "../common/CXTPSplitPath.h"
 #include "../common/CXTPToolTipContext.h"
 #include "../common/XTPThemes.h"

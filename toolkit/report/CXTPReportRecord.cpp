@@ -3,16 +3,25 @@
 
 #include "CXTPReportColumn.h"
 #include "CXTPReportRecordItem.h"
+#include "CXTPReportRecordItemText.h"
 #include "CXTPReportRecords.h"
+#include "StoredClass.h"
 
 #include <algorithm>
 
-IMPLEMENT_DYNAMIC(CXTPReportRecord, CCmdTarget)
+IMPLEMENT_DYNCREATE(CXTPReportRecord, CCmdTarget)
+
+struct CXTPReportRecord::Extras {
+    std::unique_ptr<CXTPReportRecords> pChilds; // null until somebody asks
+    DWORD_PTR dwData = 0;
+};
 
 CXTPReportRecord::CXTPReportRecord() = default;
 
-CXTPReportRecord::~CXTPReportRecord() {
-    for (CXTPReportRecordItem* const pItem : m_items) {
+CXTPReportRecord::~CXTPReportRecord() { ReleaseItems(); }
+
+void CXTPReportRecord::ReleaseItems() {
+    for (CXTPReportRecordItem* const pItem : std::exchange(m_items, {})) {
         pItem->m_pRecord = nullptr;
         pItem->InternalRelease();
     }
@@ -60,6 +69,71 @@ void CXTPReportRecord::Delete() {
         m_pRecords->RemoveRecord(this);
     else
         InternalRelease();
+}
+
+// --- Child records ---------------------------------------------------------------------------------------------------
+
+CXTPReportRecord::Extras& CXTPReportRecord::EnsureExtras() {
+    if (!m_pExtras)
+        m_pExtras = std::make_unique<Extras>();
+    return *m_pExtras;
+}
+
+CXTPReportRecords* CXTPReportRecord::GetChilds() {
+    Extras& extras = EnsureExtras();
+    if (!extras.pChilds)
+        extras.pChilds = std::make_unique<CXTPReportRecords>(*this);
+    return extras.pChilds.get();
+}
+
+BOOL CXTPReportRecord::HasChildren() const {
+    return m_pExtras && m_pExtras->pChilds && m_pExtras->pChilds->GetCount() > 0;
+}
+
+CXTPReportRecord* CXTPReportRecord::GetParentRecord() const {
+    return m_pRecords ? m_pRecords->GetOwnerRecord() : nullptr;
+}
+
+DWORD_PTR CXTPReportRecord::GetItemData() const { return m_pExtras ? m_pExtras->dwData : 0; }
+
+void CXTPReportRecord::SetItemData(DWORD_PTR dwData) { EnsureExtras().dwData = dwData; }
+
+// --- Property exchange -----------------------------------------------------------------------------------------------
+
+void CXTPReportRecord::DoPropExchange(CXTPPropExchange* pPX) {
+    BOOL bVisible = m_bVisible;
+    PX_Bool(pPX, _T("Visible"), bVisible, TRUE);
+    m_bVisible = bVisible != FALSE;
+    if (pPX->IsStoring())
+        StoreItems(pPX);
+    else
+        LoadItems(pPX);
+    // Few records have children, and those that have none hold no collection for them.
+    const CXTPPropExchangeEnumeratorPtr childs(pPX->GetEnumerator(_T("Record")));
+    if (HasChildren() || (pPX->IsLoading() && childs->GetPosition()))
+        GetChilds()->DoPropExchange(pPX);
+}
+
+void CXTPReportRecord::StoreItems(CXTPPropExchange* pPX) {
+    const CXTPPropExchangeEnumeratorPtr items(pPX->GetEnumerator(_T("Item")));
+    POSITION pos = items->GetPosition(static_cast<DWORD>(m_items.size()));
+    for (CXTPReportRecordItem* const pItem : m_items) {
+        const CXTPPropExchangeSection section(items->GetNext(pos));
+        storedclass::Write(&section, *pItem);
+        pItem->DoPropExchange(&section);
+    }
+}
+
+void CXTPReportRecord::LoadItems(CXTPPropExchange* pPX) {
+    ReleaseItems();
+    const CXTPPropExchangeEnumeratorPtr items(pPX->GetEnumerator(_T("Item")));
+    for (POSITION pos = items->GetPosition(); pos;) {
+        const CXTPPropExchangeSection section(items->GetNext(pos));
+        CXTPReportRecordItem* pItem = storedclass::Make<CXTPReportRecordItem>(&section);
+        if (!pItem)
+            pItem = new CXTPReportRecordItemText;
+        AddItem(pItem)->DoPropExchange(&section);
+    }
 }
 
 void CXTPReportRecord::GetItemMetrics(XTP_REPORTRECORDITEM_DRAWARGS* /*pDrawArgs*/,

@@ -5,13 +5,16 @@
 #include "RecordItemHeap.h"
 #include "XTPReportDefines.h"
 
+#include <memory>
 #include <vector>
 
-/// Owns its items. Created by the host with `new`; owned by the record collection it is added to. Reference counted
-/// like its items: a handler that may cause the record's removal holds a reference.
+class CXTPPropExchange;
+
+/// Owns its items and its child records. Created by the host with `new`; owned by the record collection it is added to.
+/// Reference counted like its items: a handler that may cause the record's removal holds a reference.
 /// @ingroup toolkit_report
 class KY_TOOLKIT_API CXTPReportRecord : public CCmdTarget {
-    DECLARE_DYNAMIC(CXTPReportRecord)
+    DECLARE_DYNCREATE(CXTPReportRecord)
 public:
     CXTPReportRecord();
     ~CXTPReportRecord() override;
@@ -27,6 +30,12 @@ public:
     CXTPReportRecordItem* GetItem(const CXTPReportColumn* pColumn) const;
     int IndexOf(const CXTPReportRecordItem* pItem) const; ///< −1 when the item is not in this record
 
+    /// The records below this one, in their own order; made when they are first asked for, never null. They are data of
+    /// this record: they have no rows.
+    CXTPReportRecords* GetChilds();
+    BOOL HasChildren() const;                  ///< there is a record below this one
+    CXTPReportRecord* GetParentRecord() const; ///< null for a record of the control's own collection, and of none
+
     /// An invisible record gets no row at the next `Populate`.
     BOOL IsVisible() const { return m_bVisible; }
     void SetVisible(BOOL bVisible) { m_bVisible = bVisible; } ///< rows follow at the next `Populate`
@@ -37,20 +46,31 @@ public:
     /// live on without a record.
     void Delete();
 
-    DWORD_PTR GetItemData() const { return m_dwData; }        ///< 0 at first
-    void SetItemData(DWORD_PTR dwData) { m_dwData = dwData; } ///< for the host; never looked at here
+    /// Writes or reads the record: whether it is visible, its items and its child records. Reading replaces items and
+    /// children by new ones of the classes that were written; an item of a class that nobody can make becomes a text
+    /// item, such a record a plain one. What belongs to the host (item data) is not exchanged.
+    virtual void DoPropExchange(CXTPPropExchange* pPX);
+
+    DWORD_PTR GetItemData() const;      ///< 0 at first
+    void SetItemData(DWORD_PTR dwData); ///< for the host; never looked at here
 
     /// Lets a record change how its cells look; called by the row after the theme and before the item.
     virtual void GetItemMetrics(XTP_REPORTRECORDITEM_DRAWARGS* pDrawArgs, XTP_REPORTRECORDITEM_METRICS* pMetrics);
 
 private:
+    struct Extras; ///< what few records have: child records, data
+    Extras& EnsureExtras();
+    void StoreItems(CXTPPropExchange* pPX);
+    void LoadItems(CXTPPropExchange* pPX);
+    void ReleaseItems();
+
     friend class CXTPReportRecords;
     friend class CXTPReportRows;
 
     int m_nIndex = -1; ///< kept by the collection's sequence
     std::vector<CXTPReportRecordItem*, recorditemheap::Allocator<CXTPReportRecordItem*>> m_items;
     CXTPReportRecords* m_pRecords = nullptr;
-    DWORD_PTR m_dwData = 0;
+    std::unique_ptr<Extras> m_pExtras;
     int m_nRow = -1; ///< kept by the rows' sequence
     bool m_bVisible = true;
 };

@@ -11,12 +11,13 @@
 #include "ItemCompare.h"
 #include "RecordItemHeap.h"
 
+#include "../common/CXTPPropExchange.h"
 #include "../common/TextStateGuard.h"
 
 #include <cstring>
 #include <vector>
 
-IMPLEMENT_DYNAMIC(CXTPReportRecordItem, CCmdTarget)
+IMPLEMENT_DYNCREATE(CXTPReportRecordItem, CCmdTarget)
 
 struct CXTPReportRecordItem::Extras {
     CString strTooltip;
@@ -209,6 +210,34 @@ void CXTPReportRecordItem::OnEditChanged(XTP_REPORTRECORDITEM_ARGS* /*pItemArgs*
 void CXTPReportRecordItem::OnEditCanceled(XTP_REPORTRECORDITEM_ARGS* pItemArgs) {
     if (pItemArgs->pControl)
         pItemArgs->pControl->SendEditNotify(XTP_NM_REPORT_EDITCANCELED, *pItemArgs);
+}
+
+// --- Property exchange -----------------------------------------------------------------------------------------------
+
+void CXTPReportRecordItem::DoPropExchange(CXTPPropExchange* pPX) {
+    ExchangeText(pPX, _T("Caption"), m_strCaption);
+    CString strTooltip = GetTooltip();
+    PX_String(pPX, _T("Tooltip"), strTooltip, _T(""));
+    if (pPX->IsLoading() && strTooltip != GetTooltip())
+        SetTooltip(strTooltip);
+    PX_DWord(pPX, _T("TextColor"), m_clrText, CXTPPaintManagerColor::Unset);
+    PX_DWord(pPX, _T("BackgroundColor"), m_clrBackground, CXTPPaintManagerColor::Unset);
+    BOOL bBold = m_bBold;
+    PX_Bool(pPX, _T("BoldText"), bBold, FALSE);
+    m_bBold = bBold != FALSE;
+    BOOL bEditable = m_bEditable;
+    PX_Bool(pPX, _T("Editable"), bEditable, TRUE);
+    m_bEditable = bEditable != FALSE;
+    int nAlignment = m_nAlignment;
+    PX_Int(pPX, _T("Alignment"), nAlignment, -1);
+    SetAlignment(nAlignment);
+}
+
+void CXTPReportRecordItem::ExchangeText(CXTPPropExchange* pPX, LPCTSTR pszPropName, CompactText& strText) {
+    CString strValue = strText;
+    PX_String(pPX, pszPropName, strValue, _T(""));
+    if (pPX->IsLoading())
+        strText = strValue.GetString();
 }
 
 // --- Place -----------------------------------------------------------------------------------------------------------

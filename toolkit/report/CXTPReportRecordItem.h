@@ -7,6 +7,8 @@
 
 #include <memory>
 
+class CXTPPropExchange;
+
 /// A stretch of a cell's text that acts as a hyperlink.
 /// @ingroup toolkit_report
 class KY_TOOLKIT_API CXTPReportHyperlink {
@@ -24,7 +26,7 @@ public:
 /// Rarely used properties live apart, so that a plain cell stays small: millions are ordinary.
 /// @ingroup toolkit_report
 class KY_TOOLKIT_API CXTPReportRecordItem : public CCmdTarget {
-    DECLARE_DYNAMIC(CXTPReportRecordItem)
+    DECLARE_DYNCREATE(CXTPReportRecordItem)
 public:
     CXTPReportRecordItem();
     ~CXTPReportRecordItem() override;
@@ -115,6 +117,12 @@ public:
     /// Editing ended without effect. Tells the owner (XTP_NM_REPORT_EDITCANCELED).
     virtual void OnEditCanceled(XTP_REPORTRECORDITEM_ARGS* pItemArgs);
 
+    // --- Property exchange ----------------------------------------------------------------------------------------
+    /// Writes or reads caption, tool tip, colours, boldness, alignment and whether the cell can be edited; overrides
+    /// call this one and add their value. Properties that stand at their defaults are not written. Hyperlinks and item
+    /// data are not exchanged.
+    virtual void DoPropExchange(CXTPPropExchange* pPX);
+
     // --- Place ------------------------------------------------------------------------------------------------
     CXTPReportRecord* GetRecord() const { return m_pRecord; } ///< null when in none
     int GetIndex() const;                                     ///< place in the record, −1 when in none
@@ -133,6 +141,8 @@ private:
 protected:
     /// Sets the format; items with the same one share its text.
     void InternFormatString(LPCTSTR strFormat) { m_formatString = CompactText::Interned(strFormat); }
+    /// Writes or reads a text that is empty by default.
+    static void ExchangeText(CXTPPropExchange* pPX, LPCTSTR pszPropName, CompactText& strText);
     /// The format without a copy; never null, lives until the format is changed.
     LPCTSTR FormatString() const { return m_formatString.GetString(); }
 

@@ -5,6 +5,8 @@
 #include "ItemCompare.h"
 #include "ItemFormat.h"
 
+#include "../common/CXTPPropExchange.h"
+
 IMPLEMENT_DYNCREATE(CXTPReportRecordItemNumber, CXTPReportRecordItem)
 
 CXTPReportRecordItemNumber::CXTPReportRecordItemNumber(double dValue, LPCTSTR strFormat) : m_dValue(dValue) {
@@ -34,4 +36,15 @@ void CXTPReportRecordItemNumber::OnEditChanged(XTP_REPORTRECORDITEM_ARGS* pItemA
         return;
     SetCaption(_T("")); // it would hide what the user has typed
     SetValue(dValue);
+}
+
+void CXTPReportRecordItemNumber::DoPropExchange(CXTPPropExchange* pPX) {
+    CXTPReportRecordItem::DoPropExchange(pPX);
+    CString strFormat(FormatString());
+    if (strFormat.IsEmpty())
+        strFormat = _T("%g"); // what it is shown with
+    PX_String(pPX, _T("Format"), strFormat);
+    PX_Double(pPX, _T("Value"), m_dValue);
+    if (pPX->IsLoading())
+        InternFormatString(strFormat);
 }

@@ -25,6 +25,8 @@ public:
     /// Takes the number, outside of virtual mode; an explicit caption goes. Both '.' and ',' are decimal separators,
     /// and there are none between thousands. A text that is no finite number changes nothing.
     void OnEditChanged(XTP_REPORTRECORDITEM_ARGS* pItemArgs, LPCTSTR szText) override;
+    /// In addition "Value" and "Format", which is never empty and so tells a number from other cells.
+    void DoPropExchange(CXTPPropExchange* pPX) override;
 
 protected:
     double m_dValue; ///< the number

@@ -5,6 +5,8 @@
 #include "ItemCompare.h"
 #include "ItemFormat.h"
 
+#include "../common/CXTPPropExchange.h"
+
 #include <cwchar>
 
 IMPLEMENT_DYNCREATE(CXTPReportRecordItemText, CXTPReportRecordItem)
@@ -33,4 +35,14 @@ void CXTPReportRecordItemText::OnEditChanged(XTP_REPORTRECORDITEM_ARGS* pItemArg
         return;
     SetCaption(_T("")); // it would hide what the user has typed
     SetValue(szText);
+}
+
+void CXTPReportRecordItemText::DoPropExchange(CXTPPropExchange* pPX) {
+    CXTPReportRecordItem::DoPropExchange(pPX);
+    ExchangeText(pPX, _T("Text"), m_strText);
+    // Not "Format": that one tells a number.
+    CString strFormat(FormatString());
+    PX_String(pPX, _T("TextFormat"), strFormat, _T("%s"));
+    if (pPX->IsLoading())
+        InternFormatString(strFormat);
 }

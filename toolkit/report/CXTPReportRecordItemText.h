@@ -22,6 +22,8 @@ public:
     int Compare(CXTPReportColumn* pColumn, CXTPReportRecordItem* pItem) override;
     /// Takes the text as the value, outside of virtual mode; an explicit caption goes.
     void OnEditChanged(XTP_REPORTRECORDITEM_ARGS* pItemArgs, LPCTSTR szText) override;
+    /// In addition "Text", the text itself, and "TextFormat".
+    void DoPropExchange(CXTPPropExchange* pPX) override;
 
 protected:
     CompactText m_strText; ///< the text; copies of an item share it

@@ -1,14 +1,18 @@
-// The records of a report control.
+// The records of a report control, or those below a record.
 #include "CXTPReportRecords.h"
 
 #include "CXTPReportControl.h"
 #include "CXTPReportRecord.h"
 #include "CXTPReportRows.h"
+#include "StoredClass.h"
 
 #include <algorithm>
 
 CXTPReportRecords::CXTPReportRecords(CXTPReportControl* pControl)
     : m_pControl(pControl), m_records(&CXTPReportRecord::m_nIndex) {}
+
+CXTPReportRecords::CXTPReportRecords(CXTPReportRecord& rOwnerRecord)
+    : m_pOwnerRecord(&rOwnerRecord), m_records(&CXTPReportRecord::m_nIndex) {}
 
 CXTPReportRecords::~CXTPReportRecords() {
     // The control is being destroyed, and its rows are gone.
@@ -16,6 +20,14 @@ CXTPReportRecords::~CXTPReportRecords() {
     RemoveAll();
 }
 
+CXTPReportControl* CXTPReportRecords::GetControl() const {
+    if (!m_pOwnerRecord)
+        return m_pControl;
+    const CXTPReportRecords* const pAbove = m_pOwnerRecord->GetRecords();
+    return pAbove ? pAbove->GetControl() : nullptr;
+}
+
+/// Null for child records, which have no rows.
 CXTPReportRows* CXTPReportRecords::GetRows() const { return m_pControl ? m_pControl->GetRows() : nullptr; }
 
 int CXTPReportRecords::GetCount() const { return m_records.Count(); }
@@ -91,8 +103,30 @@ void CXTPReportRecords::SetVirtualMode(CXTPReportRecord* pVirtualRecord, int nCo
     RemoveAll();
     if (!pVirtualRecord)
         return;
+    ASSERT(!m_pOwnerRecord);
     ASSERT(!pVirtualRecord->m_pRecords);
     pVirtualRecord->m_pRecords = this;
     m_pVirtualRecord = pVirtualRecord;
     m_nVirtualCount = std::max(nCount, 0);
+}
+
+void CXTPReportRecords::DoPropExchange(CXTPPropExchange* pPX) {
+    const CXTPPropExchangeEnumeratorPtr sections(pPX->GetEnumerator(_T("Record")));
+    if (pPX->IsStoring()) {
+        POSITION pos = sections->GetPosition(static_cast<DWORD>(GetCount()));
+        for (CXTPReportRecord* const pRecord : GetRecords()) {
+            const CXTPPropExchangeSection section(sections->GetNext(pos));
+            storedclass::Write(&section, *pRecord);
+            pRecord->DoPropExchange(&section);
+        }
+        return;
+    }
+    RemoveAll();
+    for (POSITION pos = sections->GetPosition(); pos;) {
+        const CXTPPropExchangeSection section(sections->GetNext(pos));
+        CXTPReportRecord* pRecord = storedclass::Make<CXTPReportRecord>(&section);
+        if (!pRecord)
+            pRecord = new CXTPReportRecord;
+        Add(pRecord)->DoPropExchange(&section);
+    }
 }

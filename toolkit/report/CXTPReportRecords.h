@@ -1,11 +1,13 @@
 /// @file
-/// The records of a report control.
+/// The records of a report control, or those below a record.
 #pragma once
 
 #include "RecordSequence.h"
 #include "XTPReportDefines.h"
 
 #include <vector>
+
+class CXTPPropExchange;
 
 /// Owns the records. In virtual mode it owns one record that stands for all rows. Records that are added show after the
 /// control's next `Populate`; records that are removed lose their rows at once.
@@ -14,6 +16,9 @@ class KY_TOOLKIT_API CXTPReportRecords : public CCmdTarget {
 public:
     /// @param pControl the control that owns the collection; null for a collection without one, as in tests
     explicit CXTPReportRecords(CXTPReportControl* pControl);
+    /// @param rOwnerRecord the record that owns the collection, as that of its children; such a collection has no
+    ///                     virtual mode
+    explicit CXTPReportRecords(CXTPReportRecord& rOwnerRecord);
     ~CXTPReportRecords() override;
 
     /// Takes ownership and returns the record; null is not added.
@@ -28,9 +33,16 @@ public:
 
     /// Records there are; 0 in virtual mode.
     int GetCount() const;
-    CXTPReportRecord* GetAt(int nIndex) const;                   ///< null when out of range
-    int IndexOf(const CXTPReportRecord* pRecord) const;          ///< −1 when absent
-    CXTPReportControl* GetControl() const { return m_pControl; } ///< null while the control is being destroyed
+    CXTPReportRecord* GetAt(int nIndex) const;          ///< null when out of range
+    int IndexOf(const CXTPReportRecord* pRecord) const; ///< −1 when absent
+    /// The control that shows the records, or the records above them; null while it is being destroyed.
+    CXTPReportControl* GetControl() const;
+    /// The record whose children these are; null for a control's own collection.
+    CXTPReportRecord* GetOwnerRecord() const { return m_pOwnerRecord; }
+
+    /// Writes or reads all records, one section "Record" for each. Reading replaces those that are there; rows follow
+    /// at the next `Populate`. The record of virtual mode is not exchanged.
+    void DoPropExchange(CXTPPropExchange* pPX);
 
     /// One record for `nCount` rows, shown after `Populate`; it takes the place of all records that are there. Null and
     /// 0 end virtual mode. Takes ownership of the record.
@@ -46,7 +58,8 @@ private:
     CXTPReportRows* GetRows() const;
     void Release(CXTPReportRecord* pRecord);
 
-    CXTPReportControl* m_pControl;
+    CXTPReportControl* m_pControl = nullptr;
+    CXTPReportRecord* m_pOwnerRecord = nullptr;
     RecordSequence m_records;
     CXTPReportRecord* m_pVirtualRecord = nullptr;
     int m_nVirtualCount = 0;

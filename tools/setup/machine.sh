@@ -8,4 +8,5 @@ set -euo pipefail
 setup=$ky_root/tools/setup
 "$setup/packages.sh"
 "$setup/boost-locale.sh"
+"$setup/pugixml.sh"
 "$setup/wine-prefix.sh" "$(ky_prefix "${1:-screen}")" "${1:-screen}"

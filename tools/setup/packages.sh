@@ -16,6 +16,7 @@ Wine, which runs the Windows programs|1 min|wine wine64 libxcomposite1 libxcurso
 fonts that measure like those of Windows|5 s|fonts-wine fonts-liberation fonts-dejavu-core
 virtual screen with mouse, keyboard, clipboard and screenshots|20 s|xvfb xdotool xclip imagemagick
 Boost headers|20 s|libboost1.81-dev
+pugixml, for the version of its source and its licence|5 s|libpugixml-dev
 GoogleTest, in source|5 s|googletest
 gettext, which compiles the translations|10 s|gettext
 Doxygen, which makes the reference pages|10 s|doxygen

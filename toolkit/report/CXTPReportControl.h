@@ -20,7 +20,8 @@
 /// effect.
 ///
 /// Keyboard. Up, down, page keys, home and end move focus and selection, with shift they extend the selection, with
-/// ctrl they move the focus alone; space selects, ctrl+space turns round; ctrl+A selects all; typing finds the row
+/// ctrl they move the focus alone; space selects, ctrl+space turns round; ctrl+A selects all; ctrl+C, X and V copy,
+/// cut and paste, as insert and delete with ctrl or shift do; typing finds the row
 /// whose text in the sorted (else the first) column begins with it. Left and right move the focused column, with ctrl
 /// they scroll sideways, as alt+page keys do by a page; F3 sorts by it, with shift in addition; alt+left and alt+right
 /// change its width, alt+plus fits it, ctrl+plus fits all; ctrl+shift+left and right move it; alt+down opens the menu
@@ -153,9 +154,21 @@ public:
     void SetInplaceEdit(CXTPReportInplaceEdit* pEdit);
 
     // --- Editing commands -----------------------------------------------------------------------------------------
-    virtual BOOL CanCut();   ///< FALSE here: the control does not cut
+    virtual BOOL CanCut();   ///< FALSE here: the control does not cut unless an override lets it
     virtual BOOL CanCopy();  ///< whether rows are selected
-    virtual BOOL CanPaste(); ///< FALSE here: the control does not paste
+    virtual BOOL CanPaste(); ///< FALSE here: the control does not paste unless an override lets it
+    /// Puts the selected rows on the clipboard: as Unicode text (visible columns from left to right, parted by tabs, as
+    /// spreadsheets take it), and as records with everything that `DoPropExchange` writes, which only `Paste` reads.
+    /// Very many records (more than some ten thousand) and the rows of virtual mode go as text alone. The clipboard
+    /// stays as it was when there is nothing to copy or another program holds it.
+    virtual void Copy();
+    /// `Copy`, and then removes the records; those that could not be copied stay. Nothing unless `CanCut` lets it; in
+    /// virtual mode nothing either.
+    virtual void Cut();
+    /// Inserts what the clipboard holds in front of the focused row, else at the end, and selects it: the records of
+    /// `Copy`, else the lines of a text as records of text items, one for each visible column from the left. Nothing
+    /// unless `CanPaste` lets it; in virtual mode nothing either.
+    virtual void Paste();
 
     /// The tool under the point; see `CXTPReportRecordItem::OnToolHitTest`. Headers, items and cut-off texts have tips.
     INT_PTR OnToolHitTest(CPoint point, TOOLINFO* pTI) const override;

@@ -50,7 +50,7 @@ void CXTPReportControl::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
     m_impl->toolTips.CancelToolTips();
     const WindowGuard guard(*this);
     const bool isDone = m_impl->MoveByKey(nChar) || m_impl->SelectByKey(nChar) || m_impl->ColumnByKey(nChar) ||
-                        m_impl->CellByKey(nChar);
+                        m_impl->ClipboardByKey(nChar) || m_impl->CellByKey(nChar);
     if (isDone || guard.IsGone())
         return;
     if (nChar == VK_ESCAPE)
@@ -82,6 +82,27 @@ bool CXTPReportControl::Impl::SelectByKey(UINT key) {
         return true;
     }
     return false;
+}
+
+// --- Clipboard ------------------------------------------------------------------------------------------------------
+
+/// Both generations of keys: ctrl with C, X and V, and those with insert and delete.
+bool CXTPReportControl::Impl::ClipboardByKey(UINT key) {
+    const bool isCtrl = IsKeyDown(VK_CONTROL), isShift = IsKeyDown(VK_SHIFT);
+    if (IsKeyDown(VK_MENU) || isCtrl == isShift)
+        return false;
+    const bool isCopy = isCtrl && (key == 'C' || key == VK_INSERT);
+    const bool isCut = isCtrl ? key == 'X' : key == VK_DELETE;
+    const bool isPaste = isCtrl ? key == 'V' : key == VK_INSERT;
+    if (isCopy && control.CanCopy())
+        control.Copy();
+    else if (isCut && control.CanCut())
+        control.Cut();
+    else if (isPaste && control.CanPaste())
+        control.Paste();
+    else
+        return false;
+    return true;
 }
 
 // --- Columns --------------------------------------------------------------------------------------------------------

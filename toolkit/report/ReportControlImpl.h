@@ -1,8 +1,9 @@
 // The inside of a report control: its parts and its state. Only the control's own sources include this.
 //
 // The operations stand in the source of their concern: CXTPReportControl_Paint, _Scroll, _Selection, _Mouse, _Keyboard,
-// _Edit and _Tips. Callbacks to items, to the owner and to overrides may do anything, even destroy the control: whoever
-// makes one holds a WindowGuard and returns at once when the window is gone, and finds rows and items anew afterwards.
+// _Edit, _Tips and _Clipboard. Callbacks to items, to the owner and to overrides may do anything, even destroy the
+// control: whoever makes one holds a WindowGuard and returns at once when the window is gone, and finds rows and items
+// anew afterwards.
 #pragma once
 
 #include "CXTPReportColumns.h"
@@ -22,6 +23,8 @@
 #include "../common/ObjectReference.h"
 
 #include <optional>
+#include <string>
+#include <vector>
 
 /// Tells whether a window that was there has been destroyed since, without touching the object that had it.
 class WindowGuard {
@@ -165,6 +168,12 @@ struct CXTPReportControl::Impl {
     void SelectByClick(int rowIndex, UINT mouseFlags);
     void MoveFocusTo(int rowIndex, bool extends, bool keepsSelection);
 
+    // --- Clipboard ------------------------------------------------------------------------------------------------
+    std::wstring SelectedText() const;
+    CString SelectedRecords() const;
+    std::vector<CXTPReportRecord*> SelectedRecordList() const;
+    void InsertRecords(CXTPReportRecords& pasted);
+
     // --- Mouse ------------------------------------------------------------------------------------------------------
     XTPReportMouseMode mouseMode = xtpReportMouseNothing;
     RowPress press;
@@ -219,6 +228,7 @@ struct CXTPReportControl::Impl {
     bool ColumnByKey(UINT key);
     bool ColumnByAltKey(UINT key);
     bool CellByKey(UINT key);
+    bool ClipboardByKey(UINT key);
     void MoveFocusSideways(int direction);
     void ShowColumn(const CXTPReportColumn* column);
     bool TakeColumn(CXTPReportColumn* column);

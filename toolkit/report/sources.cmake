@@ -19,6 +19,7 @@ list(APPEND kytoolkit_report_SOURCES
 list(APPEND kytoolkit_report_SOURCES
     report/CellText.cpp
     report/CXTPReportControl.cpp
+    report/CXTPReportControl_Clipboard.cpp
     report/CXTPReportControl_Edit.cpp
     report/CXTPReportControl_Keyboard.cpp
     report/CXTPReportControl_Mouse.cpp

@@ -53,6 +53,7 @@ function(ky_public_headers result house)
             plotcells/KyPlotRecordItem.h
             plotcells/KyPlotRecordReportControl.h
             reportgrid/KyReportControl.h
+            reportgrid/KyReportControlHelpers.h
             reportgrid/KyReportHeader.h
             themes/KyPaintTheme.h
             themes/Themes.h)

@@ -68,6 +68,8 @@ bool IsGroupedInThrees(std::string_view whole, char group) {
     return (whole.size() - firstGroup) % 4 == 0;
 }
 
+constexpr double kSecondsPerDay = 86400;
+
 /// Reads exactly `count` digits at `position`, which moves behind them; -1 when they are not there.
 int ReadDigits(std::string_view text, std::size_t& position, std::size_t count) {
     if (position + count > text.size())
@@ -88,26 +90,30 @@ bool Skip(std::string_view text, std::size_t& position, char c) {
     return true;
 }
 
-/// "13:05", "13:05:59", "13:05:59.25" at `position`, which moves behind it.
-bool ReadTime(std::string_view text, std::size_t& position) {
+/// "13:05", "13:05:59", "13:05:59.25" at `position`, which moves behind it: as a fraction of a day.
+std::optional<double> ReadTime(std::string_view text, std::size_t& position) {
     const int hour = ReadDigits(text, position, 2);
     if (hour < 0 || hour > 24 || !Skip(text, position, ':'))
-        return false;
+        return std::nullopt;
     const int minute = ReadDigits(text, position, 2);
     if (minute < 0 || minute > 59)
-        return false;
+        return std::nullopt;
+    double seconds = 3600.0 * hour + 60.0 * minute;
     if (!Skip(text, position, ':'))
-        return true;
+        return seconds / kSecondsPerDay;
     const int second = ReadDigits(text, position, 2);
     if (second < 0 || second > 60) // 60 is a leap second
-        return false;
+        return std::nullopt;
+    seconds += second;
     if (Skip(text, position, '.')) {
         const std::size_t fraction = position;
-        while (position < text.size() && IsDigit(text[position]))
-            ++position;
-        return position > fraction;
+        double place = 0.1;
+        for (; position < text.size() && IsDigit(text[position]); ++position, place /= 10)
+            seconds += place * (text[position] - '0');
+        if (position == fraction)
+            return std::nullopt;
     }
-    return true;
+    return seconds / kSecondsPerDay;
 }
 
 /// "Z", "+01:00", "-0530" or nothing, up to the end of the text.
@@ -181,27 +187,33 @@ NumberReading ReadNumber(std::string_view text, DecimalMark mark) {
     return ReadPlainNumber(std::string_view(buffer.data(), length));
 }
 
-bool IsDate(std::string_view text) {
+bool IsDate(std::string_view text) { return ReadDate(text).has_value(); }
+
+std::optional<double> ReadDate(std::string_view text) {
     text = Trimmed(text);
     std::size_t position = 0;
     const int year = ReadDigits(text, position, 4);
     if (year < 0 || !Skip(text, position, '-'))
-        return false;
+        return std::nullopt;
     const int month = ReadDigits(text, position, 2);
     if (month < 0 || !Skip(text, position, '-'))
-        return false;
+        return std::nullopt;
     const int day = ReadDigits(text, position, 2);
     if (day < 0)
-        return false;
+        return std::nullopt;
     const std::chrono::year_month_day date{std::chrono::year(year), std::chrono::month(static_cast<unsigned>(month)),
                                            std::chrono::day(static_cast<unsigned>(day))};
     if (!date.ok())
-        return false;
+        return std::nullopt;
+    const double days = static_cast<double>(std::chrono::sys_days(date).time_since_epoch().count());
     if (position == text.size())
-        return true;
+        return days;
     if (!Skip(text, position, 'T') && !Skip(text, position, ' '))
-        return false;
-    return ReadTime(text, position) && ReadZone(text, position);
+        return std::nullopt;
+    const std::optional<double> time = ReadTime(text, position);
+    if (!time || !ReadZone(text, position))
+        return std::nullopt;
+    return days + *time;
 }
 
 } // namespace csv

@@ -43,4 +43,8 @@ NumberReading ReadNumber(std::string_view text, DecimalMark mark);
 /// because one cannot tell 3/4 from 4/3.
 bool IsDate(std::string_view text);
 
+/// The same date in days since 1970-01-01, its time as a fraction of the day. Zones are not converted: it is the place
+/// on the calendar that is written. Nothing for a text that is no date.
+std::optional<double> ReadDate(std::string_view text);
+
 } // namespace csv

@@ -14,4 +14,9 @@ std::string NumberText(double value);
 /// would be rounded to them otherwise is "<0.1 %" or ">99.9 %". No share is the empty text.
 std::string ShareText(std::optional<double> share);
 
+/// Days since 1970-01-01 as an ISO date, "2012-03-04"; with the time, "2012-03-04 13:05". Beyond the years 0 to 9999,
+/// and for NaN, the empty text.
+enum class DateDetail { Day, Minute };
+std::string DateText(double days, DateDetail detail);
+
 } // namespace statistics

@@ -36,10 +36,17 @@ void AppendViewMenu(CMenu& bar) {
     themes.CreatePopupMenu();
     for (std::size_t i = 0; i < kThemeNames.size(); ++i)
         themes.AppendMenu(MF_STRING, ID_VIEW_THEME_FIRST + i, kThemeNames[i]);
+    CMenu rows;
+    rows.CreatePopupMenu();
+    const CString heights[] = {Translate("Menu", "&Low (22 pixels)"), Translate("Menu", "&Medium (34 pixels)"),
+                               Translate("Menu", "&High (48 pixels)")};
+    for (UINT i = 0; i < std::size(heights); ++i)
+        rows.AppendMenu(MF_STRING, ID_VIEW_ROW_HEIGHT_FIRST + i, heights[i]);
     CMenu view;
     view.CreatePopupMenu();
     view.AppendMenu(MF_STRING, ID_VIEW_MESSAGES, Translate("Menu", "&Messages\tCtrl+M"));
     view.AppendMenu(MF_SEPARATOR);
+    AppendPopup(view, rows, Translate("Menu", "&Row height"));
     AppendPopup(view, themes, Translate("Menu", "&Theme"));
     AppendPopup(bar, view, Translate("Menu", "&View"));
 }
@@ -65,6 +72,8 @@ void MakeMainMenu(CMenu& bar) {
 CString CommandDescription(UINT command) {
     if (command >= ID_VIEW_THEME_FIRST && command <= ID_VIEW_THEME_LAST)
         return Translate("Shows the grid in this theme.");
+    if (command >= ID_VIEW_ROW_HEIGHT_FIRST && command <= ID_VIEW_ROW_HEIGHT_LAST)
+        return Translate("Makes the rows this high; the plots use the room.");
     switch (command) {
     case ID_FILE_OPEN:
         return Translate("Opens a CSV file in place of this one.");

@@ -12,14 +12,35 @@
 
 namespace {
 
-/// Items of a record, and at first the columns from left to right.
-enum Item { NameItem, TypeItem, CountItem, MissingItem, MinimumItem, MeanItem, MaximumItem, PlotItem, InsideItem };
+/// Items of a record.
+enum Item {
+    NameItem,
+    TypeItem,
+    CountItem,
+    MissingItem,
+    MinimumItem,
+    MeanItem,
+    MaximumItem,
+    PlotItem,
+    HistogramItem,
+    TargetItem,
+    InsideItem
+};
 
 constexpr wchar_t kSection[] = L"Columns";
 constexpr wchar_t kNameColumn[] = L"Name";
-constexpr int kRowHeight = 24; // pixels at 96 DPI
 
 CString Number(double number) { return FromUtf8(statistics::NumberText(number)); }
+
+/// How the column's values are written. Dates of a few days only have their time.
+ColumnHistogramItem::ValueText ValueTextOf(const statistics::ColumnProfile& profile) {
+    if (profile.type != csv::ColumnType::Date)
+        return Number;
+    constexpr double kFewDays = 10;
+    const bool few = profile.daySummary.maximum - profile.daySummary.minimum < kFewDays;
+    const auto detail = few ? statistics::DateDetail::Minute : statistics::DateDetail::Day;
+    return [detail](double days) { return FromUtf8(statistics::DateText(days, detail)); };
+}
 
 CString TypeText(csv::ColumnType type) {
     switch (type) {
@@ -51,11 +72,11 @@ CString PlotText(const statistics::ColumnProfile& profile) {
     }
 }
 
-CString MarkText(ColumnPlotItem::Mark mark) {
+CString MarkText(LimitMark mark) {
     switch (mark) {
-    case ColumnPlotItem::Mark::Lower:
+    case LimitMark::Lower:
         return Translate("Dragged mark", "lower limit");
-    case ColumnPlotItem::Mark::Upper:
+    case LimitMark::Upper:
         return Translate("Dragged mark", "upper limit");
     default:
         return Translate("Dragged mark", "target");
@@ -86,27 +107,33 @@ void ProfileGrid::AddColumns() {
         CString tip;
     };
     const Layout layouts[] = {
-        {NameItem, kNameColumn, Translate("Column"), 190, DT_LEFT, Translate("The column's name in the file")},
-        {TypeItem, L"Type", Translate("Type"), 72, DT_LEFT, Translate("What most of the column's cells are")},
-        {CountItem, L"Count", Translate("Count"), 72, DT_RIGHT, Translate("Rows with a value")},
-        {MissingItem, L"Missing", Translate("Missing"), 72, DT_RIGHT, Translate("Rows without a value")},
-        {MinimumItem, L"Minimum", Translate("Minimum"), 88, DT_RIGHT, Translate("The smallest value")},
-        {MeanItem, L"Mean", Translate("Mean"), 88, DT_RIGHT, Translate("The arithmetic mean")},
-        {MaximumItem, L"Maximum", Translate("Maximum"), 88, DT_RIGHT, Translate("The largest value")},
-        {PlotItem, L"Plot", Translate("Distribution"), 400, DT_LEFT,
+        {NameItem, kNameColumn, Translate("Column"), 150, DT_LEFT, Translate("The column's name in the file")},
+        {TypeItem, L"Type", Translate("Type"), 64, DT_LEFT, Translate("What most of the column's cells are")},
+        {CountItem, L"Count", Translate("Count"), 60, DT_RIGHT, Translate("Rows with a value")},
+        {MissingItem, L"Missing", Translate("Missing"), 64, DT_RIGHT, Translate("Rows without a value")},
+        {MinimumItem, L"Minimum", Translate("Minimum"), 80, DT_RIGHT, Translate("The smallest value")},
+        {MeanItem, L"Mean", Translate("Mean"), 80, DT_RIGHT, Translate("The arithmetic mean")},
+        {MaximumItem, L"Maximum", Translate("Maximum"), 80, DT_RIGHT, Translate("The largest value")},
+        {PlotItem, L"Plot", Translate("Distribution"), 260, DT_LEFT,
          // xgettext:no-c-format
          Translate("Bar: mean ± standard deviation. Whiskers: 5 % and 95 % quantiles. Gold: median. Red: minimum and "
                    "maximum. Drag the bar's ends and the median.")},
-        {InsideItem, L"Inside", Translate("Inside"), 84, DT_RIGHT,
-         Translate("The share of the column's values from the lower to the upper end of the bar")},
+        {HistogramItem, L"Histogram", Translate("Histogram"), 170, DT_LEFT,
+         Translate("How often values come, the darker the more often. Red: limits. Gold: target. All three can be "
+                   "dragged. Of texts the most frequent ones are shown.")},
+        {TargetItem, L"Target", Translate("Target"), 110, DT_LEFT,
+         Translate("The target from minimum to maximum, to be dragged. Marks: quartiles.")},
+        {InsideItem, L"Inside", Translate("Inside"), 66, DT_RIGHT,
+         Translate("The share of the column's values from the lower to the upper limit")},
     };
     for (const Layout& layout : layouts) {
         auto* column = new CXTPReportColumn(layout.item, layout.caption, layout.name,
                                             GetPaintManager()->ScaleForDpi(layout.width));
         column->SetAlignment(layout.alignment);
-        column->SetMinWidth(GetPaintManager()->ScaleForDpi(layout.item == PlotItem ? 120 : 40));
+        const bool isPlot = layout.item == PlotItem || layout.item == HistogramItem || layout.item == TargetItem;
+        column->SetMinWidth(GetPaintManager()->ScaleForDpi(isPlot ? 80 : 40));
         column->SetTooltip(layout.tip);
-        column->SetSortable(layout.item != PlotItem);
+        column->SetSortable(!isPlot);
         column->AllowRemove(layout.item != NameItem);
         AddColumn(column);
     }
@@ -123,7 +150,7 @@ void ProfileGrid::SetEmptyText(const CString& text) {
 
 /// Theme changes make a new paint manager.
 void ProfileGrid::SetUpPaintManager() {
-    GetPaintManager()->SetRowHeight(GetPaintManager()->ScaleForDpi(kRowHeight));
+    GetPaintManager()->SetRowHeight(GetPaintManager()->ScaleForDpi(m_rowHeight));
     GetPaintManager()->SetNoItemText(m_emptyText);
 }
 
@@ -131,6 +158,14 @@ void ProfileGrid::ApplyTheme(int theme) {
     SendMessage(WM_KYTHEMECHANGED, static_cast<WPARAM>(theme), 0);
     SetUpPaintManager();
     AdjustLayout();
+}
+
+void ProfileGrid::SetRowHeight(int pixels) {
+    m_rowHeight = pixels;
+    GetPaintManager()->SetRowHeight(GetPaintManager()->ScaleForDpi(m_rowHeight));
+    if (GetSafeHwnd() != nullptr)
+        AdjustLayout();
+    RedrawControl();
 }
 
 void ProfileGrid::Show(const ColumnFile* file) {
@@ -161,40 +196,80 @@ void ProfileGrid::AddRow(const ColumnFile& file, std::size_t index) {
         record->AddItem(new ValueItem(L""));
         record->AddItem(new ValueItem(FromUtf8(profile.lastDate)));
     }
-    if (ColumnPlotItem::CanShow(numbers)) {
-        AddLimits(*record, file.table.columns[index], numbers);
-    } else {
-        record->AddItem(new CXTPReportRecordItemText(PlotText(profile)));
-        record->AddItem(new ValueItem(L""));
-    }
+    AddPlots(*record, file, index);
     AddRecord(record);
 }
 
-void ProfileGrid::AddLimits(CXTPReportRecord& record, const csv::Column& column, const statistics::Summary& numbers) {
-    const std::size_t index = m_limitRows.size();
+/// The plots, and the share inside, which only rows with limits have.
+void ProfileGrid::AddPlots(CXTPReportRecord& record, const ColumnFile& file, std::size_t index) {
+    const statistics::ColumnProfile& profile = file.profiles[index];
+    const bool hasLimits = ColumnPlotItem::CanShow(profile.ValueSummary());
     LimitRow row;
-    row.column = &column;
-    row.limits = ColumnPlotItem::InitialLimits(numbers);
-    row.plot = new ColumnPlotItem(numbers);
-    row.inside = new ValueItem(L"");
-    row.plot->m_valueChanged.connect(
-        [this, index](float lower, float target, float upper) { OnLimitsMoved(index, lower, target, upper); });
-    row.plot->SetListener(
-        {[this, index](ColumnPlotItem::Mark mark, double value) { TellMove(index, mark, value); },
-         [this] { Tell(Translate("The mark was released outside of its plot: nothing has changed.")); }});
-    record.AddItem(row.plot);
-    record.AddItem(row.inside);
-    m_limitRows.push_back(row);
-    ShowShare(m_limitRows.back());
+    row.column = &file.table.columns[index];
+    row.profile = &profile;
+    if (hasLimits && profile.type == csv::ColumnType::Number)
+        record.AddItem(row.plot = new ColumnPlotItem(profile.numbers));
+    else
+        record.AddItem(new CXTPReportRecordItemText(PlotText(profile)));
+    if (profile.count > 0)
+        record.AddItem(row.histogram = new ColumnHistogramItem(profile, ValueTextOf(profile)));
+    else
+        record.AddItem(new CXTPReportRecordItemText);
+    if (hasLimits) {
+        AddLimits(record, row);
+    } else {
+        record.AddItem(new CXTPReportRecordItemText);
+        record.AddItem(new ValueItem(L""));
+    }
 }
 
-void ProfileGrid::ShowShare(LimitRow& row) {
+void ProfileGrid::AddLimits(CXTPReportRecord& record, LimitRow row) {
+    const std::size_t index = m_limitRows.size();
+    const statistics::Summary& values = row.profile->ValueSummary();
+    row.limits = ColumnPlotItem::InitialLimits(values);
+    row.target = new ColumnTargetItem(values, ValueTextOf(*row.profile));
+    row.target->SetListener(
+        {[this, index](double target) { OnMarkMoved(index, LimitMark::Target, target, m_limitRows[index].target); },
+         [this, index](double target) {
+             OnLimitsDragged(index, KyMissingValueF, PlotValue(target), KyMissingValueF);
+         }});
+    record.AddItem(row.target);
+    row.inside = new ValueItem(L"");
+    record.AddItem(row.inside);
+    if (row.plot != nullptr)
+        Connect(*row.plot, index);
+    Connect(*row.histogram, index);
+    m_limitRows.push_back(row);
+    ShowLimits(m_limitRows.back(), row.limits, nullptr);
+}
+
+template <class Plot>
+void ProfileGrid::Connect(Plot& plot, std::size_t index) {
+    plot.m_valueChanged.connect(
+        [this, index](float lower, float target, float upper) { OnLimitsDragged(index, lower, target, upper); });
+    plot.SetListener({[this, index, &plot](LimitMark mark, double value) { OnMarkMoved(index, mark, value, &plot); },
+                      [this] {
+                          TakeMoveBack();
+                          Tell(Translate("The mark was released outside of its plot: nothing has changed."));
+                      }});
+}
+
+/// Shows limits in every plot of the row, apart from one that is being dragged and shows its marks itself, and the
+/// share inside them.
+void ProfileGrid::ShowLimits(LimitRow& row, const statistics::Limits& limits, const KyPlotRecordItem* dragged) {
+    if (row.plot != nullptr && row.plot != dragged)
+        row.plot->SetLimits(limits);
+    if (row.histogram != dragged)
+        row.histogram->SetLimits(limits);
+    if (row.target != dragged)
+        row.target->SetTarget(PlotValue(limits.target));
     const std::optional<double> share =
-        statistics::ShareInside(row.column->numbers, row.limits.lower, row.limits.upper);
+        statistics::ShareInside(statistics::ValuesOf(*row.column, *row.profile), limits.lower, limits.upper);
     row.inside->Set(FromUtf8(statistics::ShareText(share)), share.value_or(std::numeric_limits<double>::quiet_NaN()));
 }
 
-void ProfileGrid::OnLimitsMoved(std::size_t index, float lower, float target, float upper) {
+/// A drag has come to its end: the limits are others now.
+void ProfileGrid::OnLimitsDragged(std::size_t index, float lower, float target, float upper) {
     LimitRow& row = m_limitRows[index];
     // The signal tells only of what was dragged; what that pushed along is worked out here as the plot does it.
     if (lower != KyMissingValueF)
@@ -203,20 +278,41 @@ void ProfileGrid::OnLimitsMoved(std::size_t index, float lower, float target, fl
         row.limits.MoveTarget(target);
     if (upper != KyMissingValueF)
         row.limits.MoveUpper(upper);
-    ShowShare(row);
+    ShowLimits(row, row.limits, nullptr);
     RedrawControl();
+    const auto text = ValueTextOf(*row.profile);
     Tell(TranslateFormat("Status bar", "%1%: %2% of the values lie from %3% to %4%.",
                          FromUtf8(row.column->name).GetString(), row.inside->GetValue().GetString(),
-                         Number(row.limits.lower).GetString(), Number(row.limits.upper).GetString()));
+                         text(row.limits.lower).GetString(), text(row.limits.upper).GetString()));
 }
 
-void ProfileGrid::TellMove(std::size_t index, ColumnPlotItem::Mark mark, double value) {
-    Tell(TranslateFormat("Status bar", "%1%: %2% at %3%. Escape cancels.",
-                         FromUtf8(m_limitRows[index].column->name).GetString(), MarkText(mark).GetString(),
-                         Number(value).GetString()));
+/// During a drag the limits stay as they were, and everything shows what they would be.
+void ProfileGrid::OnMarkMoved(std::size_t index, LimitMark mark, double value, const KyPlotRecordItem* dragged) {
+    LimitRow& row = m_limitRows[index];
+    m_movedRow = index;
+    statistics::Limits limits = row.limits;
+    if (mark == LimitMark::Lower)
+        limits.MoveLower(value);
+    else if (mark == LimitMark::Upper)
+        limits.MoveUpper(value);
+    else
+        limits.MoveTarget(value);
+    ShowLimits(row, limits, dragged);
+    Tell(TranslateFormat("Status bar", "%1%: %2% at %3%. Escape cancels.", FromUtf8(row.column->name).GetString(),
+                         MarkText(mark).GetString(), ValueTextOf(*row.profile)(value).GetString()));
 }
 
-void ProfileGrid::OnPlotRecordItemDragCancelled() { Tell(Translate("Cancelled: the mark is back where it was.")); }
+/// Shows the limits that hold in place of those that the last drag would have made.
+void ProfileGrid::TakeMoveBack() {
+    if (m_movedRow < m_limitRows.size())
+        ShowLimits(m_limitRows[m_movedRow], m_limitRows[m_movedRow].limits, nullptr);
+    RedrawControl();
+}
+
+void ProfileGrid::OnPlotRecordItemDragCancelled() {
+    TakeMoveBack();
+    Tell(Translate("Cancelled: the mark is back where it was."));
+}
 
 void ProfileGrid::Tell(const CString& sentence) {
     if (m_status)

@@ -4,15 +4,17 @@
 #include "plotcells/KyPlotRecordReportControl.h"
 #include "statistics/Limits.h"
 #include "window/ColumnFile.h"
+#include "window/ColumnHistogramItem.h"
 #include "window/ColumnPlotItem.h"
+#include "window/ColumnTargetItem.h"
 
 #include <functional>
 #include <vector>
 
 class ValueItem;
 
-/// Shows the profiles of a file's columns. The user drags the limits of a plot; the share of the column's values inside
-/// follows when the mark is released, and `SetStatusListener` is told what goes on meanwhile.
+/// Shows the profiles of a file's columns. The user drags the limits of a column in any of its plots; the other plots
+/// and the share of the values inside follow, and `SetStatusListener` is told what goes on meanwhile.
 class ProfileGrid : public KyPlotRecordReportControl {
 public:
     /// Called on the user-interface thread with a sentence for the status bar.
@@ -30,28 +32,41 @@ public:
 
     void ApplyTheme(int theme);
 
+    /// In pixels at 96 DPI; 22 at first.
+    int RowHeight() const { return m_rowHeight; }
+    void SetRowHeight(int pixels);
+
 protected:
     void OnPlotRecordItemDragCancelled() override;
 
 private:
-    /// A row with limits: a column of numbers.
+    /// A row with limits: a column of numbers or dates.
     struct LimitRow {
         const csv::Column* column = nullptr;
-        ColumnPlotItem* plot = nullptr; ///< owned by its record, as the following
+        const statistics::ColumnProfile* profile = nullptr;
+        ColumnPlotItem* plot = nullptr; ///< null for dates; owned by its record, as the following
+        ColumnHistogramItem* histogram = nullptr;
+        ColumnTargetItem* target = nullptr;
         ValueItem* inside = nullptr;
         statistics::Limits limits;
     };
 
     void AddColumns();
     void AddRow(const ColumnFile& file, std::size_t index);
-    void AddLimits(CXTPReportRecord& record, const csv::Column& column, const statistics::Summary& numbers);
-    void OnLimitsMoved(std::size_t index, float lower, float target, float upper);
-    void ShowShare(LimitRow& row);
-    void TellMove(std::size_t index, ColumnPlotItem::Mark mark, double value);
+    void AddPlots(CXTPReportRecord& record, const ColumnFile& file, std::size_t index);
+    void AddLimits(CXTPReportRecord& record, LimitRow row);
+    template <class Plot>
+    void Connect(Plot& plot, std::size_t index);
+    void OnLimitsDragged(std::size_t index, float lower, float target, float upper);
+    void OnMarkMoved(std::size_t index, LimitMark mark, double value, const KyPlotRecordItem* dragged);
+    void TakeMoveBack();
+    static void ShowLimits(LimitRow& row, const statistics::Limits& limits, const KyPlotRecordItem* dragged);
     void SetUpPaintManager();
     void Tell(const CString& sentence);
 
     std::function<void(const CString&)> m_status;
     CString m_emptyText;
+    int m_rowHeight = 22;
     std::vector<LimitRow> m_limitRows;
+    std::size_t m_movedRow = 0; ///< the row in which a mark was moved last
 };

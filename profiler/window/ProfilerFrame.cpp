@@ -10,12 +10,16 @@
 
 #include <afxdlgs.h>
 
+#include <algorithm>
+
 namespace {
 
 constexpr wchar_t kTitle[] = L"Column Profiler";
 constexpr wchar_t kVersion[] = L"0.1.0";
 constexpr wchar_t kWindowSection[] = L"Window";
-constexpr CSize kInitialSize(1200, 720); // pixels at 96 DPI
+constexpr wchar_t kRowHeightEntry[] = L"RowHeight";
+constexpr int kRowHeights[] = {22, 34, 48}; // pixels at 96 DPI, as the menu has them
+constexpr CSize kInitialSize(1200, 720);    // pixels at 96 DPI
 
 /// Posted when the reading thread has come to its end.
 constexpr UINT kFileRead = WM_APP + 1;
@@ -64,12 +68,14 @@ BEGIN_MESSAGE_MAP(ProfilerFrame, CFrameWnd)
     ON_COMMAND(ID_FILE_STOP, &ProfilerFrame::OnFileStop)
     ON_COMMAND(ID_VIEW_MESSAGES, &ProfilerFrame::OnViewMessages)
     ON_COMMAND_RANGE(ID_VIEW_THEME_FIRST, ID_VIEW_THEME_LAST, &ProfilerFrame::OnViewTheme)
+    ON_COMMAND_RANGE(ID_VIEW_ROW_HEIGHT_FIRST, ID_VIEW_ROW_HEIGHT_LAST, &ProfilerFrame::OnViewRowHeight)
     ON_COMMAND(ID_HELP_KEYS, &ProfilerFrame::OnHelpKeys)
     ON_COMMAND(ID_APP_ABOUT, &ProfilerFrame::OnAppAbout)
     ON_UPDATE_COMMAND_UI(ID_FILE_RELOAD, &ProfilerFrame::OnUpdateFileReload)
     ON_UPDATE_COMMAND_UI(ID_FILE_STOP, &ProfilerFrame::OnUpdateFileStop)
     ON_UPDATE_COMMAND_UI(ID_VIEW_MESSAGES, &ProfilerFrame::OnUpdateViewMessages)
     ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_THEME_FIRST, ID_VIEW_THEME_LAST, &ProfilerFrame::OnUpdateViewTheme)
+    ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_ROW_HEIGHT_FIRST, ID_VIEW_ROW_HEIGHT_LAST, &ProfilerFrame::OnUpdateViewRowHeight)
 END_MESSAGE_MAP()
 
 ProfilerFrame::ProfilerFrame() : m_theme(static_cast<int>(Themes::GetProfileTheme())) {}
@@ -91,6 +97,9 @@ int ProfilerFrame::OnCreate(LPCREATESTRUCT create) {
     MakeMainMenu(menu);
     SetMenu(&menu);
     menu.Detach(); // the window destroys it
+    const int height = static_cast<int>(AfxGetApp()->GetProfileInt(kWindowSection, kRowHeightEntry, 0));
+    if (std::ranges::count(kRowHeights, height) > 0)
+        m_grid.SetRowHeight(height);
     if (!CreateStatusBar() || !m_grid.CreateGrid(this, AFX_IDW_PANE_FIRST) || !m_messages.CreateFor(this))
         return -1;
     m_grid.SetStatusListener([this](const CString& text) {
@@ -333,9 +342,16 @@ void ProfilerFrame::OnViewTheme(UINT id) {
     ShowStatus(TranslateFormat("Status bar", "Theme: %1%", ThemeName(m_theme).GetString()));
 }
 
+void ProfilerFrame::OnViewRowHeight(UINT id) {
+    const int height = kRowHeights[id - ID_VIEW_ROW_HEIGHT_FIRST];
+    m_grid.SetRowHeight(height);
+    AfxGetApp()->WriteProfileInt(kWindowSection, kRowHeightEntry, height);
+    ShowStatus(TranslateFormat("Status bar", "Rows are %1% pixels high.", height));
+}
+
 void ProfilerFrame::OnHelpKeys() {
-    const CString text = Translate("Drag an end of a bar: set a limit\n"
-                                   "Drag the gold mark: set the target\n"
+    const CString text = Translate("Drag an end of a bar or a red mark: set a limit\n"
+                                   "Drag a gold mark or a slider: set the target\n"
                                    "Esc: put the mark back, or stop reading\n\n"
                                    "Click a header: sort\n"
                                    "Shift+click: sort by several columns\n"
@@ -369,6 +385,10 @@ void ProfilerFrame::OnUpdateFileReload(CCmdUI* item) { item->Enable(m_file != nu
 void ProfilerFrame::OnUpdateFileStop(CCmdUI* item) { item->Enable(IsReading()); }
 
 void ProfilerFrame::OnUpdateViewMessages(CCmdUI* item) { item->SetCheck(m_messages.IsWindowVisible() ? 1 : 0); }
+
+void ProfilerFrame::OnUpdateViewRowHeight(CCmdUI* item) {
+    item->SetRadio(kRowHeights[item->m_nID - ID_VIEW_ROW_HEIGHT_FIRST] == m_grid.RowHeight());
+}
 
 void ProfilerFrame::OnUpdateViewTheme(CCmdUI* item) {
     item->SetRadio(static_cast<int>(item->m_nID - ID_VIEW_THEME_FIRST) == m_theme);

@@ -42,12 +42,14 @@ protected:
     void OnFileStop();
     void OnViewMessages();
     void OnViewTheme(UINT id);
+    void OnViewRowHeight(UINT id);
     void OnHelpKeys();
     void OnAppAbout();
     void OnUpdateFileReload(CCmdUI* item);
     void OnUpdateFileStop(CCmdUI* item);
     void OnUpdateViewMessages(CCmdUI* item);
     void OnUpdateViewTheme(CCmdUI* item);
+    void OnUpdateViewRowHeight(CCmdUI* item);
     DECLARE_MESSAGE_MAP()
 
 private:

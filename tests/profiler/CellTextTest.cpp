@@ -112,4 +112,16 @@ TEST(CellText, NoDates) {
         EXPECT_FALSE(csv::IsDate(text)) << text;
 }
 
+TEST(CellText, DatesAreDaysSinceTheBeginningOf1970) {
+    EXPECT_EQ(csv::ReadDate("1970-01-01"), 0.0);
+    EXPECT_EQ(csv::ReadDate("1969-12-31"), -1.0);
+    EXPECT_EQ(csv::ReadDate(" 2012-01-01 "), 15340.0);
+    EXPECT_EQ(csv::ReadDate("1970-01-02 06:00"), 1.25);
+    EXPECT_DOUBLE_EQ(csv::ReadDate("1970-01-01T00:00:59.5Z").value(), 59.5 / 86400);
+    EXPECT_EQ(csv::ReadDate("1970-01-01 12:00+09:00"), 0.5); // as it is written, whatever the zone
+    EXPECT_EQ(csv::ReadDate("1970-01-01 24:00"), 1.0);
+    EXPECT_EQ(csv::ReadDate("1970-02-30"), std::nullopt);
+    EXPECT_EQ(csv::ReadDate("12"), std::nullopt);
+}
+
 } // namespace

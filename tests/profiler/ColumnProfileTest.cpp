@@ -84,7 +84,16 @@ TEST(ColumnProfile, OfThePenguins) {
                           197, 213, 225, 215});
     ExpectNumbers(table, {"Body Mass (g)", 342, 2, 2700, 4201.754385964912, 6300, 801.9545356980955, 3150, 3550, 4050,
                           4750, 5650, 231});
+    const ColumnProfile beak = statistics::Profile(Named(table, "Beak Length (mm)"), table.rows);
+    EXPECT_EQ(beak.histogram.counts, (std::vector<double>{7, 35, 48, 49, 35, 61, 42, 50, 10, 3, 2}));
+    EXPECT_EQ(beak.histogram.minimum, 32.1);
+    EXPECT_EQ(beak.histogram.maximum, 59.6);
+    EXPECT_TRUE(beak.frequent.empty());
     ExpectTexts(table, "Species", 344, 0, 3);
+    const ColumnProfile species = statistics::Profile(Named(table, "Species"), table.rows);
+    EXPECT_EQ(species.frequent,
+              (std::vector<statistics::FrequentText>{{"Adelie", 152}, {"Gentoo", 124}, {"Chinstrap", 68}}));
+    EXPECT_TRUE(species.histogram.counts.empty());
     ExpectTexts(table, "Island", 344, 0, 3);
     // "MALE", "FEMALE" and one "."; a dash counts as missing among numbers and dates only.
     ExpectTexts(table, "Sex", 334, 10, 3);
@@ -109,6 +118,16 @@ TEST(ColumnProfile, OfTheWeatherInSeattle) {
     EXPECT_EQ(date.distinct, 1461u);
     EXPECT_EQ(date.firstDate, "2012-01-01");
     EXPECT_EQ(date.lastDate, "2015-12-31");
+    EXPECT_EQ(date.daySummary.minimum, 15340);
+    EXPECT_EQ(date.daySummary.maximum, 16800);
+    EXPECT_EQ(date.daySummary.median, 16070);
+    ASSERT_EQ(date.days.size(), 1461u);
+    EXPECT_EQ(date.days[2], 15342);
+    EXPECT_EQ(&date.ValueSummary(), &date.daySummary);
+    EXPECT_EQ(statistics::ValuesOf(Named(table, "date"), date).data(), date.days.data());
+    // Every day once: 2 · 730 / cbrt(1461) = 128.7 days wide, 11.3 of them.
+    ASSERT_EQ(date.histogram.counts.size(), 12u);
+    EXPECT_NEAR(date.histogram.counts[5], 1461 / 12.0, 1);
 }
 
 TEST(ColumnProfile, OfAColumnWithoutValuesCountsItsRowsAsMissing) {

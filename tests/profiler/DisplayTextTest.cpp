@@ -3,10 +3,14 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include <limits>
 
 namespace {
 
+using statistics::DateDetail;
+using statistics::DateText;
 using statistics::NumberText;
 using statistics::ShareText;
 
@@ -47,5 +51,24 @@ TEST(DisplayText, OnlyAllIsAHundredAndOnlyNoneIsZero) {
 }
 
 TEST(DisplayText, NoShareIsNothing) { EXPECT_EQ(ShareText(std::nullopt), ""); }
+
+TEST(DisplayText, DaysAreIsoDates) {
+    EXPECT_EQ(DateText(0, DateDetail::Day), "1970-01-01");
+    EXPECT_EQ(DateText(15340.99, DateDetail::Day), "2012-01-01");
+    EXPECT_EQ(DateText(-0.25, DateDetail::Day), "1969-12-31");
+    EXPECT_EQ(DateText(15340, DateDetail::Minute), "2012-01-01 00:00");
+    EXPECT_EQ(DateText(15340 + (13 * 60 + 5) / 1440.0, DateDetail::Minute), "2012-01-01 13:05");
+    EXPECT_EQ(DateText(15340.99999, DateDetail::Minute), "2012-01-02 00:00"); // the nearest minute
+    EXPECT_EQ(DateText(-0.25, DateDetail::Minute), "1969-12-31 18:00");
+}
+
+TEST(DisplayText, DaysBeyondTheCalendarAreNothing) {
+    EXPECT_EQ(DateText(-719528, DateDetail::Day), "0000-01-01");
+    EXPECT_EQ(DateText(2932896.5, DateDetail::Minute), "9999-12-31 12:00");
+    for (const double days : {-719529.0, 2932897.0, 1e300, -1e300, std::nan(""), HUGE_VAL}) {
+        EXPECT_EQ(DateText(days, DateDetail::Day), "") << days;
+        EXPECT_EQ(DateText(days, DateDetail::Minute), "") << days;
+    }
+}
 
 } // namespace

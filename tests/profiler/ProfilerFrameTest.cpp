@@ -17,7 +17,19 @@ using testing::EndsWith;
 using testing::IsEmpty;
 
 /// Items of a record, as the columns stand from left to right.
-enum Item { NameItem, TypeItem, CountItem, MissingItem, MinimumItem, MeanItem, MaximumItem, PlotItem, InsideItem };
+enum Item {
+    NameItem,
+    TypeItem,
+    CountItem,
+    MissingItem,
+    MinimumItem,
+    MeanItem,
+    MaximumItem,
+    PlotItem,
+    HistogramItem,
+    TargetItem,
+    InsideItem
+};
 
 TEST_F(ProfilerFrameTest, WithoutAFileItSaysWhatToDo) {
     EXPECT_EQ(Title(), L"Column Profiler");
@@ -219,13 +231,13 @@ TEST_F(ProfilerFrameTest, AnotherMonitorScalesItAndComingBackChangesNothing) {
     };
     goTo(96);
     const std::vector<int> before = widths();
-    EXPECT_EQ(Grid().GetPaintManager()->GetRowHeight(), 24);
+    EXPECT_EQ(Grid().GetPaintManager()->GetRowHeight(), 22);
     goTo(144);
-    EXPECT_EQ(Grid().GetPaintManager()->GetRowHeight(), 36);
+    EXPECT_EQ(Grid().GetPaintManager()->GetRowHeight(), 33);
     for (std::size_t i = 0; i < before.size(); ++i)
         EXPECT_EQ(widths()[i], (before[i] * 3 + 1) / 2) << i;
     goTo(96);
-    EXPECT_EQ(Grid().GetPaintManager()->GetRowHeight(), 24);
+    EXPECT_EQ(Grid().GetPaintManager()->GetRowHeight(), 22);
     EXPECT_EQ(widths(), before);
     CRect now;
     Frame().GetWindowRect(&now);
@@ -277,7 +289,28 @@ protected:
         ASSERT_NE(plot, nullptr);
         plot->m_valueChanged(lower, target, upper);
     }
+
+    template <class Plot>
+    Plot& At(int item, int row = 0) {
+        return dynamic_cast<Plot&>(*Grid().GetRows()->GetAt(row)->GetRecord()->GetItem(item));
+    }
+    void Mouse(UINT message, CPoint point) {
+        Grid().SendMessage(message, message == WM_LBUTTONUP ? 0 : MK_LBUTTON, MAKELPARAM(point.x, point.y));
+    }
+    /// The point at a fraction of the cell's width.
+    CPoint PointAt(int item, double fraction, int row = 0) {
+        Grid().UpdateWindow();
+        CXTPReportRow* const shown = Grid().GetRows()->GetAt(row);
+        CRect rect = shown->GetItemRect(shown->GetRecord()->GetItem(item));
+        rect.DeflateRect(1, 1);
+        return CPoint(rect.left + static_cast<int>(rect.Width() * fraction + 0.5), rect.CenterPoint().y);
+    }
+    /// Where a value stands in a plot with the margin, on the scale from 1 to 10.
+    static double Place(double value, double margin) { return (value - 1) / 9 * (1 - 2 * margin) + margin; }
 };
+
+constexpr double kHistogramMargin = 0.06;
+constexpr double kTargetMargin = 0.08;
 
 TEST_F(LimitsTest, BeginAtTheMeanPlusAndMinusTheStandardDeviation) {
     EXPECT_EQ(Cell(0, InsideItem), L"60.0 %"); // 5.5 - 3.03 to 5.5 + 3.03 holds 3 to 8
@@ -304,6 +337,125 @@ TEST_F(LimitsTest, ReloadingPutsThemBack) {
     Command(ID_FILE_RELOAD);
     WaitUntilRead();
     EXPECT_EQ(Cell(0, InsideItem), L"60.0 %");
+}
+
+TEST_F(LimitsTest, TheHistogramsMarksAreTheSameLimits) {
+    const auto& histogram = At<ColumnHistogramItem>(HistogramItem);
+    EXPECT_EQ(histogram.GetMin(), 1); // and stay, unlike those of other histograms
+    EXPECT_EQ(histogram.GetMax(), 10);
+    EXPECT_EQ(histogram.GetTarget(), 5.5);
+    Dragged(-99.0f, 7.0f, -99.0f);
+    EXPECT_EQ(histogram.GetTarget(), 7);
+    EXPECT_EQ(At<ColumnTargetItem>(TargetItem).GetTarget(), 7);
+    EXPECT_EQ(histogram.GetMin(), 1);
+}
+
+TEST_F(LimitsTest, TheShareFollowsAHistogramsMarkWhileItIsDragged) {
+    Mouse(WM_LBUTTONDOWN, PointAt(HistogramItem, Place(2.4723, kHistogramMargin)));
+    Mouse(WM_MOUSEMOVE, PointAt(HistogramItem, Place(4.4, kHistogramMargin)));
+    EXPECT_EQ(Cell(0, InsideItem), L"40.0 %"); // 5 to 8
+    EXPECT_THAT(Status(), testing::StartsWith(L"n: lower limit at 4."));
+    Mouse(WM_LBUTTONUP, PointAt(HistogramItem, Place(3.5, kHistogramMargin)));
+    EXPECT_EQ(Cell(0, InsideItem), L"50.0 %"); // 4 to 8
+    Mouse(WM_LBUTTONDOWN, PointAt(HistogramItem, Place(8.5276, kHistogramMargin)));
+    Mouse(WM_MOUSEMOVE, PointAt(HistogramItem, Place(9.5, kHistogramMargin)));
+    Mouse(WM_LBUTTONUP, PointAt(HistogramItem, Place(9.5, kHistogramMargin)));
+    EXPECT_EQ(Cell(0, InsideItem), L"60.0 %"); // 4 to 9
+}
+
+TEST_F(LimitsTest, EscapeDuringAHistogramsDragPutsEverythingBack) {
+    Mouse(WM_LBUTTONDOWN, PointAt(HistogramItem, Place(5.5, kHistogramMargin)));
+    Mouse(WM_MOUSEMOVE, PointAt(HistogramItem, Place(9.8, kHistogramMargin)));
+    EXPECT_EQ(Cell(0, InsideItem), L"70.0 %"); // the upper limit goes along: 3 to 9
+    EXPECT_NEAR(At<ColumnTargetItem>(TargetItem).GetTarget(), 9.8, 0.1);
+    MSG escape{Grid().m_hWnd, WM_KEYDOWN, VK_ESCAPE, 0, 0, {}};
+    Grid().PreTranslateMessage(&escape);
+    EXPECT_EQ(Cell(0, InsideItem), L"60.0 %");
+    EXPECT_EQ(At<ColumnTargetItem>(TargetItem).GetTarget(), 5.5);
+    EXPECT_EQ(At<ColumnPlotItem>(PlotItem).GetTarget(), 5.5);
+    Mouse(WM_LBUTTONUP, PointAt(HistogramItem, 0.9));
+    EXPECT_EQ(Cell(0, InsideItem), L"60.0 %");
+}
+
+TEST_F(LimitsTest, TheSliderDragsTheTargetOfAllPlots) {
+    Mouse(WM_LBUTTONDOWN, PointAt(TargetItem, Place(5.5, kTargetMargin)));
+    Mouse(WM_MOUSEMOVE, PointAt(TargetItem, Place(9.6, kTargetMargin)));
+    EXPECT_NEAR(At<ColumnHistogramItem>(HistogramItem).GetTarget(), 9.6, 0.1);
+    EXPECT_EQ(Cell(0, InsideItem), L"70.0 %"); // the upper limit goes along: 3 to 9
+    Mouse(WM_LBUTTONUP, PointAt(TargetItem, Place(7, kTargetMargin)));
+    EXPECT_NEAR(At<ColumnPlotItem>(PlotItem).GetTarget(), 7, 0.1);
+    EXPECT_NEAR(At<ColumnHistogramItem>(HistogramItem).GetTarget(), 7, 0.1);
+    EXPECT_EQ(Cell(0, InsideItem), L"60.0 %"); // it was pushed for as long as the target stood there
+}
+
+TEST_F(LimitsTest, AClickBesideTheHandleSetsTheTarget) {
+    Mouse(WM_LBUTTONDOWN, PointAt(TargetItem, Place(1.9, kTargetMargin)));
+    Mouse(WM_LBUTTONUP, PointAt(TargetItem, Place(1.9, kTargetMargin)));
+    EXPECT_NEAR(At<ColumnPlotItem>(PlotItem).GetTarget(), 1.9, 0.1);
+    EXPECT_THAT(Status(), testing::StartsWith(L"n: 70.0 % of the values lie from ")); // 2 to 8
+}
+
+TEST_F(LimitsTest, TipsTellTheBinUnderThePointer) {
+    // 10 values: quartiles 3.25 and 7.75, bins 2 · 4.5 / cbrt(10) = 4.18 wide, 3 of them: 1 to 4 to 7 to 10.
+    auto& histogram = At<ColumnHistogramItem>(HistogramItem);
+    const auto tipAt = [&](double value) {
+        histogram.OnMouseMove(0, PointAt(HistogramItem, Place(value, kHistogramMargin)), nullptr);
+        return std::wstring(histogram.GetInfoTip());
+    };
+    EXPECT_EQ(tipAt(1.1), L"1 to 4: 3");
+    EXPECT_EQ(tipAt(5.5), L"4 to 7: 3");
+    EXPECT_EQ(tipAt(9.9), L"7 to 10: 4");
+    EXPECT_EQ(tipAt(0.5), L"");
+}
+
+TEST_F(LimitsTest, DatesHaveLimitsToo) {
+    OpenShipped(L"seattle-weather.csv");
+    EXPECT_EQ(Cell(0, InsideItem), L"57.7 %");
+    auto& histogram = At<ColumnHistogramItem>(HistogramItem);
+    EXPECT_EQ(histogram.GetMin(), 15340);
+    EXPECT_EQ(histogram.GetMax(), 16800);
+    Grid().UpdateWindow();
+    histogram.m_valueChanged(16071.0f, -99.0f, -99.0f);
+    EXPECT_EQ(Status(), L"date: 28.9 % of the values lie from 2013-12-31 to 2015-02-25.");
+    histogram.OnMouseMove(0, PointAt(HistogramItem, 0.07), nullptr);
+    EXPECT_EQ(std::wstring(histogram.GetInfoTip()), L"2012-01-01 to 2012-05-01: 122");
+}
+
+TEST_F(LimitsTest, TextsShowHowOftenTheMostFrequentOnesCome) {
+    OpenShipped(L"penguins.csv");
+    auto& histogram = At<ColumnHistogramItem>(HistogramItem);
+    EXPECT_EQ(histogram.GetTarget(), -99);
+    EXPECT_EQ(histogram.GetMax(), 3);
+    for (const auto& [place, tip] :
+         {std::pair{0.1, L"Adelie: 152"}, std::pair{0.5, L"Gentoo: 124"}, std::pair{0.9, L"Chinstrap: 68"}}) {
+        histogram.OnMouseMove(0, PointAt(HistogramItem, place), nullptr);
+        EXPECT_EQ(std::wstring(histogram.GetInfoTip()), tip);
+    }
+    EXPECT_EQ(dynamic_cast<ColumnTargetItem*>(Grid().GetRows()->GetAt(0)->GetRecord()->GetItem(TargetItem)), nullptr);
+}
+
+// --- Row height ------------------------------------------------------------------------------------------------------
+
+TEST_F(ProfilerFrameTest, TheHeightOfRowsIsChosenAndKept) {
+    OpenShipped(L"penguins.csv");
+    EXPECT_NE(MenuState(1, ID_VIEW_ROW_HEIGHT_FIRST) & MF_CHECKED, 0u);
+    Command(ID_VIEW_ROW_HEIGHT_FIRST + 1);
+    EXPECT_EQ(Grid().GetPaintManager()->GetRowHeight(), 34);
+    EXPECT_EQ(Status(), L"Rows are 34 pixels high.");
+    Command(ID_VIEW_ROW_HEIGHT_LAST);
+    EXPECT_EQ(Grid().GetPaintManager()->GetRowHeight(), 48);
+    EXPECT_EQ(MenuState(1, ID_VIEW_ROW_HEIGHT_FIRST) & MF_CHECKED, 0u);
+    EXPECT_NE(MenuState(1, ID_VIEW_ROW_HEIGHT_LAST) & MF_CHECKED, 0u);
+    Command(ID_VIEW_THEME_FIRST + 3); // makes a paint manager of its own
+    EXPECT_EQ(Grid().GetPaintManager()->GetRowHeight(), 48);
+    Restart();
+    OpenShipped(L"penguins.csv");
+    EXPECT_EQ(Grid().GetPaintManager()->GetRowHeight(), 48);
+    const CRect row = Grid().GetRows()->GetAt(0)->GetRect();
+    EXPECT_EQ(Grid().GetRows()->GetAt(1)->GetRect().top - row.top, 48);
+    ProfilerTestApp::Get().WriteProfileInt(L"Window", L"RowHeight", 5); // none of the choices
+    Restart();
+    EXPECT_EQ(Grid().GetPaintManager()->GetRowHeight(), 22);
 }
 
 // --- Themes, layout, language ----------------------------------------------------------------------------------------

@@ -163,6 +163,45 @@ drag_each_mark() {
     expect_share 3 "a target between the limits leaves the share"
 }
 
+# The same limits in the histogram, the target also as a slider.
+drag_in_other_plots() {
+    local y x
+    y=$(plot_row 3)
+    x=$(plot_find "$y" "$plot_scale" first "$plot_right" "$plot_histogram_right")
+    x_move "$x" "$y"
+    x_press
+    x_glide "$x" "$y" $((x + 12)) "$y"
+    expect status "Beak Length \\(mm\\): lower limit at $number\\. Escape cancels\\." "a histogram's mark tells its value"
+    x_release
+    expect_share 3 "the share follows the mark in the histogram"
+    expect_value "$(plot_find "$y" "$plot_bar" first)" "$y" 32.1 59.6 "$lower" "the bar begins at the same limit"
+    x=$(plot_find "$y" "$plot_target" first)
+    x_click $((plot_histogram_right + 20)) "$y"
+    expect_share 3 "a click beside the slider's handle sets the target"
+    expect_order "$lower" 36.3 "a target below it takes the lower limit along"
+    if [ "$(plot_find "$y" "$plot_target" first)" -lt $((x - 20)) ]; then
+        echo "ok: the gold mark follows the slider"
+    else
+        fail "the gold mark follows the slider"
+    fi
+}
+
+choose_the_row_height() {
+    local y
+    grid_picture low
+    x_key alt+v r h
+    expect status 'Rows are 48 pixels high\.' "the menu makes rows higher"
+    y=$((67 + 2 * 48 + 40))
+    if plot_find "$y" "$plot_target" first >/dev/null; then
+        echo "ok: the plots use the room"
+    else
+        fail "the plots use the room"
+    fi
+    x_key alt+v r l
+    grid_picture low_again
+    if same_picture low low_again; then echo "ok: and lower again"; else fail "and lower again"; fi
+}
+
 drag_against_the_wall() {
     local y target
     y=$(plot_row 4)
@@ -253,12 +292,14 @@ start "$(ky_windows_path "$data")"
 expect title 'penguins\.csv – Column Profiler' "the title names the file"
 expect status 'penguins\.csv is open\.' "the status bar says that the file is open"
 drag_each_mark
+drag_in_other_plots
 drag_against_the_wall
 leave_and_cancel
 release_elsewhere
 x_key F5
 expect status 'penguins\.csv is open\.' "F5 reads the file again"
 grid_picture fresh
+choose_the_row_height
 change_the_layout
 if same_picture fresh default; then echo "ok: limits begin anew"; else fail "limits begin anew"; fi
 x_close

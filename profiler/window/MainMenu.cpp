@@ -27,8 +27,18 @@ void AppendFileMenu(CMenu& bar) {
     file.AppendMenu(MF_STRING, ID_FILE_RELOAD, Translate("Menu", "&Reload\tF5"));
     file.AppendMenu(MF_STRING, ID_FILE_STOP, Translate("Menu", "&Stop reading\tEsc"));
     file.AppendMenu(MF_SEPARATOR);
+    file.AppendMenu(MF_STRING, ID_FILE_EXPORT_HTML, Translate("Menu", "&Export as HTML...\tCtrl+E"));
+    file.AppendMenu(MF_STRING, ID_FILE_VIEW_IN_BROWSER, Translate("Menu", "Open in &browser\tCtrl+B"));
+    file.AppendMenu(MF_SEPARATOR);
     file.AppendMenu(MF_STRING, ID_APP_EXIT, Translate("Menu", "E&xit\tAlt+F4"));
     AppendPopup(bar, file, Translate("Menu", "&File"));
+}
+
+void AppendEditMenu(CMenu& bar) {
+    CMenu edit;
+    edit.CreatePopupMenu();
+    edit.AppendMenu(MF_STRING, ID_EDIT_COPY_GRID, Translate("Menu", "Copy to the &clipboard\tCtrl+Shift+C"));
+    AppendPopup(bar, edit, Translate("Menu", "&Edit"));
 }
 
 void AppendViewMenu(CMenu& bar) {
@@ -65,6 +75,7 @@ void AppendHelpMenu(CMenu& bar) {
 void MakeMainMenu(CMenu& bar) {
     bar.CreateMenu();
     AppendFileMenu(bar);
+    AppendEditMenu(bar);
     AppendViewMenu(bar);
     AppendHelpMenu(bar);
 }
@@ -81,6 +92,12 @@ CString CommandDescription(UINT command) {
         return Translate("Reads the file again. Dragged limits go back to where they began.");
     case ID_FILE_STOP:
         return Translate("Gives up reading the file. The one that is open stays.");
+    case ID_FILE_EXPORT_HTML:
+        return Translate("Writes the table as an HTML page, with the plots as pictures in a folder beside it.");
+    case ID_FILE_VIEW_IN_BROWSER:
+        return Translate("Shows the table as a page in the browser, from where it can be printed.");
+    case ID_EDIT_COPY_GRID:
+        return Translate("Copies the whole table for word processors and spreadsheets, with the plots as pictures.");
     case ID_APP_EXIT:
         return Translate("Ends the program and keeps the layout of the grid.");
     case ID_VIEW_MESSAGES:

@@ -3,6 +3,7 @@
 
 #include "common/Translation.h"
 #include "statistics/ProfileTable.h"
+#include "window/HtmlExport.h"
 #include "window/ProfilerFrame.h"
 #include "window/WideText.h"
 
@@ -63,6 +64,35 @@ void TellError(const CString& sentence) {
     ::WriteFile(::GetStdHandle(STD_ERROR_HANDLE), line.data(), static_cast<DWORD>(line.size()), &written, nullptr);
 }
 
+bool IsHtml(const std::filesystem::path& path) {
+    const CString extension(path.extension().c_str());
+    return extension.CompareNoCase(L".html") == 0 || extension.CompareNoCase(L".htm") == 0;
+}
+
+bool WriteTable(const ColumnFile& from, const std::filesystem::path& path) {
+    std::ofstream file(path, std::ios::binary);
+    file << statistics::ProfileTable(from.profiles);
+    file.close();
+    return !file.fail();
+}
+
+/// Plots are drawn by the grid, in a window that is never shown.
+bool WritePage(const ColumnFile& from, const std::filesystem::path& path) {
+    CWnd owner;
+    if (!owner.CreateEx(0, AfxRegisterWndClass(0), L"", WS_POPUP, CRect(0, 0, 0, 0), nullptr, 0))
+        return false;
+    bool isWritten = false;
+    {
+        ProfileGrid grid;
+        if (grid.CreateGrid(&owner, AFX_IDW_PANE_FIRST)) {
+            grid.Show(&from);
+            isWritten = ExportHtml(grid, from.path.filename().c_str(), path);
+        }
+    }
+    owner.DestroyWindow();
+    return isWritten;
+}
+
 } // namespace
 
 ProfilerApp::ProfilerApp() : CWinApp(L"Column Profiler") {}
@@ -98,7 +128,7 @@ int ProfilerApp::ExitInstance() {
 
 bool ProfilerApp::Export(const CString& from, const CString& to) {
     if (from.IsEmpty()) {
-        TellError(Translate("There is no file to profile: profiler --export OUT.csv FILE.csv"));
+        TellError(Translate("There is no file to profile: profiler --export OUT.html FILE.csv"));
         return false;
     }
     const ColumnFileResult result = ReadColumnFile(from.GetString(), ToUtf8(Translate("Column %1%")));
@@ -109,12 +139,10 @@ bool ProfilerApp::Export(const CString& from, const CString& to) {
     for (const csv::Message& warning : result.file->warnings)
         TellError(Sentence(warning));
     const std::filesystem::path path(to.GetString());
-    std::ofstream file(path, std::ios::binary);
-    file << statistics::ProfileTable(result.file->profiles);
-    file.close();
-    if (file.fail())
+    const bool isWritten = IsHtml(path) ? WritePage(*result.file, path) : WriteTable(*result.file, path);
+    if (!isWritten)
         TellError(TranslateFormat("Export", "%1% cannot be written.", to.GetString()));
-    return !file.fail();
+    return isWritten;
 }
 
 void ProfilerApp::UseIniFile(const CString& path) {

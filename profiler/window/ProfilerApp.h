@@ -3,9 +3,10 @@
 
 #include <afxwin.h>
 
-/// Column Profiler: profiler [--ini FILE] [--language CODE] [--export OUT.csv] [FILE.csv]
+/// Column Profiler: profiler [--ini FILE] [--language CODE] [--export OUT.csv|OUT.html] [FILE.csv]
 ///
-/// With --export the program writes the file's statistics to OUT.csv, shows no window, and ends with exit code 0, or
+/// With --export the program writes the file's statistics to OUT.csv, or the table with its plots as a page to OUT.html
+/// (by the name's ending; .htm is as good), shows no window, and ends with exit code 0, or
 /// with 1 after a sentence to the standard error stream.
 ///
 /// The layout of the grid and the place of the window are kept in the registry, or in the INI file that --ini names.

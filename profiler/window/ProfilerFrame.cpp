@@ -66,6 +66,9 @@ BEGIN_MESSAGE_MAP(ProfilerFrame, CFrameWnd)
     ON_COMMAND(ID_FILE_OPEN, &ProfilerFrame::OnFileOpen)
     ON_COMMAND(ID_FILE_RELOAD, &ProfilerFrame::OnFileReload)
     ON_COMMAND(ID_FILE_STOP, &ProfilerFrame::OnFileStop)
+    ON_COMMAND(ID_FILE_EXPORT_HTML, &ProfilerFrame::OnFileExportHtml)
+    ON_COMMAND(ID_FILE_VIEW_IN_BROWSER, &ProfilerFrame::OnFileViewInBrowser)
+    ON_COMMAND(ID_EDIT_COPY_GRID, &ProfilerFrame::OnEditCopyGrid)
     ON_COMMAND(ID_VIEW_MESSAGES, &ProfilerFrame::OnViewMessages)
     ON_COMMAND_RANGE(ID_VIEW_THEME_FIRST, ID_VIEW_THEME_LAST, &ProfilerFrame::OnViewTheme)
     ON_COMMAND_RANGE(ID_VIEW_ROW_HEIGHT_FIRST, ID_VIEW_ROW_HEIGHT_LAST, &ProfilerFrame::OnViewRowHeight)
@@ -73,6 +76,9 @@ BEGIN_MESSAGE_MAP(ProfilerFrame, CFrameWnd)
     ON_COMMAND(ID_APP_ABOUT, &ProfilerFrame::OnAppAbout)
     ON_UPDATE_COMMAND_UI(ID_FILE_RELOAD, &ProfilerFrame::OnUpdateFileReload)
     ON_UPDATE_COMMAND_UI(ID_FILE_STOP, &ProfilerFrame::OnUpdateFileStop)
+    ON_UPDATE_COMMAND_UI(ID_FILE_EXPORT_HTML, &ProfilerFrame::OnUpdateExport)
+    ON_UPDATE_COMMAND_UI(ID_FILE_VIEW_IN_BROWSER, &ProfilerFrame::OnUpdateExport)
+    ON_UPDATE_COMMAND_UI(ID_EDIT_COPY_GRID, &ProfilerFrame::OnUpdateExport)
     ON_UPDATE_COMMAND_UI(ID_VIEW_MESSAGES, &ProfilerFrame::OnUpdateViewMessages)
     ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_THEME_FIRST, ID_VIEW_THEME_LAST, &ProfilerFrame::OnUpdateViewTheme)
     ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_ROW_HEIGHT_FIRST, ID_VIEW_ROW_HEIGHT_LAST, &ProfilerFrame::OnUpdateViewRowHeight)
@@ -367,6 +373,8 @@ void ProfilerFrame::OnHelpKeys() {
                                    "Alt+Down: choose columns\n"
                                    "Ctrl+F1: tip of the cell\n\n"
                                    "Ctrl+O: open a file\n"
+                                   "Ctrl+E: export as HTML, Ctrl+B: open in the browser\n"
+                                   "Ctrl+Shift+C: copy the table, Ctrl+C: copy the row\n"
                                    "F5: read the file again\n"
                                    "Ctrl+M: messages about the file\n"
                                    "F1: this list");

@@ -40,6 +40,9 @@ protected:
     void OnFileOpen();
     void OnFileReload();
     void OnFileStop();
+    void OnFileExportHtml();
+    void OnFileViewInBrowser();
+    void OnEditCopyGrid();
     void OnViewMessages();
     void OnViewTheme(UINT id);
     void OnViewRowHeight(UINT id);
@@ -47,6 +50,7 @@ protected:
     void OnAppAbout();
     void OnUpdateFileReload(CCmdUI* item);
     void OnUpdateFileStop(CCmdUI* item);
+    void OnUpdateExport(CCmdUI* item);
     void OnUpdateViewMessages(CCmdUI* item);
     void OnUpdateViewTheme(CCmdUI* item);
     void OnUpdateViewRowHeight(CCmdUI* item);

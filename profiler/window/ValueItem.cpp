@@ -8,9 +8,11 @@
 
 ValueItem::ValueItem(double number) : ValueItem(FromUtf8(statistics::NumberText(number)), number) {}
 
-ValueItem::ValueItem(LPCTSTR text, double number) : CXTPReportRecordItemText(text), m_number(number) {}
+ValueItem::ValueItem(LPCTSTR text, double number) : CXTPReportRecordItemText(text), m_number(number) {
+    SetAlignment(DT_RIGHT); // as its column, and also where there is none: in an exported page
+}
 
-ValueItem::ValueItem(LPCTSTR text) : CXTPReportRecordItemText(text) {}
+ValueItem::ValueItem(LPCTSTR text) : ValueItem(text, std::numeric_limits<double>::quiet_NaN()) {}
 
 void ValueItem::Set(LPCTSTR text, double number) {
     SetValue(text);

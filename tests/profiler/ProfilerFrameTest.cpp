@@ -119,9 +119,9 @@ TEST_F(ProfilerFrameTest, TheMessagesHaveTheirColoursAlsoWithoutADeviceContext) 
 
 TEST_F(ProfilerFrameTest, MessagesCanBeLookedAtAndHidden) {
     Open(Write(L"odd.csv", "a,b\n1,2\n3\n"));
-    EXPECT_EQ(MenuState(1, ID_VIEW_MESSAGES) & MF_CHECKED, 0u);
+    EXPECT_EQ(MenuState(2, ID_VIEW_MESSAGES) & MF_CHECKED, 0u);
     Command(ID_VIEW_MESSAGES);
-    EXPECT_NE(MenuState(1, ID_VIEW_MESSAGES) & MF_CHECKED, 0u);
+    EXPECT_NE(MenuState(2, ID_VIEW_MESSAGES) & MF_CHECKED, 0u);
     HWND window = ::FindWindow(nullptr, L"Messages about odd.csv");
     ASSERT_NE(window, nullptr);
     CString text;
@@ -461,12 +461,12 @@ TEST_F(ProfilerFrameTest, TheHeightOfRowsIsChosenAndKept) {
 // --- Themes, layout, language ----------------------------------------------------------------------------------------
 
 TEST_F(ProfilerFrameTest, AThemeChangesTheGridAndKeepsItsTexts) {
-    EXPECT_NE(MenuState(1, ID_VIEW_THEME_FIRST + 11) & MF_CHECKED, 0u);
+    EXPECT_NE(MenuState(2, ID_VIEW_THEME_FIRST + 11) & MF_CHECKED, 0u);
     Command(ID_VIEW_THEME_FIRST + 10);
     EXPECT_EQ(Grid().GetPaintManager()->GetTheme(), xtpReportThemeOffice2013);
     EXPECT_STREQ(Grid().GetPaintManager()->GetNoItemText(), L"Open a CSV file (Ctrl+O) or drop one here.");
-    EXPECT_EQ(MenuState(1, ID_VIEW_THEME_FIRST + 11) & MF_CHECKED, 0u);
-    EXPECT_NE(MenuState(1, ID_VIEW_THEME_FIRST + 10) & MF_CHECKED, 0u);
+    EXPECT_EQ(MenuState(2, ID_VIEW_THEME_FIRST + 11) & MF_CHECKED, 0u);
+    EXPECT_NE(MenuState(2, ID_VIEW_THEME_FIRST + 10) & MF_CHECKED, 0u);
     EXPECT_EQ(Status(), L"Theme: Office 2013");
 }
 

@@ -338,6 +338,38 @@ x_key Return
 expect status '.* is a folder\. Choose a CSV file in it\.' "and the program goes on"
 x_close
 
+# The clipboard, as a program on the X side has it, and the page that the browser is given.
+mkdir -p "$x_out/bin"
+printf '#!/bin/sh\nprintf "%%s\\n" "$@" >"%s/browser.txt"\n' "$x_out" >"$x_out/bin/xdg-open"
+chmod +x "$x_out/bin/xdg-open"
+rm -f "$x_out/browser.txt"
+PATH=$x_out/bin:$PATH start "$(ky_windows_path "$data")"
+x_key ctrl+shift+c
+expect status 'The table is on the clipboard\.' "the table can be copied"
+xclip -selection clipboard -t text/html -o >"$x_out/clipboard.html" || true
+if [ "$(head -c 63 "$x_out/clipboard.html")" = '<!DOCTYPE html PUBLIC "-//W3C//DTD XHTML 1.0 Strict//EN" "http:' ] &&
+    [ "$(tail -n 1 "$x_out/clipboard.html" | tail -c 24)" = '</table></body> </html>' ]; then
+    echo "ok: the clipboard holds the document between the markers, and nothing else"
+else
+    fail "the clipboard holds the document between the markers, and nothing else"
+fi
+x_key ctrl+b
+expect status 'The page is open in the browser\.' "the table can be opened in the browser"
+for ((i = 0; i < 30; i++)); do [ -s "$x_out/browser.txt" ] && break || sleep 0.1; done
+if grep -q 'profile\.html$' "$x_out/browser.txt"; then
+    echo "ok: the browser is given the page"
+else
+    fail "the browser is given the page"
+fi
+x_key alt+f
+x_key e
+sleep 1
+x_type "$(ky_windows_path "$x_out/saved.html")"
+rm -rf "$x_out/saved.html"
+x_key Return
+expect status '.*saved\.html is written\.' "the menu exports a page"
+x_close
+
 # Reading this takes more than a second, and Escape ends it.
 big=$x_out/big.csv
 { echo 'a,b,c,d' && yes '123.456789012,123.456789012,123.456789012,123.456789012'; } 2>/dev/null |
@@ -361,6 +393,21 @@ if wine "$program" --export "$(ky_windows_path "$exported")" "$(ky_windows_path 
     echo "ok: the statistics can be exported without a window"
 else
     fail "the statistics can be exported without a window"
+fi
+page=$x_out/exported.html
+rm -rf "$page" "$x_out/exported-plots"
+if wine "$program" --language en --export "$(ky_windows_path "$page")" "$(ky_windows_path "$data")" 9>&- &&
+    grep -q '<title>penguins\.csv</title>' "$page" && grep -q "<td style=''>Body Mass (g)</td>" "$page" &&
+    grep -q "<img src='exported-plots/plot_2_" "$page"; then
+    echo "ok: the table can be exported as a page without a window"
+else
+    fail "the table can be exported as a page without a window"
+fi
+sizes=$("$(ky_imagemagick identify)" -format '%m %wx%h\n' "$x_out"/exported-plots/*.bmp | sort -u)
+if [[ $sizes =~ ^BMP3?\ 400x22$ ]]; then
+    echo "ok: its plots are bitmaps of 400 x 22 pixels"
+else
+    fail "its plots are bitmaps of 400 x 22 pixels, not: $sizes"
 fi
 if wine "$program" --export "$(ky_windows_path "$exported")" no-such-file.csv 9>&- 2>"$x_out/export.log"; then
     fail "an export that fails says so with its exit code"

@@ -181,6 +181,7 @@ const void* SecondOf(First, Second second, Rest...) {
 decltype(&::RegCreateKeyExW) regCreateKey;
 decltype(&::RegOpenKeyExW) regOpenKey;
 decltype(&::GlobalReAlloc) globalReAlloc;
+decltype(&::SetClipboardData) setClipboardData;
 decltype(&::BeginPaint) beginPaint;
 decltype(&::EndPaint) endPaint;
 decltype(&::WriteFile) writeFile;
@@ -221,6 +222,18 @@ HGLOBAL WINAPI GlobalReAllocThunk(HGLOBAL block, SIZE_T size, UINT flags) {
         handles.Add(Kind::Global, grown);
     }
     return grown;
+}
+
+/// What the clipboard takes is its own from then on.
+HANDLE WINAPI SetClipboardDataThunk(UINT format, HANDLE block) {
+    if (MustFail("SetClipboardData")) {
+        ::SetLastError(ERROR_NOT_ENOUGH_MEMORY);
+        return nullptr;
+    }
+    const HANDLE taken = setClipboardData(format, block);
+    if (taken != nullptr)
+        handles.Remove(Kind::Global, block);
+    return taken;
 }
 
 HDC WINAPI BeginPaintThunk(HWND window, LPPAINTSTRUCT paint) {
@@ -309,6 +322,7 @@ const Entry systemEntries[] = {
     {"RegCreateKeyExW", reinterpret_cast<void*>(&RegCreateKeyExThunk), reinterpret_cast<void**>(&regCreateKey)},
     {"RegOpenKeyExW", reinterpret_cast<void*>(&RegOpenKeyExThunk), reinterpret_cast<void**>(&regOpenKey)},
     {"GlobalReAlloc", reinterpret_cast<void*>(&GlobalReAllocThunk), reinterpret_cast<void**>(&globalReAlloc)},
+    {"SetClipboardData", reinterpret_cast<void*>(&SetClipboardDataThunk), reinterpret_cast<void**>(&setClipboardData)},
     {"BeginPaint", reinterpret_cast<void*>(&BeginPaintThunk), reinterpret_cast<void**>(&beginPaint)},
     {"EndPaint", reinterpret_cast<void*>(&EndPaintThunk), reinterpret_cast<void**>(&endPaint)},
     {"WriteFile", reinterpret_cast<void*>(&WriteFileThunk), reinterpret_cast<void**>(&writeFile)},

@@ -3,6 +3,8 @@
 
 #include "window/ProfilerFrame.h"
 
+#include <reportgrid/KyReportControlHelpers.h>
+
 #include <iostream>
 
 namespace {
@@ -46,6 +48,18 @@ TEST(Leaks, SavingBitmaps) {
     ExpectNoGrowth("bitmaps saved", Repetitions(2000, 30),
                    [&](int i) { rig.Bar(i % 8).SaveAs(*rig.grid, path, 400, 22); });
     ::DeleteFileW(path);
+}
+
+TEST(Leaks, ExportingAndCopying) {
+    GridRig rig;
+    wchar_t folder[MAX_PATH] = L"";
+    ::GetTempPathW(MAX_PATH, folder);
+    const CString prefix = CString(folder) + L"robustness";
+    ExpectNoGrowth("exports and copies", Repetitions(500, 10), [&](int) {
+        KyReportControlHelpers::SaveAsHtml(*rig.grid, prefix);
+        KyReportControlHelpers::CopyToClipboard(*rig.grid, prefix);
+    });
+    RemovePictures(prefix.GetString());
 }
 
 TEST(Leaks, LifetimesOfAGrid) {

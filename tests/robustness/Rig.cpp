@@ -127,6 +127,18 @@ void BecomeIdle() {
 
 // --- The grid --------------------------------------------------------------------------------------------------------
 
+void RemovePictures(const std::wstring& prefix) {
+    WIN32_FIND_DATAW found;
+    const HANDLE search = ::FindFirstFileW((prefix + L"_*.bmp").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE)
+        return;
+    const std::wstring folder = prefix.substr(0, prefix.find_last_of(L"\\/") + 1);
+    do
+        ::DeleteFileW((folder + found.cFileName).c_str());
+    while (::FindNextFileW(search, &found));
+    ::FindClose(search);
+}
+
 GridRig::GridRig(bool visible) : m_visible(visible) {
     ::SetCursorPos(5, 5); // no window of the test is there
     Create();

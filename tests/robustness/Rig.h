@@ -50,6 +50,9 @@ private:
 /// What a program does when it is idle: messages are dispatched, temporary objects go.
 void BecomeIdle();
 
+/// Removes the pictures that an export under that prefix has left.
+void RemovePictures(const std::wstring& prefix);
+
 /// A window with a grid: a text, a number and a plot column; eight records with bars of every shape, then two
 /// with histograms and one with a slider.
 class GridRig {

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that are missing, and only those; without any it neither asks for rights nor for a network.
-# packages.sh [fuzz|bench]: with the argument, also what only the tool of that name needs.
+# packages.sh [fuzz|bench|readers]: with the argument, also what only the tool of that name needs.
 set -euo pipefail
 # shellcheck source=tools/lib/common.sh
 . "$(dirname "${BASH_SOURCE[0]}")/../lib/common.sh"
@@ -28,6 +28,11 @@ if [ "${1:-}" = fuzz ]; then
 fi
 if [ "${1:-}" = bench ]; then
     groups+='programs that compute the same statistics, to compare with|20 s|datamash miller
+'
+fi
+
+if [ "${1:-}" = readers ]; then
+    groups+='programs that read what the export writes|2 min|python3 python3-html5lib python3-lxml chromium libreoffice-calc
 '
 fi
 

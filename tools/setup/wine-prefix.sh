@@ -65,6 +65,10 @@ Windows Registry Editor Version 5.00
 [HKEY_CURRENT_USER\\Software\\Wine\\DllOverrides]
 "winemenubuilder.exe"=""
 
+; Pages open in the browser of the machine. Wine says so only where it has a browser engine of its own.
+[HKEY_CLASSES_ROOT\\.html]
+@="htmlfile"
+
 ; Fonts: Debian's Liberation family has the widths of Arial, Times New Roman and Courier New, and stands in for
 ; Segoe UI; Wine's own Tahoma has the widths of Tahoma. tools/setup/fonts.conf keeps the machine's other fonts away.
 [HKEY_CURRENT_USER\\Software\\Wine\\Fonts\\Replacements]

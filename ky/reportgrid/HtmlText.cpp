@@ -69,31 +69,17 @@ std::string ToUtf8(std::u16string_view text) {
     return utf8;
 }
 
-std::string Escaped(std::string_view text) {
-    std::string escaped;
-    escaped.reserve(text.size());
-    for (const char c : text) {
-        switch (c) {
-        case '&':
-            escaped += "&amp;";
-            break;
-        case '"':
-            escaped += "&quot;";
-            break;
-        case '\'':
-            escaped += "&#39;";
-            break;
-        case '>':
-            escaped += "&gt;";
-            break;
-        case '<':
-            escaped += "&lt;";
-            break;
-        default:
-            escaped += c;
-        }
+void AppendEscaped(std::string& html, std::string_view text) {
+    constexpr std::string_view special = "&\"'><";
+    constexpr std::string_view entities[] = {"&amp;", "&quot;", "&#39;", "&gt;", "&lt;"};
+    while (true) {
+        const std::size_t at = text.find_first_of(special);
+        html += text.substr(0, at);
+        if (at == std::string_view::npos)
+            return;
+        html += entities[special.find(text[at])];
+        text.remove_prefix(at + 1);
     }
-    return escaped;
 }
 
 std::string ColorCode(std::uint32_t color) {
@@ -110,7 +96,7 @@ void AppendHeaderCell(std::string& html, std::string_view caption, Alignment ali
     AppendColor(html, "   <th style='background-color", 0xE6E6E6);
     html += alignment == 0 ? " text-align: left;" : alignment == 2 ? " text-align: right;" : " text-align: center;";
     html += "'>";
-    html += Escaped(caption);
+    AppendEscaped(html, caption);
     html += "</th>";
 }
 
@@ -128,7 +114,7 @@ void AppendTextCell(std::string& html, const TextCell& cell) {
     html += "'>";
     if (cell.isBold)
         html += "<strong>";
-    html += Escaped(cell.text);
+    AppendEscaped(html, cell.text);
     if (cell.isBold)
         html += "</strong>";
     html += "</td>";

@@ -15,8 +15,8 @@ constexpr std::uint32_t DefaultBackground = 0xFFFFFF;
 /// the text, and a high one with whatever other unit follows it.
 std::string ToUtf8(std::u16string_view text);
 
-/// The text with the five characters that mean something to HTML as entities: & " ' > <.
-std::string Escaped(std::string_view text);
+/// Adds the text with the five characters that mean something to HTML as entities: & " ' > <.
+void AppendEscaped(std::string& html, std::string_view text);
 
 /// Six digits for red, green and blue, of a COLORREF 0x00BBGGRR; the highest byte does not matter.
 std::string ColorCode(std::uint32_t color);

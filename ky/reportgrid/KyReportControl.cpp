@@ -119,9 +119,9 @@ void KyReportControl::OnColumnHeaderRClick(CPoint point) {
     CPoint screen = point;
     ClientToScreen(&screen);
     const WindowLife life(*this);
-    const int command = CXTPCommandBars::TrackPopupMenu(&menu, TPM_RIGHTBUTTON | TPM_NONOTIFY | TPM_RETURNCMD, screen.x,
-                                                        screen.y, this, nullptr, this,
-                                                        frame ? frame->GetCommandBars() : nullptr);
+    const int command =
+        CXTPCommandBars::TrackPopupMenu(&menu, TPM_RIGHTBUTTON | TPM_NONOTIFY | TPM_RETURNCMD, screen.x, screen.y, this,
+                                        nullptr, this, frame ? frame->GetCommandBars() : nullptr);
     if (!life.HasEnded()) // anything may happen while a menu is open
         RunColumnCommand(command);
 }

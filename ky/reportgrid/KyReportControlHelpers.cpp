@@ -6,9 +6,10 @@
 #include "ClipboardHtml.h"
 #include "HtmlText.h"
 
+#include <algorithm>
 #include <cstring>
-#include <memory>
 #include <new>
+#include <optional>
 
 namespace KyReportControlHelpers {
 namespace {
@@ -57,7 +58,7 @@ public:
         if (!m_items) {
             m_reader.OnBeforeExchange();
             const CXTPPropExchangeSection record(m_reader.GetSection(L"Record"));
-            m_items = std::make_unique<CXTPPropExchangeEnumeratorPtr>(record->GetEnumerator(L"Item"));
+            m_items.emplace(record->GetEnumerator(L"Item"));
             m_next = (*m_items)->GetPosition();
         }
         return (*m_items)->GetNext(m_next);
@@ -66,7 +67,7 @@ public:
 private:
     CXTPPropExchangeXMLNode m_writer{FALSE, nullptr, L"Settings"};
     CXTPPropExchangeXMLNode m_reader{TRUE, &m_writer, L"Settings"};
-    std::unique_ptr<CXTPPropExchangeEnumeratorPtr> m_items;
+    std::optional<CXTPPropExchangeEnumeratorPtr> m_items;
     POSITION m_next = nullptr;
 };
 
@@ -111,14 +112,28 @@ public:
         m_html = "<table>";
         WriteHeader();
         const CXTPReportRecords& records = *m_control.GetRecords();
-        for (int index = 0; index < records.GetCount(); ++index)
+        for (int index = 0; index < records.GetCount(); ++index) {
+            MakeRoom(index, records.GetCount());
             if (records.GetAt(index)->IsVisible())
                 WriteRecord(*records.GetAt(index), index);
+        }
         m_html += "</table>";
         return std::move(m_html);
     }
 
 private:
+    /// A large page gets room for all of it as soon as its size can be told from the records so far: growing by and by
+    /// would take the size of the page once more.
+    void MakeRoom(int written, int count) {
+        constexpr std::size_t large = 1 << 20, reserve = 1 << 16;
+        if (m_html.size() < large || m_html.capacity() - m_html.size() > reserve)
+            return;
+        const double whole = 1.02 * static_cast<double>(m_html.size()) * count / written;
+        const auto most =
+            static_cast<double>(64 * large + 4 * m_html.size()); // the first ones may be unlike the others
+        m_html.reserve(static_cast<std::size_t>(std::min(whole, most)) + 2 * reserve);
+    }
+
     void WriteHeader() {
         m_html += "   <tr>";
         const CXTPReportColumns& columns = *m_control.GetColumns();
@@ -183,10 +198,19 @@ private:
 
 // --- Clipboard -------------------------------------------------------------------------------------------------------
 
-/// Has the clipboard open as long as it lives.
+/// Has the clipboard open as long as it lives. Programs that listen to the clipboard open it for moments whenever it
+/// changes, so that it is worth while to ask again.
 class OpenedClipboard {
 public:
-    explicit OpenedClipboard(HWND owner) : m_isOpen(::OpenClipboard(owner) != FALSE) {}
+    explicit OpenedClipboard(HWND owner) {
+        constexpr int tries = 6;
+        constexpr DWORD pause = 20; // ms
+        for (int i = 0; i < tries && !m_isOpen; ++i) {
+            if (i > 0)
+                ::Sleep(pause);
+            m_isOpen = ::OpenClipboard(owner) != FALSE;
+        }
+    }
     ~OpenedClipboard() {
         if (m_isOpen)
             ::CloseClipboard();
@@ -196,7 +220,7 @@ public:
     bool IsOpen() const { return m_isOpen; }
 
 private:
-    bool m_isOpen;
+    bool m_isOpen = false;
 };
 
 UINT HtmlFormat() {

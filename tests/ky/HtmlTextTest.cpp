@@ -46,6 +46,12 @@ TEST(HtmlText, OfTwoHighSurrogatesTheSecondBeginsNoPair) {
 
 TEST(HtmlText, AHighSurrogateAtTheEndIsDropped) { EXPECT_EQ(ToUtf8(u"a\xD800"), "a"); }
 
+std::string Escaped(std::string_view text) {
+    std::string html = "|";
+    AppendEscaped(html, text);
+    return html.substr(1);
+}
+
 TEST(HtmlText, FiveCharactersBecomeEntities) {
     EXPECT_EQ(Escaped("a<b & \"c\" > 'd'"), "a&lt;b &amp; &quot;c&quot; &gt; &#39;d&#39;");
     EXPECT_EQ(Escaped("\t\n\\/;#"), "\t\n\\/;#");

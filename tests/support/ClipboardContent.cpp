@@ -14,7 +14,9 @@ class Opened {
 public:
     Opened() {
         m_window = ::CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
-        m_isOpen = ::OpenClipboard(m_window);
+        // The system's own clipboard manager opens it for moments.
+        for (int i = 0; i < 100 && !(m_isOpen = ::OpenClipboard(m_window)); ++i)
+            ::Sleep(10);
         EXPECT_TRUE(m_isOpen);
     }
     ~Opened() {

@@ -28,10 +28,19 @@ UINT RecordFormat() {
     return format;
 }
 
-/// Has the clipboard open as long as it lives.
+/// Has the clipboard open as long as it lives. Programs that listen to the clipboard open it for moments whenever it
+/// changes, so that it is worth while to ask again.
 class OpenedClipboard {
 public:
-    explicit OpenedClipboard(HWND owner) : m_isOpen(::OpenClipboard(owner) != FALSE) {}
+    explicit OpenedClipboard(HWND owner) {
+        constexpr int tries = 6;
+        constexpr DWORD pause = 20; // ms
+        for (int i = 0; i < tries && !m_isOpen; ++i) {
+            if (i > 0)
+                ::Sleep(pause);
+            m_isOpen = ::OpenClipboard(owner) != FALSE;
+        }
+    }
     ~OpenedClipboard() {
         if (m_isOpen)
             ::CloseClipboard();
@@ -41,7 +50,7 @@ public:
     bool IsOpen() const { return m_isOpen; }
 
 private:
-    bool m_isOpen;
+    bool m_isOpen = false;
 };
 
 /// Global memory, until the clipboard takes it.

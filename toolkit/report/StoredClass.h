@@ -3,10 +3,17 @@
 
 #include "../common/CXTPPropExchange.h"
 
+#include <algorithm>
+#include <cstring>
+
 namespace storedclass {
 
 inline void Write(CXTPPropExchange* section, const CObject& object) {
-    CString name(object.GetRuntimeClass()->m_lpszClassName);
+    const char* const plain = object.GetRuntimeClass()->m_lpszClassName; // ASCII, so that no code page is asked
+    CString name;
+    const int length = static_cast<int>(std::strlen(plain));
+    std::copy_n(plain, length, name.GetBufferSetLength(length));
+    name.ReleaseBuffer(length);
     PX_String(section, _T("ClassName"), name);
 }
 

@@ -438,14 +438,14 @@ TEST_F(LimitsTest, TextsShowHowOftenTheMostFrequentOnesCome) {
 
 TEST_F(ProfilerFrameTest, TheHeightOfRowsIsChosenAndKept) {
     OpenShipped(L"penguins.csv");
-    EXPECT_NE(MenuState(1, ID_VIEW_ROW_HEIGHT_FIRST) & MF_CHECKED, 0u);
+    EXPECT_NE(MenuState(2, ID_VIEW_ROW_HEIGHT_FIRST) & MF_CHECKED, 0u);
     Command(ID_VIEW_ROW_HEIGHT_FIRST + 1);
     EXPECT_EQ(Grid().GetPaintManager()->GetRowHeight(), 34);
     EXPECT_EQ(Status(), L"Rows are 34 pixels high.");
     Command(ID_VIEW_ROW_HEIGHT_LAST);
     EXPECT_EQ(Grid().GetPaintManager()->GetRowHeight(), 48);
-    EXPECT_EQ(MenuState(1, ID_VIEW_ROW_HEIGHT_FIRST) & MF_CHECKED, 0u);
-    EXPECT_NE(MenuState(1, ID_VIEW_ROW_HEIGHT_LAST) & MF_CHECKED, 0u);
+    EXPECT_EQ(MenuState(2, ID_VIEW_ROW_HEIGHT_FIRST) & MF_CHECKED, 0u);
+    EXPECT_NE(MenuState(2, ID_VIEW_ROW_HEIGHT_LAST) & MF_CHECKED, 0u);
     Command(ID_VIEW_THEME_FIRST + 3); // makes a paint manager of its own
     EXPECT_EQ(Grid().GetPaintManager()->GetRowHeight(), 48);
     Restart();

@@ -57,6 +57,7 @@ BEGIN_MESSAGE_MAP(CXTPReportControl, CWnd)
     ON_MESSAGE(WM_DPICHANGED, &CXTPReportControl::OnDpiChanged)
     ON_MESSAGE(WM_DPICHANGED_BEFOREPARENT, &CXTPReportControl::OnDpiChangedAroundParent)
     ON_MESSAGE(WM_DPICHANGED_AFTERPARENT, &CXTPReportControl::OnDpiChangedAroundParent)
+    ON_MESSAGE(WM_GETOBJECT, &CXTPReportControl::OnGetObject)
     ON_MESSAGE(WM_SETFONT, &CXTPReportControl::OnSetFont)
     ON_MESSAGE(WM_GETFONT, &CXTPReportControl::OnGetFont)
 END_MESSAGE_MAP()
@@ -93,7 +94,7 @@ CXTPReportControl::Impl::Impl(CXTPReportControl& owner)
     paintManager->SetControl(&owner);
 }
 
-CXTPReportControl::Impl::~Impl() = default;
+CXTPReportControl::Impl::~Impl() { DisconnectAccess(); }
 
 CXTPReportControl::CXTPReportControl() : m_impl(std::make_unique<Impl>(*this)) {
     RegisterWindowClass(); // a dialog makes the window before its object is told of it
@@ -137,6 +138,7 @@ void CXTPReportControl::OnDestroy() {
     m_impl->damage = WholeDamage();
     m_impl->barV = m_impl->barH = BarState();
     m_impl->isTrackingLeave = false;
+    m_impl->DisconnectAccess();
     CWnd::OnDestroy();
 }
 
@@ -165,6 +167,7 @@ void CXTPReportControl::Populate() {
     }
     AdjustLayout();
     m_impl->chosenTopRow = m_impl->topRow;
+    m_impl->TellAccess(EVENT_OBJECT_REORDER);
 }
 
 void CXTPReportControl::ResetContent() {
@@ -199,6 +202,7 @@ void CXTPReportControl::OnRowsCleared() {
     m_impl->topRow = m_impl->chosenTopRow = 0;
     m_impl->wantedRow = -1;
     AdjustLayout();
+    m_impl->TellAccess(EVENT_OBJECT_REORDER);
 }
 
 void CXTPReportControl::OnColumnRemoved(CXTPReportColumn* pColumn) {
@@ -245,6 +249,28 @@ void CXTPReportControl::Impl::TakePaintManager(std::unique_ptr<CXTPReportPaintMa
     paintManager->SetControl(&control);
     paintManager->SetDpi(dpi); // that of the window, whatever it was made for
     control.AdjustLayout();
+}
+
+// --- Assistive programs ---------------------------------------------------------------------------------------------
+
+LRESULT CXTPReportControl::OnGetObject(WPARAM wParam, LPARAM lParam) {
+    // Also when it comes from a program of 32 bits.
+    if (static_cast<LONG>(lParam) != OBJID_CLIENT)
+        return Default();
+    if (!m_impl->accessLink)
+        m_impl->accessLink = std::make_shared<ReportAccessLink>(ReportAccessLink{this});
+    return reportaccessible::Answer(m_impl->accessLink, wParam);
+}
+
+void CXTPReportControl::Impl::DisconnectAccess() {
+    if (accessLink)
+        accessLink->control = nullptr;
+    accessLink.reset();
+}
+
+void CXTPReportControl::Impl::TellAccess(DWORD event, int rowIndex) const {
+    if (control.m_hWnd)
+        ::NotifyWinEvent(event, control.m_hWnd, OBJID_CLIENT, reportaccessible::ChildOfRow(control, rowIndex));
 }
 
 // --- What the system changes ----------------------------------------------------------------------------------------

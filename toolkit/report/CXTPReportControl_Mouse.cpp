@@ -134,7 +134,7 @@ void CXTPReportControl::Impl::ReleaseRow(CPoint point) {
         TrackLeave();
     if (wasSelecting) {
         if (released.selected != selectedRows->GetRanges())
-            control.OnSelectionChanged();
+            TellSelectionChanged();
         return;
     }
     const CellHit hit = HitCell(point);

@@ -98,6 +98,8 @@ void CXTPReportControl::Impl::FocusColumn(CXTPReportColumn* column, bool isShown
     InvalidateColumnFocus();
     if (!isOther || !isShown)
         return;
+    if (control.HasFocus())
+        TellAccess(EVENT_OBJECT_FOCUS, focusedRow); // whose object tells which cell
     const CellHit cell = FocusedCell();
     control.SendItemNotify(XTP_NM_REPORT_FOCUSCHANGED, CPoint(0, 0), cell.row, cell.item, focusedColumn);
 }
@@ -114,12 +116,21 @@ void CXTPReportControl::OnSelectionChanged() {
     SendItemNotify(XTP_NM_REPORT_SELCHANGED, CPoint(0, 0), GetFocusedRow(), nullptr, nullptr);
 }
 
+void CXTPReportControl::Impl::TellSelectionChanged() {
+    const bool isOne = selectedRows->GetCount() == 1;
+    TellAccess(isOne ? EVENT_OBJECT_SELECTION : EVENT_OBJECT_SELECTIONWITHIN,
+               isOne ? selectedRows->GetRanges().RowAt(0) : -1);
+    control.OnSelectionChanged();
+}
+
 void CXTPReportControl::Impl::SetFocus(int rowIndex) {
     if (rowIndex == focusedRow)
         return;
     InvalidateRows({focusedRow, focusedRow});
     focusedRow = rowIndex;
     InvalidateRows({focusedRow, focusedRow});
+    if (control.HasFocus())
+        TellAccess(EVENT_OBJECT_FOCUS, focusedRow);
     control.SendItemNotify(XTP_NM_REPORT_FOCUSCHANGED, CPoint(0, 0), control.GetFocusedRow(), nullptr, nullptr);
 }
 
@@ -161,6 +172,8 @@ void CXTPReportControl::OnSetFocus(CWnd* pOldWnd) {
     CWnd::OnSetFocus(pOldWnd);
     m_impl->InvalidateFocusLook();
     m_impl->InvalidateColumnFocus();
+    if (m_impl->focusedRow >= 0)
+        m_impl->TellAccess(EVENT_OBJECT_FOCUS, m_impl->focusedRow); // the system has told of the window
 }
 
 void CXTPReportControl::OnKillFocus(CWnd* pNewWnd) {

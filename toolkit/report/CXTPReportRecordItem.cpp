@@ -126,6 +126,8 @@ int CXTPReportRecordItem::Compare(CXTPReportColumn* pColumn, CXTPReportRecordIte
     return pItem ? itemcompare::Texts(GetCaption(pColumn), pItem->GetCaption(pColumn)) : 1;
 }
 
+CString CXTPReportRecordItem::GetAccessibleValue(CXTPReportColumn*) { return CString(); }
+
 // --- Hyperlinks ------------------------------------------------------------------------------------------------------
 
 int CXTPReportRecordItem::AddHyperlink(CXTPReportHyperlink* pHyperlink) {

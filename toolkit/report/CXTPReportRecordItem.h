@@ -76,6 +76,9 @@ public:
     /// regard to case. `pItem` is null for a record that has no such cell, which sorts first.
     virtual int Compare(CXTPReportColumn* pColumn, CXTPReportRecordItem* pItem);
 
+    /// What a screen reader says of a cell that shows no text; empty here. Cells that draw a picture tell its values.
+    virtual CString GetAccessibleValue(CXTPReportColumn* pColumn);
+
     // --- Hyperlinks -------------------------------------------------------------------------------------------
     /// Takes ownership; returns the index, −1 for null.
     int AddHyperlink(CXTPReportHyperlink* pHyperlink);

@@ -17,6 +17,7 @@
 #include "CXTPReportSelectedRows.h"
 #include "DpiLength.h"
 #include "GridGeometry.h"
+#include "ReportAccessible.h"
 #include "RowSelection.h"
 
 #include "../common/BackBuffer.h"
@@ -153,8 +154,9 @@ struct CXTPReportControl::Impl {
         const RowSelection former = selectedRows->GetRanges();
         change();
         if (former != selectedRows->GetRanges())
-            control.OnSelectionChanged();
+            TellSelectionChanged();
     }
+    void TellSelectionChanged();
     void SetFocus(int rowIndex);
     CXTPReportColumn* focusedColumn = nullptr;
     bool isColumnFocusShown = false;
@@ -173,6 +175,13 @@ struct CXTPReportControl::Impl {
     CString SelectedRecords() const;
     std::vector<CXTPReportRecord*> SelectedRecordList() const;
     void InsertRecords(CXTPReportRecords& pasted);
+
+    // --- Assistive programs -----------------------------------------------------------------------------------------
+    std::shared_ptr<ReportAccessLink> accessLink; ///< null until one has asked
+
+    void DisconnectAccess();
+    /// Events about the focus, the selection and the rows; a negative row is the grid.
+    void TellAccess(DWORD event, int rowIndex = -1) const;
 
     // --- Mouse ------------------------------------------------------------------------------------------------------
     XTPReportMouseMode mouseMode = xtpReportMouseNothing;

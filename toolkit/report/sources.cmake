@@ -34,4 +34,5 @@ list(APPEND kytoolkit_report_SOURCES
     report/CXTPReportPaintManager_Header.cpp
     report/CXTPReportRow.cpp
     report/CXTPReportThemeResource.cpp
+    report/ReportAccessible.cpp
     report/ReportLook.cpp)

@@ -170,6 +170,17 @@ CString KyDragLineRecordItem::GetInfoTip() const {
     return value ? TranslateFormat("Plot value", "Value: %1%.", *value) : CString();
 }
 
+std::vector<double> KyDragLineRecordItem::GetMarkPositions() const {
+    const double handle = plotscale::ToFraction(m_target, {GetMin(), GetMax(), m_margin});
+    if (!m_allowInteraction || IsMissing(handle) || std::isnan(handle))
+        return {};
+    return {std::clamp(handle, 0.0, 1.0)};
+}
+
+CString KyDragLineRecordItem::GetAccessibleValue(CXTPReportColumn*) {
+    return IsMissing(m_target) ? CString() : TranslateFormat("Plot value", "Value: %1%.", m_target);
+}
+
 // --- Drawing ---------------------------------------------------------------------------------------------------------
 
 void KyDragLineRecordItem::OnDrawCaption(XTP_REPORTRECORDITEM_DRAWARGS* args, XTP_REPORTRECORDITEM_METRICS*) {

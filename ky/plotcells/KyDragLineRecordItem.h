@@ -51,6 +51,10 @@ public:
     double GetMax() const override;
     /// The scale value under the pointer, which need not be the slider's; empty while the pointer is not over the cell.
     CString GetInfoTip() const override;
+    /// The handle, unless the value is missing.
+    std::vector<double> GetMarkPositions() const override;
+    /// The slider's value; empty when there is none.
+    CString GetAccessibleValue(CXTPReportColumn* column) override;
     virtual void SetMin(double min); ///< moves the left end of the scale; -99 leaves it out
     virtual void SetMax(double max); ///< moves the right end of the scale; -99 leaves it out
 

@@ -3,10 +3,12 @@
 
 #include "../common/KeepAlive.h"
 #include "../common/MissingValue.h"
+#include "../common/Translation.h"
 #include "PlotCellDrawing.h"
 #include "PlotCellImage.h"
 #include "PlotScale.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -74,6 +76,18 @@ KyPlotRecordItem::Marks KyPlotRecordItem::ReachableMarks() const {
     if (!IsMissing(marks.upper) && marks.upper > 1.0)
         marks.upper = 1.0;
     return marks;
+}
+
+std::vector<double> KyPlotRecordItem::GetMarkPositions() const {
+    std::vector<double> positions;
+    if (!m_allowInteraction)
+        return positions;
+    const Marks marks = ReachableMarks();
+    for (const double mark : {marks.lower, m_supportDragTarget ? marks.target : KyMissingValue, marks.upper})
+        if (!IsMissing(mark) && !std::isnan(mark))
+            positions.push_back(std::clamp(mark, 0.0, 1.0));
+    std::sort(positions.begin(), positions.end());
+    return positions;
 }
 
 /// The flag of the mark that a press at `m_dragPos` drags, or null. On the outer side of an end that end is taken even
@@ -223,6 +237,18 @@ BOOL KyPlotRecordItem::OnSetCursor(CPoint) {
 bool KyPlotRecordItem::GetAllowInteraction(CPoint, bool& capture) const {
     capture = true;
     return m_allowInteraction;
+}
+
+CString KyPlotRecordItem::GetAccessibleValue(CXTPReportColumn*) {
+    CString values;
+    const auto add = [&values](const CString& value) { values += (values.IsEmpty() ? L"" : L" ") + value; };
+    if (!IsMissing(m_lower))
+        add(TranslateFormat("Plot value", "Lower value: %1%.", m_lower));
+    if (!IsMissing(m_target))
+        add(TranslateFormat("Plot value", "Target: %1%.", m_target));
+    if (!IsMissing(m_upper))
+        add(TranslateFormat("Plot value", "Upper value: %1%.", m_upper));
+    return values;
 }
 
 // --- Images ----------------------------------------------------------------------------------------------------------

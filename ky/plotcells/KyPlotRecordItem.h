@@ -9,6 +9,8 @@
 
 #include <boost/signals2/signal.hpp>
 
+#include <vector>
+
 /// A plot cell: a horizontal scale with up to three positions on it, a lower value, a target (also called the centre)
 /// and an upper value, which the user can drag with the mouse.
 ///
@@ -53,6 +55,10 @@ public:
     /// True while the target is being dragged and the last mouse move moved it.
     bool IsCenterDragging() const;
 
+    /// Where marks can be taken hold of, as fractions of the cell width from left to right, held within the cell; for
+    /// dragging by keys. Empty while the cell does not react to the mouse.
+    virtual std::vector<double> GetMarkPositions() const;
+
     /// The cell drawn into a packed device-independent bitmap at the screen's colour depth.
     /// `GetItemRect` is the image's afterwards, until the grid draws the cell again.
     /// @param control        whose theme the cell is drawn with; the cell need not be in it
@@ -90,6 +96,8 @@ public:
     virtual double GetMax() const = 0;
     /// The text of the cell's tool tip; empty for none.
     virtual CString GetInfoTip() const = 0;
+    /// What a screen reader says: the values that there are, lower, target and upper.
+    CString GetAccessibleValue(CXTPReportColumn* column) override;
 
 protected:
     void StopDragging(); ///< clears the three dragging flags; no value changes

@@ -9,6 +9,7 @@
 #include "KyPlotRecordItem.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 IMPLEMENT_DYNCREATE(KyPlotRecordReportControl, KyReportControl)
@@ -19,6 +20,9 @@ BEGIN_MESSAGE_MAP(KyPlotRecordReportControl, KyReportControl)
     ON_WM_MOUSEMOVE()
     ON_WM_SETCURSOR()
     ON_WM_MOUSELEAVE()
+    ON_WM_KEYDOWN()
+    ON_WM_GETDLGCODE()
+    ON_WM_KILLFOCUS()
 END_MESSAGE_MAP()
 
 KyPlotRecordReportControl::KyPlotRecordReportControl() = default;
@@ -33,6 +37,7 @@ void KyPlotRecordReportControl::RouteDragTo(KyPlotRecordItem* item) {
     if (item != nullptr)
         item->InternalAddRef();
     KyPlotRecordItem* const former = std::exchange(m_pDragItem, item);
+    m_keyDrag = KeyDrag();
     if (former != nullptr)
         former->InternalRelease();
 }
@@ -69,6 +74,9 @@ void KyPlotRecordReportControl::OnPlotRecordItemDragCancelled() {}
 
 void KyPlotRecordReportControl::OnLButtonDown(UINT flags, CPoint point) {
     const WindowLife life(*this);
+    EndKeyDrag(true);
+    if (life.HasEnded())
+        return;
     KyReportControl::OnLButtonDown(flags, point);
     if (life.HasEnded())
         return;
@@ -110,6 +118,8 @@ void KyPlotRecordReportControl::OnMouseMove(UINT flags, CPoint point) {
     ForgetRemovedDragItem();
     if (life.HasEnded())
         return;
+    if (IsDraggedByKeys())
+        return; // the pointer that rests somewhere has no part in it
     if (m_pDragItem != nullptr)
         point = PulledIntoDragItem(point);
     KyReportControl::OnMouseMove(flags, point);
@@ -163,7 +173,7 @@ void KyPlotRecordReportControl::OnMouseLeave() {
     ForgetRemovedDragItem();
     if (life.HasEnded())
         return;
-    if (m_pDragItem != nullptr) {
+    if (m_pDragItem != nullptr && !IsDraggedByKeys()) {
         const KeepAlive alive(*m_pDragItem);
         KyPlotRecordItem* const dragged = m_pDragItem;
         RouteDragTo(nullptr);
@@ -184,6 +194,145 @@ BOOL KyPlotRecordReportControl::OnSetCursor(CWnd* wnd, UINT hitTest, UINT messag
             return TRUE;
     }
     return KyReportControl::OnSetCursor(wnd, hitTest, message);
+}
+
+// --- Marks by keyboard -----------------------------------------------------------------------------------------------
+
+/// Takes hold of a mark of the focused cell, the first one again after the last. False when it has none.
+bool KyPlotRecordReportControl::BeginKeyDrag(int mark) {
+    CXTPReportRow* const row = GetFocusedRow();
+    CXTPReportColumn* const column = GetFocusedColumn();
+    if (row == nullptr || column == nullptr || row->GetRecord() == nullptr || IsVirtualMode())
+        return false;
+    auto* const item = dynamic_cast<KyPlotRecordItem*>(row->GetRecord()->GetItem(column));
+    const std::vector<double> marks = item != nullptr ? item->GetMarkPositions() : std::vector<double>();
+    if (marks.empty())
+        return false;
+
+    const WindowLife life(*this);
+    const KeepAlive alive(*item);
+    EnsureVisible(row);
+    UpdateWindow(); // the cell knows its place from its last drawing
+    if (life.HasEnded() || item->GetReportControl() != this || GetFocusedRow() != row)
+        return true;
+    const int count = static_cast<int>(marks.size());
+    m_rcDragItem = row->GetItemRect(item);
+    m_keyDrag.mark = (mark + count) % count;
+    const CRect plot = item->GetItemRect();
+    // Inside the cell as the mouse sees it: without a pixel at each side.
+    m_keyDrag.point = CPoint(m_rcDragItem.left + 1 +
+                                 static_cast<int>(std::lround(marks[m_keyDrag.mark] * (m_rcDragItem.Width() - 2))),
+                             (plot.top + plot.bottom) / 2);
+    const KeyDrag begun = m_keyDrag;
+    RouteDragTo(item);
+    m_keyDrag = begun;
+    item->BeginDrag(m_keyDrag.point, m_rcDragItem);
+    if (!life.HasEnded() && IsDraggedByKeys())
+        GetToolTipContext()->ShowToolTip(this, m_keyDrag.point);
+    return true;
+}
+
+/// False when the key goes on to the grid.
+bool KyPlotRecordReportControl::DragByKey(UINT key) {
+    const WindowLife life(*this);
+    ForgetRemovedDragItem();
+    if (life.HasEnded() || !IsDraggedByKeys())
+        return life.HasEnded();
+    FollowKeyDragCell();
+    if (life.HasEnded() || !IsDraggedByKeys())
+        return true;
+    const int step = ::GetKeyState(VK_CONTROL) < 0 ? 10 : 1;
+    switch (key) {
+    case VK_LEFT:
+        MoveKeyDrag(m_keyDrag.point.x - step);
+        return true;
+    case VK_RIGHT:
+        MoveKeyDrag(m_keyDrag.point.x + step);
+        return true;
+    case VK_HOME:
+        MoveKeyDrag(m_rcDragItem.left);
+        return true;
+    case VK_END:
+        MoveKeyDrag(m_rcDragItem.right);
+        return true;
+    case VK_TAB: {
+        const int next = m_keyDrag.mark + (::GetKeyState(VK_SHIFT) < 0 ? -1 : 1);
+        EndKeyDrag(true);
+        if (!life.HasEnded())
+            BeginKeyDrag(next);
+        return true;
+    }
+    case VK_ESCAPE:
+        EndKeyDrag(false);
+        return true;
+    case VK_SHIFT:
+    case VK_CONTROL:
+    case VK_MENU:
+        return true;
+    default:
+        EndKeyDrag(true);
+        return life.HasEnded() || key == VK_RETURN || key == VK_F2;
+    }
+}
+
+/// The grid may have been scrolled, or its columns changed, since the last key.
+void KyPlotRecordReportControl::FollowKeyDragCell() {
+    const CXTPReportRow* const row = GetFocusedRow();
+    const CRect now = row != nullptr ? row->GetItemRect(m_pDragItem) : CRect(0, 0, 0, 0);
+    if (now.IsRectEmpty() || now == m_rcDragItem)
+        return;
+    m_keyDrag.point += now.TopLeft() - m_rcDragItem.TopLeft();
+    m_rcDragItem = now;
+    UpdateWindow(); // the cell learns of its place
+}
+
+void KyPlotRecordReportControl::MoveKeyDrag(int x) {
+    m_keyDrag.point.x =
+        std::clamp<int>(x, m_rcDragItem.left + 1, std::max<int>(m_rcDragItem.right - 1, m_rcDragItem.left + 1));
+    m_keyDrag.hasMoved = true;
+    const WindowLife life(*this);
+    const KeepAlive alive(*m_pDragItem);
+    m_pDragItem->OnMouseMove(MK_LBUTTON, m_keyDrag.point, this);
+    if (!life.HasEnded() && IsDraggedByKeys())
+        GetToolTipContext()->ShowToolTip(this, m_keyDrag.point);
+}
+
+/// A mark that was not moved keeps its value to the last digit.
+void KyPlotRecordReportControl::EndKeyDrag(bool apply) {
+    if (!IsDraggedByKeys() || m_pDragItem == nullptr)
+        return;
+    const WindowLife life(*this);
+    const KeepAlive alive(*m_pDragItem);
+    KyPlotRecordItem* const dragged = m_pDragItem;
+    const KeyDrag drag = m_keyDrag;
+    RouteDragTo(nullptr);
+    if (apply && drag.hasMoved)
+        dragged->EndDrag(drag.point, m_rcDragItem, true);
+    else
+        dragged->CancelDrag();
+    if (life.HasEnded())
+        return;
+    GetToolTipContext()->CancelToolTips();
+    RedrawControl();
+}
+
+void KyPlotRecordReportControl::OnKeyDown(UINT key, UINT repeat, UINT flags) {
+    const WindowLife life(*this);
+    if (IsDraggedByKeys() ? DragByKey(key) : key == VK_F2 && BeginKeyDrag(0))
+        return;
+    if (!life.HasEnded())
+        KyReportControl::OnKeyDown(key, repeat, flags);
+}
+
+UINT KyPlotRecordReportControl::OnGetDlgCode() {
+    return KyReportControl::OnGetDlgCode() | (IsDraggedByKeys() ? DLGC_WANTALLKEYS : 0);
+}
+
+void KyPlotRecordReportControl::OnKillFocus(CWnd* newWnd) {
+    const WindowLife life(*this);
+    EndKeyDrag(true);
+    if (!life.HasEnded())
+        KyReportControl::OnKillFocus(newWnd);
 }
 
 // --- Keyboard and commands -------------------------------------------------------------------------------------------

@@ -10,6 +10,11 @@ class KyPlotRecordItem;
 /// captures the mouse for the drag, keeps the pointer inside the dragged cell while the button is down, ends the drag
 /// on release or when the pointer leaves, and cancels it on Escape. Value changes are told by the cells' own signals.
 /// Cut and paste are off.
+///
+/// F2 takes hold of a mark of the focused plot cell by keyboard: left and right move it by a pixel, with ctrl by ten,
+/// home and end to the ends of the cell; tab goes to the next mark, Escape puts it back, and everything else that goes
+/// on elsewhere (Enter, F2, up, down, a press, another window) leaves it where it is now, as a release of the mouse
+/// does.
 /// @ingroup ky_cells
 class KYUI_API KyPlotRecordReportControl : public KyReportControl {
     DECLARE_DYNCREATE(KyPlotRecordReportControl)
@@ -41,12 +46,31 @@ protected:
     BOOL OnSetCursor(CWnd* wnd, UINT hitTest, UINT message);
     /// Applies a drag at the place where the pointer left.
     void OnMouseLeave();
+    void OnKeyDown(UINT key, UINT repeat, UINT flags); ///< marks first, then as every report control
+    UINT OnGetDlgCode();                               ///< every key while one of them drags
+    void OnKillFocus(CWnd* newWnd);                    ///< applies a drag by keys
     DECLARE_MESSAGE_MAP()
 
     KyPlotRecordItem* m_pDragItem = nullptr; ///< the cell that a drag is routed to, or null
     CRect m_rcDragItem{0, 0, 0, 0};          ///< its rectangle when the drag began, in client coordinates
 
 private:
+    /// A drag by keys, while `m_pDragItem` is there.
+    struct KeyDrag {
+        int mark = -1; ///< among the cell's `GetMarkPositions` as it began; −1: no such drag
+        CPoint point;  ///< where the mouse would be
+        bool hasMoved = false;
+    };
+
+    bool IsDraggedByKeys() const { return m_keyDrag.mark >= 0; }
+    bool BeginKeyDrag(int mark);
+    bool DragByKey(UINT key);
+    void FollowKeyDragCell();
+    void MoveKeyDrag(int x);
+    void EndKeyDrag(bool apply);
+
+    KeyDrag m_keyDrag;
+
     void RouteDragTo(KyPlotRecordItem* item);
     void ForgetRemovedDragItem();
     CPoint PulledIntoDragItem(CPoint point) const;

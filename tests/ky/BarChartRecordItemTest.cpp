@@ -180,6 +180,15 @@ TEST(BarChartRecordItem, TheTipTellsTheValueUnderThePointer) {
     EXPECT_EQ(bar.GetInfoTip(), CString());
 }
 
+TEST(BarChartRecordItem, AScreenReaderIsToldTheValuesThatThereAre) {
+    KyBarChartRecordItem item;
+    EXPECT_EQ(item.GetAccessibleValue(nullptr), L"");
+    item.SetTarget(5.5);
+    EXPECT_EQ(item.GetAccessibleValue(nullptr), L"Target: 5.5.");
+    item.SetError(5.5F, 0, 10, 2, 8, -99, -99, -99, -99);
+    EXPECT_EQ(item.GetAccessibleValue(nullptr), L"Lower value: 2. Target: 5.5. Upper value: 8.");
+}
+
 TEST(BarChartRecordItem, TheTipWritesSmallValuesWithATwoDigitExponent) {
     ProbeBar bar;
     bar.SetMargin(0.0);

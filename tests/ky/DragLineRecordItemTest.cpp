@@ -132,6 +132,13 @@ TEST(DragLineRecordItem, TargetValuesAreTheValueAndBothPairsOfEnds) {
     EXPECT_EQ(line.m_rangeMax, 9.5);
 }
 
+TEST(DragLineRecordItem, AScreenReaderIsToldTheValue) {
+    KyDragLineRecordItem line;
+    EXPECT_EQ(line.GetAccessibleValue(nullptr), CString());
+    line.SetTargetValues(12.5, 0.0, 50.0);
+    EXPECT_EQ(line.GetAccessibleValue(nullptr), CString(L"Value: 12.5."));
+}
+
 TEST(DragLineRecordItem, EachEndIsSetTogetherWithTheDrawnOne) {
     ProbeLine line;
     line.SetTargetValues(5, 0, 10);

@@ -3,6 +3,9 @@
 #include "EditWindow.h"
 
 #include "../../framework/core/HandleCounts.h"
+#include "../support/QueuedKeys.h"
+
+#include <cstring>
 
 namespace {
 
@@ -342,6 +345,121 @@ TEST_F(EditLifeTest, TheHookMayDestroyTheControlWhicheverWayTheEditingEnds) {
         EXPECT_FALSE(IsEditing());
         EXPECT_EQ(item->GetValue(), way == 1 ? _T("typed") : _T("again"));
     }
+}
+
+/// A grid whose memory is overwritten when it is deleted: whoever still reads its members finds pointers that lead
+/// nowhere.
+class MortalGrid : public CXTPReportControl {
+public:
+    static void operator delete(void* memory, std::size_t size) {
+        std::memset(memory, 0xEE, size);
+        Graveyard().push_back(memory);
+    }
+    static std::vector<void*>& Graveyard() {
+        static std::vector<void*> memory;
+        return memory;
+    }
+};
+
+TEST_F(EditLifeTest, TheHookMayDeleteTheControlWhicheverWayTheEditingEnds) {
+    MortalGrid* grid = nullptr;
+    CXTPReportColumn* column = nullptr;
+    const std::function<void()> ends[] = {
+        [] { ::TypeKey(VK_RETURN); },
+        [] { ::TypeKey(VK_TAB); },
+        [] { ::TypeKey(VK_DOWN); },
+        [&] { grid->SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(40, 60)); },
+        [&] { grid->SendMessage(WM_RBUTTONDOWN, MK_RBUTTON, MAKELPARAM(40, 60)); },
+        [&] { grid->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, -WHEEL_DELTA), 0); },
+        [&] { grid->SendMessage(WM_VSCROLL, SB_LINEDOWN, 0); },
+        [&] { grid->SendMessage(WM_LBUTTONDBLCLK, MK_LBUTTON, MAKELPARAM(40, 60)); },
+        [&] { grid->Populate(); },
+        [&] { grid->SetTopRow(1); },
+        [&] { grid->SetFocusedRow(grid->GetRows()->GetAt(1)); },
+        [&] { grid->SetFocusedColumn(column); },
+        [&] { column->SetVisible(FALSE); },
+        [&] { grid->GetColumns()->Remove(column); },
+        [&] { grid->GetColumns()->Clear(); },
+        [&] { grid->GetReportHeader()->Sort(column, FALSE); },
+        [&] { grid->EnableWindow(FALSE); },
+        [&] { grid->AllowEdit(FALSE); },
+        [&] { grid->EditItem(nullptr); },
+        [&] { grid->SetInplaceEdit(new CXTPReportInplaceEdit); },
+        [&] { m_owner.SetFocus(); },
+        [&] {
+            CMemFile file;
+            {
+                CArchive archive(&file, CArchive::store);
+                grid->SerializeState(archive);
+            }
+            file.SeekToBegin();
+            CArchive archive(&file, CArchive::load);
+            grid->SerializeState(archive);
+        },
+    };
+    int way = 0;
+    for (const auto& end : ends) {
+        SCOPED_TRACE(way++);
+        grid = new MortalGrid;
+        grid->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 200), &m_owner, 43);
+        grid->AllowEdit(TRUE);
+        column = new CXTPReportColumn(0, _T("A"), 100);
+        grid->AddColumn(column);
+        for (int i = 0; i < 3; ++i) {
+            auto* const item = new ProbeItem(_T("text"));
+            item->onEditChanged = [&] { delete std::exchange(grid, nullptr); };
+            auto* const record = new CXTPReportRecord;
+            record->AddItem(item);
+            grid->AddRecord(record);
+        }
+        grid->Populate();
+        XTP_REPORTRECORDITEM_ARGS args;
+        args.pRow = grid->GetRows()->GetAt(0);
+        args.pColumn = column;
+        grid->EditItem(&args);
+        ASSERT_NE(grid->GetActiveItem(), nullptr);
+        grid->GetInplaceEdit()->ReplaceSel(_T("typed"));
+        end();
+        EXPECT_EQ(grid, nullptr);
+        delete std::exchange(grid, nullptr);
+    }
+    for (void* const memory : MortalGrid::Graveyard())
+        ::operator delete(memory);
+    MortalGrid::Graveyard().clear();
+}
+
+TEST_F(EditLifeTest, TheOwnerMayDeleteTheControlWhenARecordLeaves) {
+    for (const int way : {0, 1, 2}) {
+        SCOPED_TRACE(way);
+        auto* grid = new MortalGrid;
+        grid->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 200, 200), &m_owner, 43);
+        grid->AllowEdit(TRUE);
+        grid->AddColumn(new CXTPReportColumn(0, _T("A"), 100));
+        auto* const record = new CXTPReportRecord;
+        record->AddItem(new CXTPReportRecordItemText(_T("text")));
+        grid->AddRecord(record);
+        grid->Populate();
+        XTP_REPORTRECORDITEM_ARGS args;
+        args.pRow = grid->GetRows()->GetAt(0);
+        args.pColumn = grid->GetColumns()->GetAt(0);
+        m_owner.onNotify = nullptr;
+        grid->EditItem(&args);
+        ASSERT_NE(grid->GetActiveItem(), nullptr);
+        m_owner.onNotify = [&](UINT code) {
+            if (code == XTP_NM_REPORT_EDITCANCELED)
+                delete std::exchange(grid, nullptr);
+        };
+        if (way == 0)
+            grid->GetRecords()->RemoveAt(0);
+        else if (way == 1)
+            grid->ResetContent();
+        else
+            grid->SetVirtualMode(new CXTPReportRecord, 3);
+        EXPECT_EQ(grid, nullptr);
+    }
+    for (void* const memory : MortalGrid::Graveyard())
+        ::operator delete(memory);
+    MortalGrid::Graveyard().clear();
 }
 
 TEST_F(EditLifeTest, TheOwnerMayChangeTheContentWhenItIsAsked) {

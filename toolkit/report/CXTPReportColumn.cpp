@@ -109,8 +109,8 @@ void CXTPReportColumn::HideDivider(BOOL bHide) {
 
 void CXTPReportColumn::SetVisible(BOOL bVisible) {
     const boost::intrusive_ptr<CXTPReportColumn> alive(this); // the host's hooks may delete the column
-    if (!bVisible && m_bVisible && GetControl())
-        GetControl()->OnColumnLeaving(this);
+    if (!bVisible && m_bVisible && GetControl() && !GetControl()->OnColumnLeaving(this))
+        return;
     Set(m_bVisible, static_cast<BOOL>(bVisible != FALSE), Effect::Layout);
 }
 

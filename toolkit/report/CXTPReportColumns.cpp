@@ -61,8 +61,8 @@ void CXTPReportColumns::Add(CXTPReportColumn* pColumn) {
 }
 
 void CXTPReportColumns::Remove(CXTPReportColumn* pColumn) {
-    if (m_pControl && IndexOf(pColumn) >= 0)
-        m_pControl->OnColumnLeaving(pColumn);
+    if (m_pControl && IndexOf(pColumn) >= 0 && !m_pControl->OnColumnLeaving(pColumn))
+        return;
     const int nIndex = IndexOf(pColumn); // the host's hooks may have changed it
     if (nIndex < 0)
         return;
@@ -75,8 +75,8 @@ void CXTPReportColumns::Remove(CXTPReportColumn* pColumn) {
 }
 
 void CXTPReportColumns::Clear() {
-    if (m_pControl)
-        m_pControl->OnColumnLeaving(nullptr);
+    if (m_pControl && !m_pControl->OnColumnLeaving(nullptr))
+        return;
     m_sortOrder.Clear();
     m_groupsOrder.Clear();
     if (m_pControl)

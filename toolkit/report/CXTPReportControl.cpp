@@ -171,6 +171,8 @@ void CXTPReportControl::Populate() {
 }
 
 void CXTPReportControl::ResetContent() {
+    if (!OnRecordLeaving(nullptr))
+        return;
     m_impl->CancelGesture();
     m_impl->records->RemoveAll();
     m_impl->records->SetVirtualMode(nullptr, 0);

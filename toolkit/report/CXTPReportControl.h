@@ -196,12 +196,14 @@ public:
     void OnRowsCleared();
     /// The column is about to be deleted: the header forgets it, and a drag or resize of it ends without effect.
     void OnColumnRemoved(CXTPReportColumn* pColumn);
-    /// The column (null: every column) is about to be hidden or deleted: an editor in it takes effect and closes. Runs
-    /// hooks of the host, so whatever was looked up before has to be looked up again.
-    void OnColumnLeaving(const CXTPReportColumn* pColumn);
-    /// The record (null: every record) is about to be deleted: an editor in it closes without effect. Runs hooks as
-    /// well.
-    void OnRecordLeaving(const CXTPReportRecord* pRecord);
+    /** @{ */
+    /// A column or record (null: each of them) is about to leave: an editor in it closes, and the text goes to the item
+    /// when it is the column that leaves, or nowhere. Runs hooks of the host: whatever was looked up before has to be
+    /// looked up again. FALSE when the window is gone, and perhaps the control as well: then nothing more is to be
+    /// done.
+    BOOL OnColumnLeaving(const CXTPReportColumn* pColumn);
+    BOOL OnRecordLeaving(const CXTPReportRecord* pRecord);
+    /** @} */
 
 protected:
     // --- Messages; derived classes call these handlers from their own ----------------------------------------------

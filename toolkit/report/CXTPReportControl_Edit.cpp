@@ -188,15 +188,18 @@ bool CXTPReportControl::Impl::FinishEdit() {
     return !guard.IsGone();
 }
 
-void CXTPReportControl::OnColumnLeaving(const CXTPReportColumn* pColumn) {
-    if (m_impl->openEdit && (!pColumn || m_impl->openEdit->GetColumn() == pColumn))
-        m_impl->openEdit->EndEdit(TRUE);
+BOOL CXTPReportControl::OnColumnLeaving(const CXTPReportColumn* pColumn) {
+    const bool isEdited = m_impl->openEdit && (!pColumn || m_impl->openEdit->GetColumn() == pColumn);
+    return !isEdited || m_impl->FinishEdit();
 }
 
-void CXTPReportControl::OnRecordLeaving(const CXTPReportRecord* pRecord) {
+BOOL CXTPReportControl::OnRecordLeaving(const CXTPReportRecord* pRecord) {
     const CXTPReportRecordItem* const item = GetActiveItem();
-    if (item && (!pRecord || item->GetRecord() == pRecord))
-        m_impl->openEdit->EndEdit(FALSE);
+    if (!item || (pRecord && item->GetRecord() != pRecord))
+        return TRUE;
+    const WindowGuard guard(*this);
+    m_impl->openEdit->EndEdit(FALSE);
+    return !guard.IsGone();
 }
 
 void CXTPReportControl::SendEditNotify(UINT nCode, const XTP_REPORTRECORDITEM_ARGS& args) {

@@ -123,6 +123,11 @@ void CXTPReportControl::SerializeState(CArchive& ar) {
         ar.Write(bytes.data(), static_cast<UINT>(bytes.size()));
         return;
     }
-    ApplyPlan(ApplyLayout(ReadLayout(ar), DescribeLiveColumns(columns), dpi), columns);
+    const ReportLayout layout = ReadLayout(ar);
+    const HWND hWnd = m_hWnd;
+    EditItem(nullptr); // first, because its hooks may change the columns
+    if (hWnd && !::IsWindow(hWnd))
+        return;
+    ApplyPlan(ApplyLayout(layout, DescribeLiveColumns(columns), dpi), columns);
     Populate();
 }

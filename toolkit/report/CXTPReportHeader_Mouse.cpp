@@ -10,6 +10,8 @@
 #include "CXTPReportControl.h"
 #include "HeaderExtents.h"
 
+#include "../common/ObjectReference.h"
+
 #include <cstdlib>
 
 namespace {
@@ -138,8 +140,13 @@ void CXTPReportHeader::Sort(CXTPReportColumn* pColumn, BOOL bAddKey) {
     else
         order->Add(pColumn, increasing);
     const CWaitCursor wait; // millions of rows take a moment
-    m_pControl->Populate();
-    m_pControl->SendColumnNotify(XTP_NM_REPORT_SORTORDERCHANGED, pColumn);
+    // What is being edited takes effect first, and its hooks may put another header in this one's place, or worse.
+    CXTPReportControl* const control = m_pControl;
+    const boost::intrusive_ptr<CXTPReportColumn> alive(pColumn);
+    const HWND hWnd = control->m_hWnd;
+    control->Populate();
+    if ((!hWnd || ::IsWindow(hWnd)) && pColumn->GetControl() == control)
+        control->SendColumnNotify(XTP_NM_REPORT_SORTORDERCHANGED, pColumn);
 }
 
 void CXTPReportHeader::DropColumn(CXTPReportColumn* pColumn, int nDropPos) {

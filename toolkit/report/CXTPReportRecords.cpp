@@ -60,8 +60,8 @@ void CXTPReportRecords::InsertAt(int nIndex, CXTPReportRecord* pRecord) {
 }
 
 BOOL CXTPReportRecords::RemoveRecord(CXTPReportRecord* pRecord) {
-    if (m_pControl && pRecord)
-        m_pControl->OnRecordLeaving(pRecord);
+    if (m_pControl && pRecord && !m_pControl->OnRecordLeaving(pRecord))
+        return FALSE;
     if (pRecord && pRecord == m_pVirtualRecord) {
         SetVirtualMode(nullptr, 0);
         return TRUE;
@@ -79,8 +79,8 @@ BOOL CXTPReportRecords::RemoveRecord(CXTPReportRecord* pRecord) {
 void CXTPReportRecords::RemoveAt(int nIndex) { RemoveRecord(GetAt(nIndex)); }
 
 void CXTPReportRecords::RemoveAll() {
-    if (m_pControl)
-        m_pControl->OnRecordLeaving(nullptr);
+    if (m_pControl && !m_pControl->OnRecordLeaving(nullptr))
+        return;
     if (CXTPReportRows* const pRows = GetRows())
         pRows->Clear();
     for (CXTPReportRecord* const pRecord : m_records.Take())
@@ -98,6 +98,11 @@ void CXTPReportRecords::Release(CXTPReportRecord* pRecord) {
 void CXTPReportRecords::SetVirtualMode(CXTPReportRecord* pVirtualRecord, int nCount) {
     if (pVirtualRecord && pVirtualRecord == m_pVirtualRecord) {
         m_nVirtualCount = std::max(nCount, 0);
+        return;
+    }
+    if (m_pControl && !m_pControl->OnRecordLeaving(nullptr)) {
+        if (pVirtualRecord)
+            pVirtualRecord->InternalRelease(); // it was taken over already
         return;
     }
     RemoveAll();

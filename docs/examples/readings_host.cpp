@@ -4,6 +4,7 @@
 #include <common/Translation.h>
 #include <plotcells/KyBarChartRecordItem.h>
 #include <plotcells/KyPlotRecordReportControl.h>
+#include <reportgrid/KyInPlaceEdit.h>
 #include <themes/Themes.h>
 
 #include <algorithm>
@@ -50,6 +51,10 @@ public:
         auto* limits = new CXTPReportColumn(2, _T("Limits"), _T("limits"), 120);
         limits->SetAlignment(DT_RIGHT);
         AddColumn(limits);
+        AllowEdit(TRUE); // sensors can be renamed, and nothing else can be typed
+        for (int i = 1; i < GetColumns()->GetCount(); ++i)
+            GetColumns()->GetAt(i)->SetEditable(FALSE);
+        SetInplaceEdit(new KyInPlaceEdit);    // Enter goes on to the next row, as in a spreadsheet
         EnableShowHideColumns({L"sensor"});   // the chooser offers all columns but this
         AutoLoadReportState(L"ReadingsGrid"); // after the columns: they are the default layout
     }
@@ -124,11 +129,22 @@ protected:
         return 0;
     }
 
+    /// A sensor without a name keeps the one it has.
+    void OnRequestOrChange(NMHDR* header, LRESULT*) {
+        const auto* edited = reinterpret_cast<const XTP_NM_REPORTRECORDITEM*>(header);
+        const CString name = edited->pItem ? edited->pItem->GetCaption(edited->pColumn) : CString();
+        if (header->code == XTP_NM_REPORT_REQUESTEDIT)
+            m_nameBefore = name;
+        else if (name.IsEmpty() && edited->pItem)
+            static_cast<CXTPReportRecordItemText*>(edited->pItem)->SetValue(m_nameBefore);
+    }
+
     void OnSetFocus(CWnd*) { m_grid.SetFocus(); }
     DECLARE_MESSAGE_MAP()
 
 private:
     ReadingsGrid m_grid; // its destructor saves the layout
+    CString m_nameBefore;
 };
 
 BEGIN_MESSAGE_MAP(ReadingsFrame, CFrameWnd)
@@ -137,6 +153,8 @@ BEGIN_MESSAGE_MAP(ReadingsFrame, CFrameWnd)
     ON_COMMAND_RANGE(FirstThemeCommand, LastThemeCommand, &ReadingsFrame::OnTheme)
     ON_UPDATE_COMMAND_UI_RANGE(FirstThemeCommand, LastThemeCommand, &ReadingsFrame::OnUpdateTheme)
     ON_MESSAGE(WM_KYTHEMECHANGED, &ReadingsFrame::OnThemeChanged)
+    ON_NOTIFY(XTP_NM_REPORT_REQUESTEDIT, AFX_IDW_PANE_FIRST, &ReadingsFrame::OnRequestOrChange)
+    ON_NOTIFY(XTP_NM_REPORT_VALUECHANGED, AFX_IDW_PANE_FIRST, &ReadingsFrame::OnRequestOrChange)
 END_MESSAGE_MAP()
 
 class ReadingsApp : public CWinApp {

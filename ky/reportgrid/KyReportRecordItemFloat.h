@@ -34,11 +34,12 @@ public:
     /// -99.0001, so that it is not taken for one. Any other text changes nothing.
     void OnEditChanged(XTP_REPORTRECORDITEM_ARGS* args, const wchar_t* text) override;
 
+protected:
+    float m_upperLimit = KyMissingValueF; ///< the largest value that is not red; -99: any
+    float m_lowerLimit = KyMissingValueF; ///< the smallest one; likewise
+    bool m_inRange = true;                ///< the cell is not red
+    CString m_missingText;                ///< what a missing value shows
+
 private:
     bool IsWithinLimits(float value) const;
-
-    float m_upperLimit = KyMissingValueF;
-    float m_lowerLimit = KyMissingValueF;
-    bool m_inRange = true;
-    CString m_missingText;
 };

@@ -1,13 +1,15 @@
 // Shows the looks of the report control: contact_sheet FOLDER writes one picture for each theme, column style and
 // resolution, theme-THEME-style-STYLE-DPI.bmp, with the states that a grid can be in side by side. With --golden it
 // writes those that are kept as golden pictures: every theme and style at 96 dots per inch, each theme's own style at
-// 144, with letters whose edges are not smoothed, so that the colours of a picture fit into a palette.
+// 144, with letters whose edges are not smoothed, so that the colours of a picture fit into a palette. One picture
+// more, editing-DPI.bmp, shows open editors and the look of grids on dialogs.
 //
 // Every picture is what real controls draw when real messages have brought them into these states.
 #include <XTToolkitPro.h>
 
 #include "../framework/DibCanvas.h"
 #include "plotcells/KyBarChartRecordItem.h"
+#include "reportgrid/KyDialogReportControlTheme.h"
 
 #include <cstdio>
 #include <cstring>
@@ -103,18 +105,47 @@ public:
         m_grid.GetSelectedRows()->Add(m_grid.GetRows()->GetAt(2));
     }
     void TakeFocusAway() { m_owner.SetFocus(); }
+    void UseDialogTheme() {
+        auto* const look = new KyDialogReportControlTheme;
+        look->TakeOver(Look());
+        m_grid.SetPaintManager(look);
+    }
+    /// Opens an editor whose text is partly selected.
+    void EditValue(int row) {
+        m_grid.SetFocus();
+        m_grid.AllowEdit(TRUE);
+        XTP_REPORTRECORDITEM_ARGS args;
+        args.pRow = m_grid.GetRows()->GetAt(row);
+        args.pColumn = &Column(1);
+        m_grid.EditItem(&args);
+        m_grid.GetInplaceEdit()->SetSel(0, 2);
+        ::HideCaret(m_grid.GetInplaceEdit()->m_hWnd);
+    }
     void DrawInto(CDC& dc, CPoint place) {
         CRect client;
         m_grid.GetClientRect(&client);
         DibCanvas canvas(client.Width(), client.Height(), RGB(255, 0, 255));
         m_grid.SendMessage(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(canvas.Dc().m_hDC), PRF_CLIENT);
         dc.BitBlt(place.x, place.y, client.Width(), client.Height(), &canvas.Dc(), 0, 0, SRCCOPY);
+        if (m_grid.GetActiveItem())
+            DrawEditorInto(dc, place);
         CRect frame(place, client.Size());
         frame.InflateRect(1, 1);
         dc.Draw3dRect(&frame, RGB(130, 130, 130), RGB(130, 130, 130));
     }
 
 private:
+    /// As it stands on the screen, because a window of its own is not part of the grid's drawing.
+    void DrawEditorInto(CDC& dc, CPoint place) {
+        CXTPReportInplaceEdit& editor = *m_grid.GetInplaceEdit();
+        editor.UpdateWindow();
+        CRect rc;
+        editor.GetWindowRect(&rc);
+        m_grid.ScreenToClient(&rc);
+        CWindowDC window(&editor);
+        dc.BitBlt(place.x + rc.left, place.y + rc.top, rc.Width(), rc.Height(), &window, 0, 0, SRCCOPY);
+    }
+
     CWnd m_owner;
     CXTPReportControl m_grid;
 };
@@ -159,6 +190,27 @@ void ShowDisabled(Panel& panel) {
 
 void ShowEmpty(Panel& panel) { panel.Grid().Populate(); }
 
+void ShowEditor(Panel& panel) {
+    panel.AddRows();
+    panel.SelectRows(true);
+    panel.EditValue(1);
+}
+
+void ShowDialogTheme(Panel& panel) {
+    panel.UseDialogTheme();
+    panel.AddRows();
+    panel.SortByName(TRUE);
+    panel.SelectRows(true);
+    panel.Mouse(WM_MOUSEMOVE, panel.HeaderOf(1)); // of which nothing is seen
+}
+
+void ShowDialogThemeWithoutDivider(Panel& panel) {
+    panel.UseDialogTheme();
+    panel.AddRows();
+    panel.Column(0).HideDivider(TRUE);
+    panel.SelectRows(false);
+}
+
 struct State {
     const wchar_t* name;
     void (*show)(Panel&);
@@ -168,6 +220,19 @@ constexpr State States[] = {{L"focus, sorted, hot", ShowFocus},
                             {L"dragged; dotted, dashed lines", ShowDrag},
                             {L"disabled", ShowDisabled},
                             {L"empty", ShowEmpty}};
+
+/// What the picture of editing shows, each in the look of a theme.
+struct EditingState {
+    const wchar_t* name;
+    int theme; ///< place in Themes
+    void (*show)(Panel&);
+};
+constexpr EditingState EditingStates[] = {{L"editor, default", 0, ShowEditor},
+                                          {L"editor, Office 2013", 2, ShowEditor},
+                                          {L"editor, resource", 4, ShowEditor},
+                                          {L"dialog", 4, ShowDialogTheme},
+                                          {L"dialog, a divider hidden", 4, ShowDialogThemeWithoutDivider}};
+static_assert(std::size(EditingStates) == std::size(States)); // the same strip
 
 // --- Pictures -------------------------------------------------------------------------------------------------------
 
@@ -181,14 +246,15 @@ struct Strip {
     }
 };
 
-void DrawLabels(CDC& dc, const Strip& strip, const std::wstring& title) {
+template <class Labels>
+void DrawLabels(CDC& dc, const Strip& strip, const Labels& states, const std::wstring& title) {
     CFont font;
     const LOGFONT textFont = TextFont(strip.dpi);
     font.CreateFontIndirect(&textFont);
     CFont* const former = dc.SelectObject(&font);
     dc.SetBkMode(TRANSPARENT);
     for (int i = 0; i < static_cast<int>(std::size(States)); ++i) {
-        std::wstring text = i == 0 ? title : States[i].name;
+        std::wstring text = i == 0 && !title.empty() ? title : states[i].name;
         if (i == static_cast<int>(std::size(States)) - 1)
             text += L"; " + std::to_wstring(strip.dpi) + L" dpi";
         dc.TextOut(strip.Left(i), Scaled(Gap / 2, strip.dpi), text.c_str());
@@ -196,21 +262,37 @@ void DrawLabels(CDC& dc, const Strip& strip, const std::wstring& title) {
     dc.SelectObject(former);
 }
 
+bool Save(const DibCanvas& canvas, const std::wstring& path) {
+    if (canvas.SaveAs(path.c_str()))
+        return true;
+    std::fwprintf(stderr, L"error: %ls cannot be written\n", path.c_str());
+    return false;
+}
+
 bool WritePicture(const Theme& theme, int style, int dpi, const std::wstring& folder) {
     const Strip strip{dpi};
     DibCanvas canvas(strip.Size().cx, strip.Size().cy, RGB(205, 205, 205));
-    DrawLabels(canvas.Dc(), strip, std::wstring(L"theme ") + theme.name + L", style " + ColumnStyles[style]);
+    DrawLabels(canvas.Dc(), strip, States, std::wstring(L"theme ") + theme.name + L", style " + ColumnStyles[style]);
     for (int i = 0; i < static_cast<int>(std::size(States)); ++i) {
         Panel panel(theme, style, dpi);
         States[i].show(panel);
         panel.DrawInto(canvas.Dc(), CPoint(strip.Left(i), strip.Top()));
     }
-    const std::wstring path = folder + L"\\theme-" + std::to_wstring(theme.theme) + L"-style-" +
-                              std::to_wstring(style) + L"-" + std::to_wstring(dpi) + L".bmp";
-    if (canvas.SaveAs(path.c_str()))
-        return true;
-    std::fwprintf(stderr, L"error: %ls cannot be written\n", path.c_str());
-    return false;
+    return Save(canvas, folder + L"\\theme-" + std::to_wstring(theme.theme) + L"-style-" + std::to_wstring(style) +
+                            L"-" + std::to_wstring(dpi) + L".bmp");
+}
+
+bool WriteEditingPicture(int dpi, const std::wstring& folder) {
+    const Strip strip{dpi};
+    DibCanvas canvas(strip.Size().cx, strip.Size().cy, RGB(205, 205, 205));
+    DrawLabels(canvas.Dc(), strip, EditingStates, std::wstring());
+    for (int i = 0; i < static_cast<int>(std::size(EditingStates)); ++i) {
+        const Theme& theme = Themes[EditingStates[i].theme];
+        Panel panel(theme, CXTPReportPaintManager(theme.theme).GetColumnStyle(), dpi);
+        EditingStates[i].show(panel);
+        panel.DrawInto(canvas.Dc(), CPoint(strip.Left(i), strip.Top()));
+    }
+    return Save(canvas, folder + L"\\editing-" + std::to_wstring(dpi) + L".bmp");
 }
 
 CWinApp theApp;
@@ -235,6 +317,10 @@ int main(int argc, char** argv) {
                     isWhole = WritePicture(theme, style, dpi, folder) && isWhole;
             }
         }
+    }
+    for (const int dpi : Resolutions) {
+        if (!isGolden || dpi == 96)
+            isWhole = WriteEditingPicture(dpi, folder) && isWhole;
     }
     return isWhole ? 0 : 1;
 }

@@ -421,6 +421,20 @@ TEST_F(MinMaxTest, AClickOnTheOtherNumberTellsOfTheFirst) {
     EXPECT_EQ(grid.GetActiveItem(), second);
 }
 
+TEST_F(MinMaxTest, AnEditorThatTheHostOpensTellsOfTheFirstAsWell) {
+    first->BeginDrag(MinPoint(), CellRect());
+    TypeText(L"3");
+    first->BeginDrag(MaxPoint(), CellRect());
+    ASSERT_EQ(grid.edited.size(), 1u);
+    EXPECT_EQ(grid.edited[0].value, 3.0f);
+    EXPECT_EQ(grid.edited[0].isMinimum, 1);
+    EXPECT_EQ(EditorText(), L"20");
+    TypeText(L"4");
+    grid.EditItem(nullptr);
+    ASSERT_EQ(grid.edited.size(), 2u);
+    EXPECT_EQ(grid.edited[1].isMinimum, 0);
+}
+
 TEST_F(MinMaxTest, AHostThatAnswersChangesTheScale) {
     grid.answer = [](const KyRangeEdited& edited) {
         edited.isMinimum ? edited.item->SetMin(edited.value) : edited.item->SetMax(edited.value);

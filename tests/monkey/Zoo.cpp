@@ -3,9 +3,11 @@
 
 #include "common/Translation.h"
 #include "plotcells/KyBarChartRecordItem.h"
-#include "plotcells/KyDragLineRecordItem.h"
+#include "plotcells/KyDragLineMinMaxRecordItem.h"
 #include "plotcells/KyHistogramRecordItem.h"
 #include "plotcells/KyPlotRecordReportControl.h"
+#include "reportgrid/KyInPlaceEdit.h"
+#include "reportgrid/KyReportRecordItemFloat.h"
 
 #include <afxext.h>
 
@@ -64,6 +66,7 @@ private:
     void Fill(CXTPReportControl& grid, int index);
     CXTPReportRecord* MakeRecord(int index, int number);
     void DoMischief(int index);
+    void EditSomething(CXTPReportControl& grid);
 
     Dice& m_dice;
     Heard& m_heard;
@@ -132,6 +135,9 @@ void Yard::CreateGrid(int index) {
         column->SetMinWidth(10 * i);
         grid.AddColumn(column);
     }
+    grid.AllowEdit(index != 0 || m_dice.OneIn(2));
+    if (index == 2)
+        grid.SetInplaceEdit(new KyInPlaceEdit);
     if (auto* chooser = dynamic_cast<KyReportControl*>(&grid))
         chooser->EnableShowHideColumns({L"Column 0"});
     Fill(grid, index);
@@ -151,7 +157,7 @@ void Yard::Fill(CXTPReportControl& grid, int index) {
 KyPlotRecordItem* MakePlot(int number) {
     const auto middle = static_cast<float>(number % 10);
     if (number % 5 == 3) {
-        auto* const slider = new KyDragLineRecordItem;
+        auto* const slider = number % 2 ? new KyDragLineRecordItem : new KyDragLineMinMaxRecordItem;
         slider->SetTargetValues(middle, 0, 10);
         slider->SetLimitValues({{2, RGB(0, 128, 0)}, {8, RGB(128, 0, 0)}});
         slider->ShowLimits(true);
@@ -178,7 +184,10 @@ CXTPReportRecord* Yard::MakeRecord(int index, int number) {
     link->AddHyperlink(new CXTPReportHyperlink(0, 4));
     link->SetTooltip(_T("a tip"));
     record->AddItem(link);
-    record->AddItem(new CXTPReportRecordItemNumber(number % 13));
+    if (number % 2)
+        record->AddItem(new CXTPReportRecordItemNumber(number % 13));
+    else
+        record->AddItem(new KyReportRecordItemFloat(static_cast<float>(number % 13), 10, 2));
     auto* const plot = MakePlot(number);
     plot->m_valueChanged.connect([this, index](float, float, float) {
         ++m_heard.draggedValues;
@@ -200,6 +209,15 @@ BOOL Yard::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) {
     return CFrameWnd::OnNotify(wParam, lParam, result);
 }
 
+void Yard::EditSomething(CXTPReportControl& grid) {
+    if (grid.GetRows()->GetCount() == 0 || grid.GetColumns()->GetCount() == 0)
+        return;
+    XTP_REPORTRECORDITEM_ARGS args;
+    args.pRow = grid.GetRows()->GetAt(m_dice.Below(grid.GetRows()->GetCount()));
+    args.pColumn = grid.GetColumns()->GetAt(m_dice.Below(grid.GetColumns()->GetCount()));
+    grid.EditItem(&args);
+}
+
 /// What an owner may do while it is told of something.
 void Yard::DoMischief(int index) {
     if (!isMischiefAllowed || m_isInMischief || !m_grids[index] || !m_dice.OneIn(6))
@@ -207,7 +225,7 @@ void Yard::DoMischief(int index) {
     m_isInMischief = true;
     ++m_heard.mischief;
     CXTPReportControl& grid = *m_grids[index];
-    switch (m_dice.Below(12)) {
+    switch (m_dice.Below(14)) {
     case 0:
         m_grids[index].reset();
         break;
@@ -242,6 +260,12 @@ void Yard::DoMischief(int index) {
         break;
     case 10:
         grid.SetReportHeader(new CXTPReportHeader(&grid, grid.GetColumns()));
+        break;
+    case 11:
+        grid.AllowEdit(m_dice.OneIn(2));
+        break;
+    case 12:
+        EditSomething(grid);
         break;
     default:
         ::MessageBox(m_hWnd, _T("mischief"), _T("Yard"), MB_OK);

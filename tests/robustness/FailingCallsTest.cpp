@@ -4,6 +4,7 @@
 
 #include "../support/ClipboardContent.h"
 
+#include <reportgrid/KyInPlaceEdit.h>
 #include <reportgrid/KyReportControlHelpers.h>
 
 #include <chrono>
@@ -663,6 +664,61 @@ private:
 };
 
 TEST(FailingCalls, DraggingAColumn) { Try<DragColumn>(); }
+
+// --- Editing ---------------------------------------------------------------------------------------------------------
+
+/// A text is typed into a cell by keys, then a number into the one beside it, which is reached by Tab.
+class EditCells : public Scenario {
+public:
+    EditCells() : Scenario("edit two cells") {
+        m_rig.grid->AllowEdit(TRUE);
+        m_rig.grid->SetInplaceEdit(new KyInPlaceEdit);
+    }
+    void Act() override {
+        {
+            const calltable::Pause pause;
+            ++m_count;
+            m_typed.Format(L"%d", 1000 + m_count);
+            m_rig.grid->EditItem(nullptr); // whatever a failure has left
+            Text().SetValue(L"former");
+            Number().SetValue(-1);
+            m_rig.grid->SetFocus();
+            m_rig.grid->SetFocusedRow(m_rig.grid->GetRows()->GetAt(2));
+            m_rig.grid->SetFocusedColumn(m_rig.grid->GetColumns()->GetAt(0));
+        }
+        ::SendMessageW(m_rig.grid->m_hWnd, WM_KEYDOWN, VK_F2, 1);
+        Type(VK_TAB);
+        Type(VK_RETURN);
+        m_rig.Paint();
+    }
+    std::string Broken() override {
+        if (m_rig.grid->GetActiveItem() != nullptr && m_rig.grid->GetInplaceEdit()->m_hWnd == nullptr)
+            return "an editor without a window";
+        const CString text = Text().GetValue();
+        return text == L"former" || text == m_typed ? "" : "a text that nobody typed";
+    }
+    std::string Wrong() override {
+        const bool isTaken = Text().GetValue() == m_typed && Number().GetValue() == 1000 + m_count;
+        return isTaken && m_rig.grid->GetActiveItem() == nullptr ? "" : "the cells were not edited";
+    }
+
+private:
+    CXTPReportRecord& Record() { return *m_rig.grid->GetRows()->GetAt(2)->GetRecord(); }
+    CXTPReportRecordItemText& Text() { return static_cast<CXTPReportRecordItemText&>(*Record().GetItem(0)); }
+    CXTPReportRecordItemNumber& Number() { return static_cast<CXTPReportRecordItemNumber&>(*Record().GetItem(1)); }
+    void Type(WPARAM key) {
+        if (m_rig.grid->GetActiveItem() == nullptr)
+            return;
+        const HWND edit = m_rig.grid->GetInplaceEdit()->m_hWnd;
+        ::SendMessageW(edit, EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(m_typed.GetString()));
+        ::SendMessageW(edit, WM_KEYDOWN, key, 1);
+    }
+    GridRig m_rig;
+    CString m_typed;
+    int m_count = 0;
+};
+
+TEST(FailingCalls, EditingCells) { Try<EditCells>(); }
 
 TEST(FailingCalls, LifeOfAGrid) { Try<Life>(); }
 

@@ -75,6 +75,23 @@ TEST(Leaks, LifetimesOfAGrid) {
     });
 }
 
+TEST(Leaks, EditorsOpenedAndClosed) {
+    GridRig rig;
+    rig.grid->AllowEdit(TRUE);
+    ExpectNoGrowth("editors opened and closed", Repetitions(2000, 40), [&rig](int i) {
+        XTP_REPORTRECORDITEM_ARGS args;
+        args.pRow = rig.grid->GetRows()->GetAt(i % 8);
+        args.pColumn = rig.grid->GetColumns()->GetAt(i % 2);
+        rig.grid->EditItem(&args);
+        ASSERT_NE(rig.grid->GetActiveItem(), nullptr);
+        if (i % 3 == 0)
+            rig.grid->GetInplaceEdit()->ReplaceSel(L"12");
+        if (i % 4 == 0)
+            rig.grid->GetInplaceEdit()->EndEdit(FALSE);
+        rig.grid->EditItem(nullptr);
+    });
+}
+
 TEST(Leaks, LifetimesOfTheProgramsMainWindow) {
     const GridRig rig; // the thread's input window lives as long as there is another one
     const std::wstring file = std::wstring(L"" PROFILER_DATA_DIR) + L"/penguins.csv";

@@ -172,7 +172,7 @@ template <class Plot>
 Plot* GridRig::AddPlot() {
     CXTPReportRecord* const record = grid->AddRecord(new CXTPReportRecord);
     record->AddItem(new CXTPReportRecordItemText(L"Another plot"));
-    record->AddItem(new CXTPReportRecordItemNumber(0));
+    record->AddItem(new KyReportRecordItemFloat(0, 100, 50)); // red
     auto* const plot = new Plot;
     record->AddItem(plot);
     return plot;
@@ -209,6 +209,8 @@ void GridRig::Fill() {
     slider->SetTargetValues(50, 0, 100);
     slider->SetLimitValues({{25, RGB(0, 128, 0)}, {75, RGB(0, 128, 0)}});
     slider->ShowLimits(true);
+    auto* const scale = AddPlot<KyDragLineMinMaxRecordItem>();
+    scale->SetTargetValues(50, 0, 100);
     grid->Populate();
     SelectThirdRow();
 }

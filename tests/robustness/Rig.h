@@ -2,9 +2,11 @@
 #pragma once
 
 #include <plotcells/KyBarChartRecordItem.h>
+#include <plotcells/KyDragLineMinMaxRecordItem.h>
 #include <plotcells/KyDragLineRecordItem.h>
 #include <plotcells/KyHistogramRecordItem.h>
 #include <plotcells/KyPlotRecordReportControl.h>
+#include <reportgrid/KyReportRecordItemFloat.h>
 
 #include "CallTable.h"
 
@@ -54,7 +56,7 @@ void BecomeIdle();
 void RemovePictures(const std::wstring& prefix);
 
 /// A window with a grid: a text, a number and a plot column; eight records with bars of every shape, then two
-/// with histograms and one with a slider.
+/// with histograms and two with sliders, one of them with a scale that can be typed.
 class GridRig {
 public:
     explicit GridRig(bool visible = true);

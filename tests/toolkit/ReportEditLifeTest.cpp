@@ -221,6 +221,20 @@ TEST_F(EditLifeTest, DestroyingTheEditorsWindowTakesTheText) {
     EXPECT_TRUE(IsEditing());
 }
 
+TEST_F(EditLifeTest, AnEditorThatNeverHadTheKeyboardKeepsTheTextAsWell) {
+    m_grid.EditItem(nullptr);
+    m_owner.ShowWindow(SW_HIDE);
+    ::SetFocus(nullptr);
+    Edit(3);
+    ASSERT_TRUE(IsEditing());
+    ::SetFocus(nullptr);
+    Edit(4);
+    Editor()->ReplaceSel(_T("unseen"));
+    Editor()->DestroyWindow();
+    EXPECT_FALSE(IsEditing());
+    EXPECT_EQ(Item(4, 0)->GetValue(), _T("unseen"));
+}
+
 TEST_F(EditLifeTest, AnotherEditorTakesTheText) {
     auto* const another = new CXTPReportInplaceEdit;
     m_grid.SetInplaceEdit(another);

@@ -220,6 +220,7 @@ TEST_F(EditTest, RowsAreNotDrawnOverTheEditor) {
     CWindowDC dc(Editor());
     const COLORREF frame = dc.GetPixel(0, 0);
     m_grid.RedrawControl();
+    EXPECT_FALSE(::GetUpdateRect(Editor()->m_hWnd, nullptr, FALSE)) << "nor has it to be drawn again";
     m_grid.UpdateWindow();
     EXPECT_EQ(dc.GetPixel(0, 0), frame);
 }

@@ -54,6 +54,7 @@ void AppendViewMenu(CMenu& bar) {
         rows.AppendMenu(MF_STRING, ID_VIEW_ROW_HEIGHT_FIRST + i, heights[i]);
     CMenu view;
     view.CreatePopupMenu();
+    view.AppendMenu(MF_STRING, ID_VIEW_DETAILS, Translate("Menu", "Column &details\tAlt+Enter"));
     view.AppendMenu(MF_STRING, ID_VIEW_MESSAGES, Translate("Menu", "&Messages\tCtrl+M"));
     view.AppendMenu(MF_SEPARATOR);
     AppendPopup(view, rows, Translate("Menu", "&Row height"));
@@ -100,6 +101,8 @@ CString CommandDescription(UINT command) {
         return Translate("Copies the whole table for word processors and spreadsheets, with the plots as pictures.");
     case ID_APP_EXIT:
         return Translate("Ends the program and keeps the layout of the grid.");
+    case ID_VIEW_DETAILS:
+        return Translate("Tells everything that is known of the selected column. A double click does as well.");
     case ID_VIEW_MESSAGES:
         return Translate("Shows or hides the list of what was odd about the file.");
     case ID_HELP_KEYS:

@@ -3,12 +3,14 @@
 
 #include "common/KyMessages.h"
 #include "common/Translation.h"
+#include "reportgrid/KyInPlaceEdit.h"
 #include "statistics/DisplayText.h"
+#include "window/ShareItem.h"
 #include "window/ValueItem.h"
 #include "window/WideText.h"
 
+#include <algorithm>
 #include <cmath>
-#include <limits>
 
 namespace {
 
@@ -24,7 +26,9 @@ enum Item {
     PlotItem,
     HistogramItem,
     TargetItem,
-    InsideItem
+    InsideItem,
+    ScaleItem,
+    RequiredItem
 };
 
 constexpr wchar_t kSection[] = L"Columns";
@@ -85,10 +89,16 @@ CString MarkText(LimitMark mark) {
 
 } // namespace
 
+BEGIN_MESSAGE_MAP(ProfileGrid, KyPlotRecordReportControl)
+    ON_MESSAGE(WM_KYRANGEEDITED, &ProfileGrid::OnRangeEdited)
+END_MESSAGE_MAP()
+
 BOOL ProfileGrid::CreateGrid(CWnd* parent, UINT id) {
     if (!Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_CLIPSIBLINGS, CRect(0, 0, 0, 0), parent, id))
         return FALSE;
     SetMultipleSelection(FALSE);
+    AllowEdit(TRUE);
+    SetInplaceEdit(new KyInPlaceEdit);
     AddColumns();
     SetUpPaintManager();
     SetEmptyText(DefaultEmptyText());
@@ -107,34 +117,42 @@ void ProfileGrid::AddColumns() {
         CString tip;
     };
     const Layout layouts[] = {
-        {NameItem, kNameColumn, Translate("Column"), 150, DT_LEFT, Translate("The column's name in the file")},
-        {TypeItem, L"Type", Translate("Type"), 64, DT_LEFT, Translate("What most of the column's cells are")},
-        {CountItem, L"Count", Translate("Count"), 60, DT_RIGHT, Translate("Rows with a value")},
-        {MissingItem, L"Missing", Translate("Missing"), 64, DT_RIGHT, Translate("Rows without a value")},
-        {MinimumItem, L"Minimum", Translate("Minimum"), 80, DT_RIGHT, Translate("The smallest value")},
-        {MeanItem, L"Mean", Translate("Mean"), 80, DT_RIGHT, Translate("The arithmetic mean")},
-        {MaximumItem, L"Maximum", Translate("Maximum"), 80, DT_RIGHT, Translate("The largest value")},
-        {PlotItem, L"Plot", Translate("Distribution"), 260, DT_LEFT,
+        {NameItem, kNameColumn, Translate("Column"), 130, DT_LEFT, Translate("The column's name in the file")},
+        {TypeItem, L"Type", Translate("Type"), 58, DT_LEFT, Translate("What most of the column's cells are")},
+        {CountItem, L"Count", Translate("Count"), 52, DT_RIGHT, Translate("Rows with a value")},
+        {MissingItem, L"Missing", Translate("Missing"), 60, DT_RIGHT, Translate("Rows without a value")},
+        {MinimumItem, L"Minimum", Translate("Minimum"), 70, DT_RIGHT, Translate("The smallest value")},
+        {MeanItem, L"Mean", Translate("Mean"), 66, DT_RIGHT, Translate("The arithmetic mean")},
+        {MaximumItem, L"Maximum", Translate("Maximum"), 70, DT_RIGHT, Translate("The largest value")},
+        {PlotItem, L"Plot", Translate("Distribution"), 230, DT_LEFT,
          // xgettext:no-c-format
          Translate("Bar: mean ± standard deviation. Whiskers: 5 % and 95 % quantiles. Gold: median. Red: minimum and "
                    "maximum. Drag the bar's ends and the median.")},
-        {HistogramItem, L"Histogram", Translate("Histogram"), 170, DT_LEFT,
+        {HistogramItem, L"Histogram", Translate("Histogram"), 140, DT_LEFT,
          Translate("How often values come, the darker the more often. Red: limits. Gold: target. All three can be "
                    "dragged. Of texts the most frequent ones are shown.")},
-        {TargetItem, L"Target", Translate("Target"), 110, DT_LEFT,
+        {TargetItem, L"Target", Translate("Target"), 90, DT_LEFT,
          Translate("The target from minimum to maximum, to be dragged. Marks: quartiles.")},
-        {InsideItem, L"Inside", Translate("Inside"), 66, DT_RIGHT,
-         Translate("The share of the column's values from the lower to the upper limit")},
+        {ScaleItem, L"Scale", Translate("Scale"), 110, DT_LEFT,
+         Translate(
+             "The target on a scale of your own: click one of its ends and type another. Enter or a click elsewhere "
+             "takes it.")},
+        {InsideItem, L"Inside", Translate("Inside"), 58, DT_RIGHT,
+         Translate("The share of the column's values from the lower to the upper limit; red when it is too small")},
+        {RequiredItem, L"Required", Translate("Limit"), 56, DT_RIGHT,
+         Translate("The smallest share that is not red. F2, a double click or typing edits it.")},
     };
     for (const Layout& layout : layouts) {
         auto* column = new CXTPReportColumn(layout.item, layout.caption, layout.name,
                                             GetPaintManager()->ScaleForDpi(layout.width));
         column->SetAlignment(layout.alignment);
-        const bool isPlot = layout.item == PlotItem || layout.item == HistogramItem || layout.item == TargetItem;
+        const bool isPlot = layout.item == PlotItem || layout.item == HistogramItem || layout.item == TargetItem ||
+                            layout.item == ScaleItem;
         column->SetMinWidth(GetPaintManager()->ScaleForDpi(isPlot ? 80 : 40));
         column->SetTooltip(layout.tip);
         column->SetSortable(!isPlot);
         column->AllowRemove(layout.item != NameItem);
+        column->SetEditable(layout.item == RequiredItem);
         AddColumn(column);
     }
 }
@@ -219,7 +237,9 @@ void ProfileGrid::AddPlots(CXTPReportRecord& record, const ColumnFile& file, std
         AddLimits(record, row);
     } else {
         record.AddItem(new CXTPReportRecordItemText);
-        record.AddItem(new ValueItem(L""));
+        record.AddItem(new ShareItem);
+        record.AddItem(new CXTPReportRecordItemText);
+        record.AddItem(new RequiredShareItem(nullptr));
     }
 }
 
@@ -228,19 +248,33 @@ void ProfileGrid::AddLimits(CXTPReportRecord& record, LimitRow row) {
     const statistics::Summary& values = row.profile->ValueSummary();
     row.limits = ColumnPlotItem::InitialLimits(values);
     row.target = new ColumnTargetItem(values, ValueTextOf(*row.profile));
-    row.target->SetListener(
-        {[this, index](double target) { OnMarkMoved(index, LimitMark::Target, target, m_limitRows[index].target); },
-         [this, index](double target) {
-             OnLimitsDragged(index, KyMissingValueF, PlotValue(target), KyMissingValueF);
-         }});
+    ListenTo(*row.target, index);
     record.AddItem(row.target);
-    row.inside = new ValueItem(L"");
+    row.inside = new ShareItem;
+    row.inside->SetRequired(RequiredShareItem::kUsual);
     record.AddItem(row.inside);
+    if (row.profile->type == csv::ColumnType::Number) {
+        row.scale = new ColumnScaleItem(values);
+        ListenTo(*row.scale, index);
+        record.AddItem(row.scale);
+    } else {
+        record.AddItem(new CXTPReportRecordItemText);
+    }
+    record.AddItem(new RequiredShareItem([this, index](float percent) { OnRequired(index, percent); }));
     if (row.plot != nullptr)
         Connect(*row.plot, index);
     Connect(*row.histogram, index);
     m_limitRows.push_back(row);
     ShowLimits(m_limitRows.back(), row.limits, nullptr);
+}
+
+template <class Slider>
+void ProfileGrid::ListenTo(Slider& slider, std::size_t index) {
+    slider.SetListener(
+        {[this, index, &slider](double target) { OnMarkMoved(index, LimitMark::Target, target, &slider); },
+         [this, index](double target) {
+             OnLimitsDragged(index, KyMissingValueF, PlotValue(target), KyMissingValueF);
+         }});
 }
 
 template <class Plot>
@@ -263,9 +297,10 @@ void ProfileGrid::ShowLimits(LimitRow& row, const statistics::Limits& limits, co
         row.histogram->SetLimits(limits);
     if (row.target != dragged)
         row.target->SetTarget(PlotValue(limits.target));
-    const std::optional<double> share =
-        statistics::ShareInside(statistics::ValuesOf(*row.column, *row.profile), limits.lower, limits.upper);
-    row.inside->Set(FromUtf8(statistics::ShareText(share)), share.value_or(std::numeric_limits<double>::quiet_NaN()));
+    if (row.scale != nullptr && row.scale != dragged)
+        row.scale->SetTarget(PlotValue(limits.target));
+    row.inside->SetShare(
+        statistics::ShareInside(statistics::ValuesOf(*row.column, *row.profile), limits.lower, limits.upper));
 }
 
 /// A drag has come to its end: the limits are others now.
@@ -282,8 +317,59 @@ void ProfileGrid::OnLimitsDragged(std::size_t index, float lower, float target, 
     RedrawControl();
     const auto text = ValueTextOf(*row.profile);
     Tell(TranslateFormat("Status bar", "%1%: %2% of the values lie from %3% to %4%.",
-                         FromUtf8(row.column->name).GetString(), row.inside->GetValue().GetString(),
+                         FromUtf8(row.column->name).GetString(), row.inside->Text().GetString(),
                          text(row.limits.lower).GetString(), text(row.limits.upper).GetString()));
+}
+
+void ProfileGrid::OnRequired(std::size_t index, float percent) {
+    LimitRow& row = m_limitRows[index];
+    row.inside->SetRequired(percent);
+    RedrawControl();
+    const CString name = FromUtf8(row.column->name);
+    if (percent == KyMissingValueF)
+        Tell(TranslateFormat("Status bar", "%1%: any share will do.", name.GetString()));
+    else
+        Tell(TranslateFormat("Status bar", "%1%: %2% of the values lie inside, %3% %% are asked for.", name.GetString(),
+                             row.inside->Text().GetString(), Number(percent).GetString()));
+}
+
+/// The user has typed an end of a scale.
+LRESULT ProfileGrid::OnRangeEdited(WPARAM edited, LPARAM) {
+    const auto& range = *reinterpret_cast<const KyRangeEdited*>(edited);
+    const auto at = std::ranges::find(m_limitRows, range.item, [](const LimitRow& row) {
+        return static_cast<const KyDragLineMinMaxRecordItem*>(row.scale);
+    });
+    if (at == m_limitRows.end() || range.item == nullptr)
+        return 0;
+    ColumnScaleItem& scale = *at->scale;
+    const double minimum = range.isMinimum ? range.value : scale.GetMin();
+    const double maximum = range.isMinimum ? scale.GetMax() : range.value;
+    const CString name = FromUtf8(at->column->name), from = Number(scale.GetMin()), to = Number(scale.GetMax());
+    if (!std::isfinite(range.value)) {
+        Tell(TranslateFormat("Status bar",
+                             "%1%: an end of a scale must be finite. The scale still runs from %2% to %3%.",
+                             name.GetString(), from.GetString(), to.GetString()));
+    } else if (!(minimum < maximum)) {
+        Tell(TranslateFormat("Status bar",
+                             "%1%: the minimum %2% is not below the maximum %3%. The scale still runs from %4% to %5%.",
+                             name.GetString(), Number(minimum).GetString(), Number(maximum).GetString(),
+                             from.GetString(), to.GetString()));
+    } else {
+        scale.SetMin(minimum);
+        scale.SetMax(maximum);
+        RedrawControl();
+        Tell(TranslateFormat("Status bar", "%1%: the scale now runs from %2% to %3%.", name.GetString(),
+                             Number(minimum).GetString(), Number(maximum).GetString()));
+    }
+    return 0;
+}
+
+std::optional<std::size_t> ProfileGrid::FocusedColumnOfFile() const {
+    const CXTPReportRow* const row = GetFocusedRow();
+    const CXTPReportRecord* const record = row != nullptr ? row->GetRecord() : nullptr;
+    if (record == nullptr)
+        return std::nullopt;
+    return static_cast<std::size_t>(record->GetIndex()); // records stand in the order of the file's columns
 }
 
 /// During a drag the limits stay as they were, and everything shows what they would be.

@@ -6,15 +6,18 @@
 #include "window/ColumnFile.h"
 #include "window/ColumnHistogramItem.h"
 #include "window/ColumnPlotItem.h"
+#include "window/ColumnScaleItem.h"
 #include "window/ColumnTargetItem.h"
 
 #include <functional>
+#include <optional>
 #include <vector>
 
-class ValueItem;
+class ShareItem;
 
 /// Shows the profiles of a file's columns. The user drags the limits of a column in any of its plots; the other plots
-/// and the share of the values inside follow, and `SetStatusListener` is told what goes on meanwhile.
+/// and the share of the values inside follow, and `SetStatusListener` is told what goes on meanwhile. The scale of a
+/// column and the share that is asked for are typed.
 class ProfileGrid : public KyPlotRecordReportControl {
 public:
     /// Called on the user-interface thread with a sentence for the status bar.
@@ -32,12 +35,17 @@ public:
 
     void ApplyTheme(int theme);
 
-    /// In pixels at 96 DPI; 22 at first.
+    /// The place of the focused row's column in the file; none without a row.
+    std::optional<std::size_t> FocusedColumnOfFile() const;
+
+    /// In pixels at 96 DPI; 34 at first.
     int RowHeight() const { return m_rowHeight; }
     void SetRowHeight(int pixels);
 
 protected:
     void OnPlotRecordItemDragCancelled() override;
+    LRESULT OnRangeEdited(WPARAM edited, LPARAM);
+    DECLARE_MESSAGE_MAP()
 
 private:
     /// A row with limits: a column of numbers or dates.
@@ -47,7 +55,8 @@ private:
         ColumnPlotItem* plot = nullptr; ///< null for dates; owned by its record, as the following
         ColumnHistogramItem* histogram = nullptr;
         ColumnTargetItem* target = nullptr;
-        ValueItem* inside = nullptr;
+        ColumnScaleItem* scale = nullptr; ///< null for dates
+        ShareItem* inside = nullptr;
         statistics::Limits limits;
     };
 
@@ -57,6 +66,9 @@ private:
     void AddLimits(CXTPReportRecord& record, LimitRow row);
     template <class Plot>
     void Connect(Plot& plot, std::size_t index);
+    template <class Slider>
+    void ListenTo(Slider& slider, std::size_t index);
+    void OnRequired(std::size_t index, float percent);
     void OnLimitsDragged(std::size_t index, float lower, float target, float upper);
     void OnMarkMoved(std::size_t index, LimitMark mark, double value, const KyPlotRecordItem* dragged);
     void TakeMoveBack();
@@ -66,7 +78,7 @@ private:
 
     std::function<void(const CString&)> m_status;
     CString m_emptyText;
-    int m_rowHeight = 22;
+    int m_rowHeight = 34;
     std::vector<LimitRow> m_limitRows;
     std::size_t m_movedRow = 0; ///< the row in which a mark was moved last
 };

@@ -4,6 +4,7 @@
 #include "common/Translation.h"
 #include "resource.h"
 #include "themes/Themes.h"
+#include "window/ColumnDetailsDialog.h"
 #include "window/DpiScale.h"
 #include "window/MainMenu.h"
 #include "window/WideText.h"
@@ -69,6 +70,8 @@ BEGIN_MESSAGE_MAP(ProfilerFrame, CFrameWnd)
     ON_COMMAND(ID_FILE_EXPORT_HTML, &ProfilerFrame::OnFileExportHtml)
     ON_COMMAND(ID_FILE_VIEW_IN_BROWSER, &ProfilerFrame::OnFileViewInBrowser)
     ON_COMMAND(ID_EDIT_COPY_GRID, &ProfilerFrame::OnEditCopyGrid)
+    ON_COMMAND(ID_VIEW_DETAILS, &ProfilerFrame::OnViewDetails)
+    ON_NOTIFY(NM_DBLCLK, AFX_IDW_PANE_FIRST, &ProfilerFrame::OnGridDoubleClick)
     ON_COMMAND(ID_VIEW_MESSAGES, &ProfilerFrame::OnViewMessages)
     ON_COMMAND_RANGE(ID_VIEW_THEME_FIRST, ID_VIEW_THEME_LAST, &ProfilerFrame::OnViewTheme)
     ON_COMMAND_RANGE(ID_VIEW_ROW_HEIGHT_FIRST, ID_VIEW_ROW_HEIGHT_LAST, &ProfilerFrame::OnViewRowHeight)
@@ -79,6 +82,7 @@ BEGIN_MESSAGE_MAP(ProfilerFrame, CFrameWnd)
     ON_UPDATE_COMMAND_UI(ID_FILE_EXPORT_HTML, &ProfilerFrame::OnUpdateExport)
     ON_UPDATE_COMMAND_UI(ID_FILE_VIEW_IN_BROWSER, &ProfilerFrame::OnUpdateExport)
     ON_UPDATE_COMMAND_UI(ID_EDIT_COPY_GRID, &ProfilerFrame::OnUpdateExport)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_DETAILS, &ProfilerFrame::OnUpdateViewDetails)
     ON_UPDATE_COMMAND_UI(ID_VIEW_MESSAGES, &ProfilerFrame::OnUpdateViewMessages)
     ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_THEME_FIRST, ID_VIEW_THEME_LAST, &ProfilerFrame::OnUpdateViewTheme)
     ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_ROW_HEIGHT_FIRST, ID_VIEW_ROW_HEIGHT_LAST, &ProfilerFrame::OnUpdateViewRowHeight)
@@ -221,8 +225,8 @@ void ProfilerFrame::ShowProgress() {
 
 /// Shows what was read, if it is read.
 void ProfilerFrame::FinishReading() {
-    // While a mark or a header is dragged, the grid keeps its rows; the timer asks again.
-    if (m_reading == nullptr || !m_reading->IsDone() || ::GetCapture() != nullptr)
+    // While a mark or a header is dragged, or a number is being typed, the grid keeps its rows; the timer asks again.
+    if (m_reading == nullptr || !m_reading->IsDone() || ::GetCapture() != nullptr || m_grid.GetActiveItem() != nullptr)
         return;
     const std::unique_ptr<FileReading> reading = std::move(m_reading);
     LeaveReading();
@@ -335,6 +339,22 @@ void ProfilerFrame::GetMessageString(UINT id, CString& message) const {
 
 // --- View and help ---------------------------------------------------------------------------------------------------
 
+void ProfilerFrame::OnViewDetails() {
+    const std::optional<std::size_t> column = m_grid.FocusedColumnOfFile();
+    if (m_file != nullptr && column && *column < m_file->profiles.size())
+        ColumnDetailsDialog(m_file->profiles[*column], this).DoModal();
+}
+
+/// Where a double click neither drags nor edits, it asks for the details.
+void ProfilerFrame::OnGridDoubleClick(NMHDR* header, LRESULT*) {
+    const auto* clicked = reinterpret_cast<const XTP_NM_REPORTRECORDITEM*>(header);
+    const bool isPlot = dynamic_cast<const KyPlotRecordItem*>(clicked->pItem) != nullptr;
+    const bool isEdited = clicked->pColumn != nullptr && clicked->pColumn->IsEditable() && clicked->pItem != nullptr &&
+                          clicked->pItem->IsEditable();
+    if (clicked->pRow != nullptr && !isPlot && !isEdited)
+        OnViewDetails();
+}
+
 void ProfilerFrame::OnViewMessages() {
     if (m_messages.IsWindowVisible())
         m_messages.SendMessage(WM_CLOSE);
@@ -358,7 +378,9 @@ void ProfilerFrame::OnViewRowHeight(UINT id) {
 void ProfilerFrame::OnHelpKeys() {
     const CString text = Translate("Drag an end of a bar or a red mark: set a limit\n"
                                    "Drag a gold mark or a slider: set the target\n"
-                                   "Esc: put the mark back, or stop reading\n\n"
+                                   "Click a number under a slider: type an end of its scale\n"
+                                   "F2 or double-click under Limit: type a share\n"
+                                   "Esc: put the mark or the number back, or stop reading\n\n"
                                    "Click a header: sort\n"
                                    "Shift+click: sort by several columns\n"
                                    "Drag a header: move the column\n"
@@ -371,7 +393,8 @@ void ProfilerFrame::OnHelpKeys() {
                                    "Alt+Left, Right: change its width\n"
                                    "Alt+Plus: best width, Ctrl+Plus of all columns\n"
                                    "Alt+Down: choose columns\n"
-                                   "Ctrl+F1: tip of the cell\n\n"
+                                   "Ctrl+F1: tip of the cell\n"
+                                   "Alt+Enter, double click: details of the column\n\n"
                                    "Ctrl+O: open a file\n"
                                    "Ctrl+E: export as HTML, Ctrl+B: open in the browser\n"
                                    "Ctrl+Shift+C: copy the table, Ctrl+C: copy the row\n"
@@ -391,6 +414,8 @@ void ProfilerFrame::OnAppAbout() {
 void ProfilerFrame::OnUpdateFileReload(CCmdUI* item) { item->Enable(m_file != nullptr && !IsReading()); }
 
 void ProfilerFrame::OnUpdateFileStop(CCmdUI* item) { item->Enable(IsReading()); }
+
+void ProfilerFrame::OnUpdateViewDetails(CCmdUI* item) { item->Enable(m_grid.FocusedColumnOfFile().has_value()); }
 
 void ProfilerFrame::OnUpdateViewMessages(CCmdUI* item) { item->SetCheck(m_messages.IsWindowVisible() ? 1 : 0); }
 

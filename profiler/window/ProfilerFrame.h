@@ -43,6 +43,8 @@ protected:
     void OnFileExportHtml();
     void OnFileViewInBrowser();
     void OnEditCopyGrid();
+    void OnViewDetails();
+    void OnGridDoubleClick(NMHDR* header, LRESULT* result);
     void OnViewMessages();
     void OnViewTheme(UINT id);
     void OnViewRowHeight(UINT id);
@@ -51,6 +53,7 @@ protected:
     void OnUpdateFileReload(CCmdUI* item);
     void OnUpdateFileStop(CCmdUI* item);
     void OnUpdateExport(CCmdUI* item);
+    void OnUpdateViewDetails(CCmdUI* item);
     void OnUpdateViewMessages(CCmdUI* item);
     void OnUpdateViewTheme(CCmdUI* item);
     void OnUpdateViewRowHeight(CCmdUI* item);

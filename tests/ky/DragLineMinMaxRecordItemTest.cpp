@@ -326,6 +326,7 @@ TEST_F(MinMaxTest, AClickOnANumberOpensAnEditorOverIt) {
     const CRect rc = CellRect();
     EXPECT_EQ(place, CRect(rc.left + 1, rc.top + 1 + rc.Height() / 2, rc.right - 1 - rc.Width() / 2, rc.bottom - 1));
     EXPECT_EQ(Editor().GetStyle() & ES_RIGHT, 0u);
+    EXPECT_EQ(static_cast<short>(LOWORD(Editor().SendMessage(EM_POSFROMCHAR, 0))), 0) << "right behind the frame";
 
     Click(MaxPoint());
     EXPECT_EQ(EditorText(), L"20");

@@ -4,6 +4,11 @@
 #include "common/Translation.h"
 #include "resource.h"
 #include "window/ColumnPlotItem.h"
+#include "window/ShareItem.h"
+
+#include "reportgrid/KyDialogReportControlTheme.h"
+
+#include "../support/QueuedKeys.h"
 
 #include <gmock/gmock.h>
 
@@ -16,7 +21,7 @@ using testing::ElementsAre;
 using testing::EndsWith;
 using testing::IsEmpty;
 
-/// Items of a record, as the columns stand from left to right.
+/// Items of a record.
 enum Item {
     NameItem,
     TypeItem,
@@ -28,7 +33,9 @@ enum Item {
     PlotItem,
     HistogramItem,
     TargetItem,
-    InsideItem
+    InsideItem,
+    ScaleItem,
+    RequiredItem
 };
 
 TEST_F(ProfilerFrameTest, WithoutAFileItSaysWhatToDo) {
@@ -55,7 +62,8 @@ TEST_F(ProfilerFrameTest, ShowsOneRowPerColumn) {
     EXPECT_EQ(Cell(6, TypeItem), L"Text");
     EXPECT_EQ(Cell(6, MinimumItem), L"");
     EXPECT_EQ(Cell(6, PlotItem), L"3 different texts");
-    EXPECT_EQ(Cell(6, InsideItem), L"");
+    EXPECT_EQ(Cell(6, InsideItem), L"\u2013");
+    EXPECT_EQ(Cell(6, RequiredItem), L"\u2013");
 }
 
 TEST_F(ProfilerFrameTest, ShowsTheFirstAndTheLastDate) {
@@ -231,13 +239,13 @@ TEST_F(ProfilerFrameTest, AnotherMonitorScalesItAndComingBackChangesNothing) {
     };
     goTo(96);
     const std::vector<int> before = widths();
-    EXPECT_EQ(Grid().GetPaintManager()->GetRowHeight(), 22);
+    EXPECT_EQ(Grid().GetPaintManager()->GetRowHeight(), 34);
     goTo(144);
-    EXPECT_EQ(Grid().GetPaintManager()->GetRowHeight(), 33);
+    EXPECT_EQ(Grid().GetPaintManager()->GetRowHeight(), 51);
     for (std::size_t i = 0; i < before.size(); ++i)
         EXPECT_EQ(widths()[i], (before[i] * 3 + 1) / 2) << i;
     goTo(96);
-    EXPECT_EQ(Grid().GetPaintManager()->GetRowHeight(), 22);
+    EXPECT_EQ(Grid().GetPaintManager()->GetRowHeight(), 34);
     EXPECT_EQ(widths(), before);
     CRect now;
     Frame().GetWindowRect(&now);
@@ -438,7 +446,7 @@ TEST_F(LimitsTest, TextsShowHowOftenTheMostFrequentOnesCome) {
 
 TEST_F(ProfilerFrameTest, TheHeightOfRowsIsChosenAndKept) {
     OpenShipped(L"penguins.csv");
-    EXPECT_NE(MenuState(2, ID_VIEW_ROW_HEIGHT_FIRST) & MF_CHECKED, 0u);
+    EXPECT_NE(MenuState(2, ID_VIEW_ROW_HEIGHT_FIRST + 1) & MF_CHECKED, 0u);
     Command(ID_VIEW_ROW_HEIGHT_FIRST + 1);
     EXPECT_EQ(Grid().GetPaintManager()->GetRowHeight(), 34);
     EXPECT_EQ(Status(), L"Rows are 34 pixels high.");
@@ -455,7 +463,192 @@ TEST_F(ProfilerFrameTest, TheHeightOfRowsIsChosenAndKept) {
     EXPECT_EQ(Grid().GetRows()->GetAt(1)->GetRect().top - row.top, 48);
     ProfilerTestApp::Get().WriteProfileInt(L"Window", L"RowHeight", 5); // none of the choices
     Restart();
-    EXPECT_EQ(Grid().GetPaintManager()->GetRowHeight(), 22);
+    EXPECT_EQ(Grid().GetPaintManager()->GetRowHeight(), 34);
+}
+
+// --- Typed numbers ---------------------------------------------------------------------------------------------------
+
+class TypedTest : public LimitsTest {
+protected:
+    void SetUp() override {
+        LimitsTest::SetUp();
+        Grid().UpdateWindow();
+        Grid().SetFocus();
+    }
+    KyDragLineMinMaxRecordItem& Scale() { return At<KyDragLineMinMaxRecordItem>(ScaleItem); }
+    bool IsEditing() { return Grid().GetActiveItem() != nullptr; }
+    /// Clicks the number at that end of the scale.
+    void ClickEnd(bool minimum) {
+        CXTPReportRow* const row = Grid().GetRows()->GetAt(0);
+        const CRect rect = row->GetItemRect(&Scale());
+        const CPoint point(minimum ? rect.left + 4 : rect.right - 4, rect.bottom - 6);
+        Mouse(WM_LBUTTONDOWN, point);
+        Mouse(WM_LBUTTONUP, point);
+        ASSERT_TRUE(IsEditing());
+    }
+    void TypeEnd(bool minimum, const wchar_t* text) {
+        ClickEnd(minimum);
+        TypeText(text);
+        TypeKey(VK_RETURN);
+        EXPECT_FALSE(IsEditing());
+    }
+    void EditLimit() {
+        Grid().SetFocusedColumn(Grid().GetColumns()->Find(RequiredItem));
+        TypeKey(VK_F2);
+        ASSERT_TRUE(IsEditing());
+    }
+    ShareItem& Inside() { return At<ShareItem>(InsideItem); }
+    bool IsInsideRed() {
+        CClientDC dc(nullptr);
+        dc.SetTextColor(RGB(0, 0, 0));
+        XTP_REPORTRECORDITEM_DRAWARGS args;
+        args.pDC = &dc;
+        Inside().OnDrawCaption(&args, nullptr);
+        return dc.GetTextColor() == RGB(255, 0, 0);
+    }
+};
+
+TEST_F(TypedTest, ATypedEndBecomesTheCellsScale) {
+    EXPECT_EQ(Scale().GetMin(), 1.0);
+    EXPECT_EQ(Scale().GetMax(), 10.0);
+    TypeEnd(true, L"-5");
+    EXPECT_EQ(Scale().GetMin(), -5.0);
+    EXPECT_EQ(Status(), L"n: the scale now runs from -5 to 10.");
+    TypeEnd(false, L"7,5");
+    EXPECT_EQ(Scale().GetMax(), 7.5);
+    EXPECT_EQ(Status(), L"n: the scale now runs from -5 to 7.5.");
+    EXPECT_EQ(Scale().GetTarget(), 5.5) << "the target stays";
+}
+
+TEST_F(TypedTest, AMinimumThatIsNotBelowTheMaximumLeavesTheScale) {
+    TypeEnd(true, L"10");
+    EXPECT_EQ(Scale().GetMin(), 1.0);
+    EXPECT_EQ(Status(), L"n: the minimum 10 is not below the maximum 10. The scale still runs from 1 to 10.");
+    TypeEnd(false, L"0");
+    EXPECT_EQ(Scale().GetMax(), 10.0);
+    EXPECT_EQ(Status(), L"n: the minimum 1 is not below the maximum 0. The scale still runs from 1 to 10.");
+    TypeEnd(false, L"inf");
+    EXPECT_EQ(Scale().GetMax(), 10.0);
+    EXPECT_EQ(Status(), L"n: an end of a scale must be finite. The scale still runs from 1 to 10.");
+}
+
+TEST_F(TypedTest, TheTargetIsDraggedOnTheTypedScale) {
+    TypeEnd(true, L"0");
+    TypeEnd(false, L"20");
+    Grid().UpdateWindow();
+    const CRect rect = Scale().GetItemRect();
+    const auto at = [&rect](double value) {
+        const double place = value / 20 * (1 - 2 * kTargetMargin) + kTargetMargin;
+        return CPoint(rect.left + 1 + static_cast<int>((rect.Width() - 2) * place + 0.5), rect.CenterPoint().y);
+    };
+    Mouse(WM_LBUTTONDOWN, at(5.5));
+    Mouse(WM_MOUSEMOVE, at(7));
+    Mouse(WM_LBUTTONUP, at(7));
+    EXPECT_NEAR(Scale().GetTarget(), 7, 0.2);
+    EXPECT_EQ(At<ColumnTargetItem>(TargetItem).GetTarget(), Scale().GetTarget()) << "it is that of the other plots";
+}
+
+TEST_F(TypedTest, TheShareIsRedBelowItsLimit) {
+    EXPECT_EQ(Cell(0, RequiredItem), L"90 %");
+    EXPECT_TRUE(IsInsideRed()); // 60 %
+    EditLimit();
+    TypeText(L"60%");
+    TypeKey(VK_RETURN);
+    EXPECT_EQ(Cell(0, RequiredItem), L"60 %");
+    EXPECT_FALSE(IsInsideRed());
+    EXPECT_EQ(Status(), L"n: 60.0 % of the values lie inside, 60 % are asked for.");
+    Dragged(3.5f, -99.0f, -99.0f);
+    EXPECT_TRUE(IsInsideRed()) << "it follows the limits";
+    EditLimit();
+    TypeKey(VK_DELETE);
+    TypeKey(VK_RETURN);
+    EXPECT_EQ(Cell(0, RequiredItem), L"\u2013");
+    EXPECT_FALSE(IsInsideRed());
+    EXPECT_EQ(Status(), L"n: any share will do.");
+}
+
+TEST_F(TypedTest, OnlyTheLimitIsEdited) {
+    for (int item = NameItem; item <= RequiredItem; ++item) {
+        Grid().SetFocusedColumn(Grid().GetColumns()->Find(item));
+        TypeKey(VK_F2);
+        EXPECT_EQ(IsEditing(), item == RequiredItem) << item;
+        Grid().EditItem(nullptr);
+    }
+}
+
+TEST_F(TypedTest, AFileThatIsReadWaitsForTheTypedNumber) {
+    EditLimit();
+    TypeText(L"50");
+    Frame().OpenPath(Write(L"next.csv", "a\n1\n2\n"));
+    HandleMessagesUntil(WM_TIMER);
+    for (int i = 0; i < 20 && Frame().IsReading(); ++i)
+        HandleMessagesUntil(WM_TIMER);
+    EXPECT_EQ(Title(), L"ten.csv \u2013 Column Profiler");
+    TypeKey(VK_RETURN);
+    EXPECT_EQ(Cell(0, RequiredItem), L"50 %");
+    WaitUntilRead();
+    EXPECT_EQ(Title(), L"next.csv \u2013 Column Profiler");
+}
+
+// --- Details ---------------------------------------------------------------------------------------------------------
+
+/// Looks at the dialog as soon as it is open, and closes it.
+class DialogLook {
+public:
+    explicit DialogLook(const wchar_t* title) {
+        s_look = this;
+        m_title = title;
+        m_timer = ::SetTimer(nullptr, 0, 30, &OnTimer);
+    }
+    ~DialogLook() {
+        ::KillTimer(nullptr, m_timer);
+        s_look = nullptr;
+    }
+    int lines = 0;
+    bool hasDialogLook = false;
+    CString firstValue;
+
+private:
+    static void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD) {
+        const HWND dialog = ::FindWindow(L"#32770", s_look->m_title);
+        if (dialog == nullptr || !::IsWindowVisible(dialog))
+            return;
+        if (auto* grid = dynamic_cast<CXTPReportControl*>(CWnd::FromHandlePermanent(::GetDlgItem(dialog, 100)))) {
+            s_look->lines = grid->GetRows()->GetCount();
+            s_look->firstValue = grid->GetRows()->GetAt(0)->GetRecord()->GetItem(1)->GetCaption(nullptr);
+            s_look->hasDialogLook = dynamic_cast<KyDialogReportControlTheme*>(grid->GetPaintManager()) != nullptr;
+        }
+        ::PostMessage(dialog, WM_COMMAND, IDCANCEL, 0);
+    }
+    inline static DialogLook* s_look = nullptr;
+    CString m_title;
+    UINT_PTR m_timer;
+};
+
+TEST_F(TypedTest, TheDetailsTellOfTheSelectedColumn) {
+    EXPECT_EQ(MenuState(2, ID_VIEW_DETAILS) & MF_GRAYED, 0u);
+    DialogLook look(L"Details of n");
+    Command(ID_VIEW_DETAILS);
+    EXPECT_EQ(look.lines, 12);
+    EXPECT_EQ(look.firstValue, L"Number");
+    EXPECT_TRUE(look.hasDialogLook);
+}
+
+TEST_F(TypedTest, ADoubleClickOpensTheDetailsWhereItNeitherDragsNorEdits) {
+    const CRect name = Grid().GetRows()->GetAt(0)->GetItemRect(&At<CXTPReportRecordItem>(NameItem));
+    DialogLook look(L"Details of n");
+    Mouse(WM_LBUTTONDBLCLK, name.CenterPoint());
+    EXPECT_EQ(look.lines, 12);
+    look.lines = 0;
+    Mouse(WM_LBUTTONDBLCLK, PointAt(RequiredItem, 0.5));
+    EXPECT_TRUE(IsEditing());
+    Mouse(WM_LBUTTONDBLCLK, PointAt(PlotItem, 0.5));
+    EXPECT_EQ(look.lines, 0);
+}
+
+TEST_F(ProfilerFrameTest, WithoutAFileThereAreNoDetails) {
+    EXPECT_NE(MenuState(2, ID_VIEW_DETAILS) & MF_GRAYED, 0u);
+    Command(ID_VIEW_DETAILS);
 }
 
 // --- Themes, layout, language ----------------------------------------------------------------------------------------

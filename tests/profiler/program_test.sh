@@ -176,7 +176,7 @@ drag_in_other_plots() {
     expect_share 3 "the share follows the mark in the histogram"
     expect_value "$(plot_find "$y" "$plot_bar" first)" "$y" 32.1 59.6 "$lower" "the bar begins at the same limit"
     x=$(plot_find "$y" "$plot_target" first)
-    x_click $((plot_histogram_right + 20)) "$y"
+    x_click $((plot_histogram_right + 15)) "$y"
     expect_share 3 "a click beside the slider's handle sets the target"
     expect_order "$lower" 36.3 "a target below it takes the lower limit along"
     if [ "$(plot_find "$y" "$plot_target" first)" -lt $((x - 20)) ]; then
@@ -186,9 +186,67 @@ drag_in_other_plots() {
     fi
 }
 
+# The ends of a scale, and the share that is asked for, by keys.
+type_numbers() {
+    local y=$(($(plot_row 3) + 20)) minimum_x=982 maximum_x=1070 limit_x=1170
+    x_click "$minimum_x" "$y"
+    x_type 20
+    x_shot typing-a-minimum
+    x_key Return
+    expect status 'Beak Length \(mm\): the scale now runs from 20 to 59\.6\.' "a typed minimum becomes the scale's"
+    x_click "$maximum_x" "$y"
+    x_type 10
+    x_key Return
+    expect status 'Beak Length \(mm\): the minimum 20 is not below the maximum 10\. The scale still runs from 20 to 59\.6\.' \
+        "a maximum below it does not"
+    x_click "$maximum_x" "$y"
+    x_type 7
+    x_key Escape
+    x_type 80,5
+    x_key Return
+    expect status 'Beak Length \(mm\): the scale now runs from 20 to 80\.5\.' \
+        "Escape puts the number back and editing goes on; a comma is as good as a point"
+    x_click "$minimum_x" "$y"
+    x_type 1
+    x_click "$maximum_x" "$y"
+    expect status 'Beak Length \(mm\): the scale now runs from 1 to 80\.5\.' "a click elsewhere takes the number"
+    x_key Return
+
+    x_click "$limit_x" "$y"
+    x_type 50
+    x_shot typing-a-limit
+    x_key Return
+    expect status 'Beak Length \(mm\): [0-9.]+ % of the values lie inside, 50 % are asked for\.' "typing edits a limit"
+    x_type 60%
+    x_key Up
+    expect status 'Beak Depth \(mm\): [0-9.]+ % of the values lie inside, 60 % are asked for\.' \
+        "Enter has gone on to the next row"
+    x_key F2
+    x_type 70
+    x_key Tab
+    x_type 80
+    x_key Return
+    expect status 'Beak Depth \(mm\): [0-9.]+ % of the values lie inside, 80 % are asked for\.' \
+        "Up has gone to the row above, and Tab to the next limit"
+}
+
+look_at_the_details() {
+    x_click 60 "$(plot_row 3)"
+    x_key alt+Return
+    x_wait_window 'Details of Beak Length'
+    x_shot details
+    x_key Escape
+    if xdotool search --onlyvisible --name 'Details of' >/dev/null 2>&1; then
+        fail "Escape closes the details"
+    else
+        echo "ok: Escape closes the details"
+    fi
+    x_wait_window 'penguins\.csv' # whose place counts again
+}
+
 choose_the_row_height() {
     local y
-    grid_picture low
+    grid_picture medium
     x_key alt+v r h
     expect status 'Rows are 48 pixels high\.' "the menu makes rows higher"
     y=$((67 + 2 * 48 + 40))
@@ -197,9 +255,9 @@ choose_the_row_height() {
     else
         fail "the plots use the room"
     fi
-    x_key alt+v r l
-    grid_picture low_again
-    if same_picture low low_again; then echo "ok: and lower again"; else fail "and lower again"; fi
+    x_key alt+v r m
+    grid_picture medium_again
+    if same_picture medium medium_again; then echo "ok: and lower again"; else fail "and lower again"; fi
 }
 
 drag_against_the_wall() {
@@ -244,10 +302,10 @@ release_elsewhere() {
     local y x
     y=$(plot_row 6)
     x=$(plot_find "$y" "$plot_bar" first)
-    x_drag "$x" "$y" $((x - 12)) "$(plot_row 5)"
+    x_drag "$x" "$y" $((x - 18)) "$(plot_row 5)"
     point_nowhere
     expect_share 6 "a release over another row applies the drag to its own row"
-    expect_moved "$x" "$(plot_find "$y" "$plot_bar" first)" -12 "at the pointer's place"
+    expect_moved "$x" "$(plot_find "$y" "$plot_bar" first)" -18 "at the pointer's place"
     x=$(plot_find "$y" "$plot_bar" first)
     x_drag "$x" "$y" $((x - 10)) 500
     expect_share 6 "so does a release below the last row"
@@ -299,6 +357,10 @@ release_elsewhere
 x_key F5
 expect status 'penguins\.csv is open\.' "F5 reads the file again"
 grid_picture fresh
+type_numbers
+look_at_the_details
+x_key F5
+expect status 'penguins\.csv is open\.' "F5 reads the file again"
 choose_the_row_height
 change_the_layout
 if same_picture fresh default; then echo "ok: limits begin anew"; else fail "limits begin anew"; fi

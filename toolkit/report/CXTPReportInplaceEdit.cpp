@@ -189,8 +189,9 @@ void CXTPReportInplaceEdit::FollowCell() {
     TakeLook();
     const CRect rc = PlaceInControl();
     SetWindowPos(nullptr, rc.left, rc.top, rc.Width(), rc.Height(), SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
-    // Letters stand where the cell draws them; the frame has taken a part of the way.
-    const int margin = std::max(control.GetPaintManager()->GetCellPadding() - FrameWidth, 0);
+    // Letters stand where the cell draws them; the frame has taken a part of the way. Parts of a cell have no padding.
+    const int padding = session.isWhole ? control.GetPaintManager()->GetCellPadding() : 0;
+    const int margin = std::max(padding - FrameWidth, 0);
     SendMessage(EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, MAKELPARAM(margin, margin));
     RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_FRAME | RDW_ERASE);
 }

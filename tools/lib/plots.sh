@@ -6,8 +6,8 @@ plot_bar='#A8C8F0'    # the ends of a bar
 plot_target='#FFD700' # gold
 plot_scale='#FF0000'  # the ends of the scale
 # Where the column of plots ends, and that of histograms, with every column in its place.
-plot_right=844
-plot_histogram_right=1014
+plot_right=742
+plot_histogram_right=882
 
 # plot_find Y COLOUR first|last [FROM TO]: the x of the first or last pixel of the colour in the window's line Y from FROM
 # up to TO (the plots' without them), as it shows now. Prints nothing and fails when there is none.
@@ -25,6 +25,6 @@ plot_find() {
 # plot_row N: the y at which the marks of the window's Nth row are looked for and dragged (rows count from 1): above the
 # whisker, which runs through the middle of the plot.
 plot_row() {
-    local first_row=67 row_height=22
+    local first_row=67 row_height=34
     echo $((first_row + ($1 - 1) * row_height + 6))
 }

@@ -32,7 +32,10 @@ struct KyPlotRecordItem::Marks {
     double target;
 };
 
-KyPlotRecordItem::KyPlotRecordItem() : CXTPReportRecordItemText(_T("")) { SetBackgroundColor(RGB(255, 255, 255)); }
+KyPlotRecordItem::KyPlotRecordItem() : CXTPReportRecordItemText(_T("")) {
+    SetBackgroundColor(RGB(255, 255, 255));
+    SetEditable(FALSE); // nobody types a text over a plot
+}
 
 KyPlotRecordItem::~KyPlotRecordItem() = default;
 

@@ -21,6 +21,7 @@ BEGIN_MESSAGE_MAP(KyPlotRecordReportControl, KyReportControl)
     ON_WM_SETCURSOR()
     ON_WM_MOUSELEAVE()
     ON_WM_KEYDOWN()
+    ON_WM_CHAR()
     ON_WM_GETDLGCODE()
     ON_WM_KILLFOCUS()
 END_MESSAGE_MAP()
@@ -322,6 +323,12 @@ void KyPlotRecordReportControl::OnKeyDown(UINT key, UINT repeat, UINT flags) {
         return;
     if (!life.HasEnded())
         KyReportControl::OnKeyDown(key, repeat, flags);
+}
+
+/// The Tab that went on to another mark does not also edit the next cell.
+void KyPlotRecordReportControl::OnChar(UINT key, UINT repeat, UINT flags) {
+    if (!IsDraggedByKeys())
+        KyReportControl::OnChar(key, repeat, flags);
 }
 
 UINT KyPlotRecordReportControl::OnGetDlgCode() {

@@ -47,6 +47,7 @@ protected:
     /// Applies a drag at the place where the pointer left.
     void OnMouseLeave();
     void OnKeyDown(UINT key, UINT repeat, UINT flags); ///< marks first, then as every report control
+    void OnChar(UINT key, UINT repeat, UINT flags);    ///< drops those of the keys that move a mark
     UINT OnGetDlgCode();                               ///< every key while one of them drags
     void OnKillFocus(CWnd* newWnd);                    ///< applies a drag by keys
     DECLARE_MESSAGE_MAP()

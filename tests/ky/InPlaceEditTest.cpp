@@ -1,5 +1,5 @@
 // The editor with the keys of a spreadsheet, in a grid of numbers, by keys through the queue.
-#include "KyTestApp.h"
+#include "PlotCellProbes.h"
 
 #include "../support/QueuedKeys.h"
 
@@ -150,6 +150,28 @@ TEST_F(InPlaceEditTest, WithoutAGridEveryKeyIsTheEditControls) {
     TypeKey(VK_TAB);
     EXPECT_EQ(::GetFocus(), edit->m_hWnd);
     edit->DestroyWindow();
+}
+
+TEST_F(InPlaceEditTest, PlotsAreNotTypedOverAndTheirKeysEditNothing) {
+    PlotGridHost host;
+    auto* const cell = host.AddRow(new KyDragLineRecordItem);
+    cell->SetTargetValues(5, 0, 10);
+    host.Show();
+    host.grid.AllowEdit(TRUE);
+    host.grid.SetFocus();
+    host.grid.SetFocusedRow(host.grid.GetRows()->GetAt(0));
+    host.grid.SetFocusedColumn(host.grid.GetColumns()->GetAt(1));
+    EXPECT_FALSE(cell->IsEditable());
+    TypeKey(VK_F2); // takes hold of the handle
+    TypeKey(VK_RIGHT);
+    TypeKey(VK_TAB);
+    EXPECT_EQ(host.grid.GetActiveItem(), nullptr);
+    TypeKey(VK_ESCAPE);
+    TypeText(L"x");
+    EXPECT_EQ(host.grid.GetActiveItem(), nullptr);
+    host.grid.SetFocusedColumn(host.grid.GetColumns()->GetAt(0));
+    TypeText(L"x");
+    EXPECT_NE(host.grid.GetActiveItem(), nullptr) << "the text beside it is edited";
 }
 
 /// A grid whose cells' hooks do what a test wants.

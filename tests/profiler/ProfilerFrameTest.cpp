@@ -572,6 +572,8 @@ TEST_F(TypedTest, OnlyTheLimitIsEdited) {
         Grid().SetFocusedColumn(Grid().GetColumns()->Find(item));
         TypeKey(VK_F2);
         EXPECT_EQ(IsEditing(), item == RequiredItem) << item;
+        if (!IsEditing())
+            TypeKey(VK_ESCAPE); // plots have been taken hold of
         Grid().EditItem(nullptr);
     }
 }

@@ -213,7 +213,7 @@ void CXTPReportControl::Copy() {
 // --- Cut and paste --------------------------------------------------------------------------------------------------
 
 void CXTPReportControl::Cut() {
-    if (!CanCut() || !CanCopy() || IsVirtualMode())
+    if (!CanCut() || !CanCopy() || IsVirtualMode() || !m_impl->FinishEdit())
         return;
     const DWORD former = ::GetClipboardSequenceNumber();
     Copy();

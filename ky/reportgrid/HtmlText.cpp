@@ -29,6 +29,24 @@ void AppendCodePoint(std::string& utf8, char32_t code) {
     }
 }
 
+/// Empty for a character that stands for itself.
+std::string_view EntityOf(char c) {
+    switch (c) {
+    case '&':
+        return "&amp;";
+    case '"':
+        return "&quot;";
+    case '\'':
+        return "&#39;";
+    case '>':
+        return "&gt;";
+    case '<':
+        return "&lt;";
+    default:
+        return {};
+    }
+}
+
 void AppendColor(std::string& html, std::string_view property, std::uint32_t color) {
     html += property;
     html += ": #";
@@ -70,16 +88,17 @@ std::string ToUtf8(std::u16string_view text) {
 }
 
 void AppendEscaped(std::string& html, std::string_view text) {
-    constexpr std::string_view special = "&\"'><";
-    constexpr std::string_view entities[] = {"&amp;", "&quot;", "&#39;", "&gt;", "&lt;"};
-    while (true) {
-        const std::size_t at = text.find_first_of(special);
-        html += text.substr(0, at);
-        if (at == std::string_view::npos)
-            return;
-        html += entities[special.find(text[at])];
-        text.remove_prefix(at + 1);
+    const char* first = text.data(); // of what is not copied yet
+    const char* const end = first + text.size();
+    for (const char* at = first; at != end; ++at) {
+        const std::string_view entity = EntityOf(*at);
+        if (entity.empty())
+            continue;
+        html.append(first, at);
+        html += entity;
+        first = at + 1;
     }
+    html.append(first, end);
 }
 
 std::string ColorCode(std::uint32_t color) {

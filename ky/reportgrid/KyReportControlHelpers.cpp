@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <new>
 #include <optional>
 
 namespace KyReportControlHelpers {
@@ -40,29 +39,29 @@ bool WithoutExceptions(Work work) {
     return false;
 }
 
-/// What a record writes of itself, to be read item by item. Each record has a document of its own: all of them in one
-/// would take many times the memory of the page.
+/// What a record writes of itself, to be read item by item. One record is held at a time: all of them would take many
+/// times the memory of the page.
 class WrittenRecord {
 public:
-    explicit WrittenRecord(CXTPReportRecord& record) {
-        if (!m_writer.OnBeforeExchange())
-            throw std::bad_alloc();
-        const CXTPPropExchangeEnumeratorPtr records(m_writer.GetEnumerator(L"Record"));
-        POSITION place = records->GetPosition(1);
-        const CXTPPropExchangeSection section(records->GetNext(place));
-        record.DoPropExchange(&section);
+    /// Before anything else; false when records cannot be written.
+    bool Begin() { return m_writer.OnBeforeExchange() && m_reader.OnBeforeExchange(); }
+
+    void Write(CXTPReportRecord& record) {
+        m_items.reset();
+        m_writer.EmptySection(L"Record");
+        {
+            const CXTPPropExchangeEnumeratorPtr records(m_writer.GetEnumerator(L"Record"));
+            POSITION place = records->GetPosition(1);
+            const CXTPPropExchangeSection section(records->GetNext(place));
+            record.DoPropExchange(&section);
+        }
+        const CXTPPropExchangeSection section(m_reader.GetSection(L"Record"));
+        m_items.emplace(section->GetEnumerator(L"Item"));
+        m_next = (*m_items)->GetPosition();
     }
 
-    /// Goes on to the next item.
-    CXTPPropExchange* NextItem() {
-        if (!m_items) {
-            m_reader.OnBeforeExchange();
-            const CXTPPropExchangeSection record(m_reader.GetSection(L"Record"));
-            m_items.emplace(record->GetEnumerator(L"Item"));
-            m_next = (*m_items)->GetPosition();
-        }
-        return (*m_items)->GetNext(m_next);
-    }
+    /// Goes on to the next item of the record; the caller owns the reference.
+    CXTPPropExchange* NextItem() { return (*m_items)->GetNext(m_next); }
 
 private:
     CXTPPropExchangeXMLNode m_writer{FALSE, nullptr, L"Settings"};
@@ -70,8 +69,6 @@ private:
     std::optional<CXTPPropExchangeEnumeratorPtr> m_items;
     POSITION m_next = nullptr;
 };
-
-bool CanExchange() { return CXTPPropExchangeXMLNode(FALSE, nullptr, L"Settings").OnBeforeExchange() != FALSE; }
 
 /// Intended: the format only tells a number; what is exported is the value in full precision.
 std::string ItemText(CXTPPropExchange* section) {
@@ -110,6 +107,8 @@ public:
 
     std::string Write() {
         m_html = "<table>";
+        if (!m_written.Begin())
+            return std::move(m_html);
         WriteHeader();
         const CXTPReportRecords& records = *m_control.GetRecords();
         for (int index = 0; index < records.GetCount(); ++index) {
@@ -145,13 +144,13 @@ private:
     }
 
     void WriteRecord(CXTPReportRecord& record, int recordIndex) {
-        WrittenRecord written(record);
+        m_written.Write(record);
         m_html += RowStart;
         if (record.GetItemCount() == 0)
             m_html += "<td>&nbsp;</td>";
         for (int index = 0; index < record.GetItemCount(); ++index) {
             CXTPReportRecordItem& item = *record.GetItem(index);
-            const CXTPPropExchangeSection section(written.NextItem());
+            const CXTPPropExchangeSection section(m_written.NextItem());
             if (auto* const plot = dynamic_cast<KyPlotRecordItem*>(&item))
                 WritePlot(*plot, recordIndex, index);
             else
@@ -193,6 +192,7 @@ private:
 
     CXTPReportControl& m_control;
     std::wstring m_imagePrefix;
+    WrittenRecord m_written;
     std::string m_html;
 };
 
@@ -271,11 +271,7 @@ void AddHtml(CXTPReportControl& control, const wchar_t* imagePrefix) {
 
 std::string SaveAsHtml(CXTPReportControl& control, const wchar_t* imagePrefix) {
     std::string html;
-    const bool isWritten = WithoutExceptions([&] {
-        if (CanExchange())
-            html = TableWriter(control, imagePrefix).Write();
-    });
-    if (!isWritten || html.empty())
+    if (!WithoutExceptions([&] { html = TableWriter(control, imagePrefix).Write(); }))
         return "<table>";
     return html;
 }

@@ -265,6 +265,22 @@ TEST(PropExchange, AnEnumeratorGoesThroughTheSectionsOfItsName) {
     EXPECT_THAT(values, ::testing::ElementsAre(4, 6, -1));
 }
 
+TEST(PropExchange, SectionsOfANameCanBeRemoved) {
+    Writing writing;
+    int value = 1;
+    for (const wchar_t* const name : {L"Gone", L"Kept", L"Gone"}) {
+        const CXTPPropExchangeEnumeratorPtr sections(writing.GetEnumerator(name));
+        POSITION pos = sections->GetPosition(1);
+        const CXTPPropExchangeSection section(sections->GetNext(pos));
+        PX_Int(&section, _T("V"), value);
+        const CXTPPropExchangeSection below(section->GetSection(_T("Below")));
+    }
+    writing.EmptySection(_T("Gone"));
+    EXPECT_STREQ(writing.GetXML(), L"<Root><Kept V=\"1\"><Below/></Kept></Root>");
+    writing.EmptySection(_T("Missing"));
+    EXPECT_STREQ(writing.GetXML(), L"<Root><Kept V=\"1\"><Below/></Kept></Root>");
+}
+
 TEST(PropExchange, SectionsOutliveTheOneTheyWereHadFrom) {
     auto* const writing = new Writing;
     const CXTPPropExchangeSection section(writing->GetSection(_T("S")));

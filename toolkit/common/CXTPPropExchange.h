@@ -33,6 +33,9 @@ public:
     /// The sections of that name in this one, of which there may be any number; never null. The caller owns the
     /// reference, see `CXTPPropExchangeEnumeratorPtr`.
     virtual CXTPPropExchangeEnumerator* GetEnumerator(LPCTSTR lpszSection) = 0;
+    /// Removes the sections of that name with all that is in them; nothing when there is none. Objects for them must
+    /// not be used any more. Only for storing.
+    virtual void EmptySection(LPCTSTR lpszSection) = 0;
     /// One property; called by the `PX_…` functions.
     /// @param pszPropName  letters and digits
     /// @param vtProp       VT_BSTR (CString), VT_UI4 (DWORD), VT_I4 (int), VT_BOOL (BOOL), VT_R4 (float) or

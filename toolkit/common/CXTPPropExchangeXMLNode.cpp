@@ -221,6 +221,13 @@ CXTPPropExchangeEnumerator* CXTPPropExchangeXMLNode::GetEnumerator(LPCTSTR lpszS
     return new Enumerator(IsLoading(), m_document, pugi::xml_node(m_node), lpszSection);
 }
 
+void CXTPPropExchangeXMLNode::EmptySection(LPCTSTR lpszSection) {
+    ASSERT(IsStoring());
+    pugi::xml_node node(m_node);
+    while (node.remove_child(lpszSection)) {
+    }
+}
+
 // --- Properties ------------------------------------------------------------------------------------------------------
 
 BOOL CXTPPropExchangeXMLNode::ExchangeProp(LPCTSTR pszPropName, VARTYPE vtProp, void* pvProp, const void* pvDefault) {

@@ -33,6 +33,7 @@ public:
 
     CXTPPropExchange* GetSection(LPCTSTR lpszSection) override;
     CXTPPropExchangeEnumerator* GetEnumerator(LPCTSTR lpszSection) override;
+    void EmptySection(LPCTSTR lpszSection) override;
     BOOL ExchangeProp(LPCTSTR pszPropName, VARTYPE vtProp, void* pvProp, const void* pvDefault = nullptr) override;
 
 private:

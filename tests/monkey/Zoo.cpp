@@ -360,8 +360,12 @@ void Zoo::OpenShipped() {
 
 void Zoo::AwaitReading() const {
     constexpr WPARAM ReadingTimer = 1; // the frame looks at its progress, and shows what is read
-    // While the mouse is captured the frame does not take the file.
-    for (ProfilerFrame* frame = Profiler(); frame && frame->IsReading() && !::GetCapture(); frame = Profiler()) {
+    // While the mouse is captured, or a number is being typed, the frame does not take the file.
+    const auto isBusy = [](const ProfilerFrame& frame) {
+        const auto* const grid = dynamic_cast<CXTPReportControl*>(frame.GetDlgItem(AFX_IDW_PANE_FIRST));
+        return ::GetCapture() != nullptr || (grid && grid->GetActiveItem());
+    };
+    for (ProfilerFrame* frame = Profiler(); frame && frame->IsReading() && !isBusy(*frame); frame = Profiler()) {
         ::Sleep(1);
         ::SendMessage(m_profiler, WM_TIMER, ReadingTimer, 0);
     }

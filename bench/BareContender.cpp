@@ -9,7 +9,8 @@ using benchpicture::ViewWidth;
 
 class BareWindow : public CWnd {
 public:
-    explicit BareWindow(int headerHeight) : m_headerHeight(headerHeight) {
+    BareWindow(int headerHeight, const benchpicture::Picture& picture)
+        : m_headerHeight(headerHeight), m_picture(picture) {
         BITMAPINFO info = {};
         info.bmiHeader = {sizeof(info.bmiHeader), ViewWidth, -ViewHeight, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
         void* bits = nullptr;
@@ -33,7 +34,7 @@ public:
             m_dc.FillSolidRect(0, 0, ViewWidth, m_headerHeight, RGB(240, 240, 240));
         for (int row = 0; RowTop(row) < ViewHeight; ++row) {
             if (RowTop(row) < rc.bottom && RowTop(row + 1) > rc.top)
-                benchpicture::DrawRow(m_dc.m_hDC, RowTop(row), std::int64_t{topRow} + row);
+                benchpicture::DrawRow(m_dc.m_hDC, RowTop(row), m_picture, std::int64_t{topRow} + row);
         }
         dc.BitBlt(rc.left, rc.top, rc.Width(), rc.Height(), &m_dc, rc.left, rc.top, SRCCOPY);
     }
@@ -50,6 +51,7 @@ protected:
 
 private:
     int m_headerHeight;
+    benchpicture::Picture m_picture;
     CDC m_dc;
     CBitmap m_bitmap;
     CBitmap* m_formerBitmap;
@@ -63,7 +65,7 @@ END_MESSAGE_MAP()
 
 class BareContender : public Contender {
 public:
-    explicit BareContender(int headerHeight) : m_window(headerHeight) {
+    BareContender(int headerHeight, const benchpicture::Picture& picture) : m_window(headerHeight, picture) {
         m_window.CreateEx(0, AfxRegisterWndClass(0), _T("bare"), WS_POPUP | WS_VISIBLE,
                           CRect(0, 0, ViewWidth, ViewHeight), nullptr, 0);
     }
@@ -99,4 +101,6 @@ private:
 
 } // namespace
 
-std::unique_ptr<Contender> MakeBareContender(int headerHeight) { return std::make_unique<BareContender>(headerHeight); }
+std::unique_ptr<Contender> MakeBareContender(int headerHeight, const benchpicture::Picture& picture) {
+    return std::make_unique<BareContender>(headerHeight, picture);
+}

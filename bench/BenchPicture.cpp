@@ -4,11 +4,14 @@
 #include "common/MissingValue.h"
 #include "plotcells/BarGeometry.h"
 #include "plotcells/ColorRamp.h"
+#include "plotcells/DragLineGeometry.h"
+#include "plotcells/HistogramGeometry.h"
 #include "plotcells/PlotScale.h"
 #include "plotcells/PlotSpans.h"
 
 #include <array>
 #include <cwchar>
+#include <map>
 
 namespace benchpicture {
 namespace {
@@ -58,6 +61,70 @@ const auto& BarColors() {
     return colors;
 }
 
+const auto& HistogramColors() {
+    static const auto colors = [] {
+        std::array<std::uint32_t, histogramgeometry::GradientColors> made{};
+        colorramp::Gradient(BarLight, BarDark, made);
+        return made;
+    }();
+    return colors;
+}
+
+/// Bin by bin, as one does with nothing but GDI.
+void DrawHistogram(HDC dc, const RECT& cell, const Bar& bar, const std::vector<double>& bins) {
+    const RECT rect = {cell.left + 1, cell.top + 1, cell.right - 1, cell.bottom - 1};
+    const plotscale::Scale scale{bar.min, bar.max, Margin};
+    Fill(dc, rect, White);
+    const double largest = histogramgeometry::LargestCount(bins);
+    const histogramgeometry::BinPlaces places({rect.left, rect.right}, plotscale::ToFraction(bar.min, scale),
+                                              plotscale::ToFraction(bar.max, scale), bins.size());
+    for (std::size_t bin = 0; bin < bins.size(); ++bin) {
+        if (bins[bin] != 0.0)
+            FillSpan(dc, rect,
+                     {places.Edge(static_cast<std::int64_t>(bin)), places.Edge(static_cast<std::int64_t>(bin) + 1)},
+                     HistogramColors()[histogramgeometry::ColorOf(bins[bin], largest)]);
+    }
+    DrawMark(dc, rect, plotscale::ToFraction(bar.min, scale), Red);
+    DrawMark(dc, rect, plotscale::ToFraction(bar.target, scale), Gold);
+    DrawMark(dc, rect, plotscale::ToFraction(bar.max, scale), Red);
+}
+
+/// Pens and brush of the sliders' handle, kept for good.
+struct HandleTools {
+    HBRUSH face = ::CreateSolidBrush(::GetSysColor(COLOR_BTNFACE));
+    HPEN facePen = ::CreatePen(PS_SOLID, 1, ::GetSysColor(COLOR_BTNFACE));
+    HPEN shadowPen = ::CreatePen(PS_SOLID, 1, ::GetSysColor(COLOR_BTNSHADOW));
+};
+
+void DrawSlider(HDC dc, const RECT& cell, const Bar& bar) {
+    static const HandleTools tools;
+    const RECT rect = {cell.left + 1, cell.top + 1, cell.right - 1, cell.bottom - 1};
+    const plotspan::Extent extent{rect.left, rect.right};
+    const plotscale::Scale scale{bar.min, bar.max, Margin};
+    Fill(dc, rect, White);
+    const Span track =
+        draglinegeometry::Track(extent, plotscale::ToFraction(bar.min, scale), plotscale::ToFraction(bar.max, scale));
+    const Span rows = draglinegeometry::TrackRows(rect.top, rect.bottom);
+    Fill(dc, {track.begin, rows.begin, track.end, rows.end}, 0x00D6D6D6);
+    Fill(dc, {track.begin + 1, rows.begin + 1, track.end - 1, rows.end - 1}, 0x00E7EAEA);
+    for (const double limit : SliderLimits)
+        DrawMark(dc, {rect.left, rect.top - 1, rect.right, rect.bottom}, plotscale::ToFraction(limit, scale),
+                 SliderLimitColor);
+
+    const int x = draglinegeometry::HandleColumn(extent, plotscale::ToFraction(bar.target, scale));
+    const int top = draglinegeometry::HandleTop(rect.top, rect.bottom);
+    const int bottom = top + static_cast<int>(draglinegeometry::HandleReach.size()) - 1;
+    const POINT outline[] = {{x - 4, top}, {x + 4, top},        {x + 4, bottom - 4},
+                             {x, bottom},  {x - 4, bottom - 4}, {x - 4, top}};
+    const HGDIOBJ formerBrush = ::SelectObject(dc, tools.face);
+    const HGDIOBJ formerPen = ::SelectObject(dc, tools.facePen);
+    ::Polygon(dc, outline, static_cast<int>(std::size(outline)));
+    ::SelectObject(dc, tools.shadowPen);
+    ::Polyline(dc, outline, static_cast<int>(std::size(outline)));
+    ::SelectObject(dc, formerPen);
+    ::SelectObject(dc, formerBrush);
+}
+
 void DrawText(HDC dc, const RECT& cell, const std::wstring& text, UINT alignment) {
     RECT place = {cell.left + CellPadding, cell.top, cell.right - CellPadding, cell.bottom};
     SIZE extent;
@@ -87,6 +154,17 @@ Bar BarOf(std::int64_t row, int bar) {
     return {target, 0, 100, target - half, target + half, target - half - 6, target + half + 6, 10, 90};
 }
 
+std::vector<double>& BinsOf(std::int64_t row, int bins) {
+    constexpr std::int64_t different = 16; // rows share their counts
+    static std::map<std::pair<std::int64_t, int>, std::vector<double>> made;
+    std::vector<double>& counts = made[{row % different, bins}];
+    for (int bin = static_cast<int>(counts.size()); bin < bins; ++bin) {
+        const double place = static_cast<double>(bin) / bins;
+        counts.push_back(static_cast<double>((bin * 31 + row % different * 7) % 90) + 300 * place * (1 - place) + 1);
+    }
+    return counts;
+}
+
 void DrawBar(HDC dc, const RECT& cell, const Bar& bar) {
     const RECT rect = {cell.left + 1, cell.top + 1, cell.right - 1, cell.bottom - 1};
     const plotscale::Scale scale{bar.min, bar.max, Margin};
@@ -108,7 +186,19 @@ void DrawBar(HDC dc, const RECT& cell, const Bar& bar) {
     DrawMark(dc, rect, marks.target, Gold);
 }
 
-void DrawRow(HDC dc, int top, std::int64_t row) {
+void DrawPlot(HDC dc, const RECT& cell, const Picture& picture, std::int64_t row, int column) {
+    const Bar bar = BarOf(row, column);
+    switch (picture.plots[column]) {
+    case Plot::Bar:
+        return DrawBar(dc, cell, bar);
+    case Plot::Histogram:
+        return DrawHistogram(dc, cell, bar, BinsOf(row, picture.bins));
+    case Plot::Slider:
+        return DrawSlider(dc, cell, bar);
+    }
+}
+
+void DrawRow(HDC dc, int top, const Picture& picture, std::int64_t row) {
     Fill(dc, {0, top, ViewWidth, top + RowHeight}, White);
     ::SetTextColor(dc, Black);
     ::SetBkMode(dc, TRANSPARENT);
@@ -121,7 +211,7 @@ void DrawRow(HDC dc, int top, std::int64_t row) {
         else if (column == 1)
             DrawText(dc, cell, NumberText(row), DT_RIGHT);
         else
-            DrawBar(dc, cell, BarOf(row, column - 2));
+            DrawPlot(dc, cell, picture, row, column - 2);
         Fill(dc, {right - 1, top, right, top + RowHeight}, GridLine);
         left = right;
     }

@@ -30,7 +30,7 @@ public:
     /// Changes the number of one of `RecordRows` rows and asks for a redraw, as a host does for each change. Not
     /// painted.
     virtual void Update(int n) = 0;
-    /// The bar chart cell without its grid lines, client coordinates; row 0 is the one shown at the top.
+    /// The cell of a plot column without its grid lines, client coordinates; row 0 is the one shown at the top.
     virtual CRect BarRect(int visibleRow, int bar) = 0;
 
     /// Draws everything anew.
@@ -49,7 +49,7 @@ protected:
 };
 
 /// The system's list view with that many rows, owner data, double buffering and the plots drawn in custom draw.
-std::unique_ptr<Contender> MakeListViewContender(int rows);
+std::unique_ptr<Contender> MakeListViewContender(int rows, const benchpicture::Picture& picture = {});
 /// A loop of GDI calls into a bitmap in memory, which is then copied to the window.
 /// @param headerHeight  pixels above the first row, as in the grid
-std::unique_ptr<Contender> MakeBareContender(int headerHeight);
+std::unique_ptr<Contender> MakeBareContender(int headerHeight, const benchpicture::Picture& picture = {});

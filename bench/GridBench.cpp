@@ -7,7 +7,10 @@
 #include "RecordBench.h"
 #include "Results.h"
 
+#include <plotcells/KyHistogramRecordItem.h>
+
 #include <cstdio>
+#include <cstring>
 #include <cwchar>
 #include <functional>
 #include <vector>
@@ -272,11 +275,85 @@ void MeasureManyRows(Results& results, GridContender& contender) {
     results.AtMost("ratio of the two", manyCalls / fewCalls, 1.1, Ratio);
 }
 
+/// A viewport with other plots, and what they cost beside the same drawn with GDI.
+void ComparePlots(Results& results) {
+    using benchpicture::Plot;
+    for (const int bins : {40, 200}) {
+        const benchpicture::Picture picture{{Plot::Histogram, Plot::Slider, Plot::Bar}, bins};
+        GridContender grid(Rows::Records, Contender::RecordRows, picture);
+        const auto bare = MakeBareContender(grid.Grid().GetHeaderRect().Height(), picture);
+        const auto list = MakeListViewContender(Contender::RecordRows, picture);
+        char heading[100], says[150];
+        std::snprintf(heading, sizeof heading, "Histogram of %d bins, slider and bar in each row", bins);
+        std::snprintf(says, sizeof says, "Pixels of the plots that differ from ours: %d (list view), %d (bare loop).",
+                      DifferentPixels(grid, *list), DifferentPixels(grid, *bare));
+        results.Begin(heading,
+                      {"median", "our grid", "list view", "bare loop", "ours / list view", "ours / bare loop", ""});
+        const std::vector<Contender*> contenders = {&grid, list.get(), bare.get()};
+        Tell(results, "full repaint", Compare(contenders, {20, [](Contender& each, int) { each.Repaint(); }}),
+             {0.8, 1.3});
+        Tell(results, "one mouse move of a drag, painted",
+             Compare(contenders, {100, [](Contender& each, int step) { each.MoveOfDrag(step); },
+                                  [](Contender& each) { each.BeginDrag(); }, [](Contender& each) { each.EndDrag(); }}),
+             {0.8, 0});
+        results.Say(says);
+    }
+}
+
+/// A histogram cell that is drawn outside of a grid.
+class DrawnHistogram : public KyHistogramRecordItem {
+public:
+    explicit DrawnHistogram(int bins) {
+        SetError(50, 0, 100, benchpicture::BinsOf(0, bins), 0, 100);
+        m_args.pControl = &m_control;
+        m_args.rcItem.SetRect(0, 0, benchpicture::ColumnWidths[2], benchpicture::RowHeight);
+    }
+    void DrawInto(CDC& dc) {
+        m_args.pDC = &dc;
+        OnDrawCaption(&m_args, nullptr);
+    }
+
+private:
+    CXTPReportControl m_control;
+    XTP_REPORTRECORDITEM_DRAWARGS m_args;
+};
+
+/// What one histogram cell costs, with few bins and with many more than it has pixels.
+void MeasureBins(Results& results) {
+    constexpr int draws = 2000;
+    BITMAPINFO info = {};
+    info.bmiHeader = {sizeof(info.bmiHeader), 400, -benchpicture::RowHeight, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    void* bits = nullptr;
+    CBitmap bitmap;
+    bitmap.Attach(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+    CDC dc;
+    dc.CreateCompatibleDC(nullptr);
+    CBitmap* const former = dc.SelectObject(&bitmap);
+    DrawnHistogram few(40), some(200), many(5000);
+    std::vector<double> times[3];
+    for (int round = 0; round <= Rounds; ++round) {
+        int i = 0;
+        for (DrawnHistogram* const each : {&few, &some, &many})
+            times[i++].push_back(measure::Microseconds(draws, [&](int) { each->DrawInto(dc); }));
+    }
+    dc.SelectObject(former);
+    results.Inform("a histogram of 40 bins drawn", measure::Median(times[0]), FineMicroseconds);
+    results.Inform("a histogram of 200 bins drawn", measure::Median(times[1]), FineMicroseconds);
+    results.Inform("a histogram of 5,000 bins drawn", measure::Median(times[2]), FineMicroseconds);
+    results.AtMost("ratio of the last two", measure::Median(times[2]) / measure::Median(times[1]), 2, Ratio);
+}
+
 /// Whether the list view is that of version 6, which lives in a folder of its own.
 bool IsListViewNew() {
     wchar_t path[MAX_PATH] = {};
     ::GetModuleFileNameW(::GetModuleHandleW(L"comctl32.dll"), path, MAX_PATH);
     return std::wcsstr(path, L"winsxs") != nullptr;
+}
+
+void RunPlots(Results& results) {
+    ComparePlots(results);
+    results.Begin("A histogram cell alone", {"median", "figure", "at most", ""});
+    MeasureBins(results);
 }
 
 void Run(Results& results) {
@@ -302,6 +379,7 @@ void Run(Results& results) {
     }
     CompareAnswers(results, {&grid, list.get(), bare.get()});
 
+    RunPlots(results);
     results.Begin("Grid alone", {"median", "figure", "at most", ""});
     MeasureHitTest(results, grid);
     MeasureUpdates(results, grid);
@@ -311,13 +389,18 @@ void Run(Results& results) {
 
 } // namespace
 
-int main() {
+/// With the argument "plots" only the viewports with other plots than bars are measured.
+int main(int argc, char** argv) {
     if (!AfxWinInit(::GetModuleHandle(nullptr), nullptr, ::GetCommandLine(), SW_SHOWNORMAL))
         return 1;
     ::SetConsoleOutputCP(CP_UTF8);
     Results results;
-    Run(results);
-    recordbench::Run(results);
+    if (argc > 1 && std::strcmp(argv[1], "plots") == 0) {
+        RunPlots(results);
+    } else {
+        Run(results);
+        recordbench::Run(results);
+    }
     results.Say(results.Verdict());
     return results.AllMet() ? 0 : 1;
 }

@@ -4,6 +4,8 @@
 #include "plotcells/PlotScale.h"
 
 #include <plotcells/KyBarChartRecordItem.h>
+#include <plotcells/KyDragLineRecordItem.h>
+#include <plotcells/KyHistogramRecordItem.h>
 
 namespace {
 
@@ -67,15 +69,39 @@ private:
     int m_bar;
 };
 
-CXTPReportRecord* MakeRecord(int row) {
+CXTPReportRecordItem* MakePlot(const benchpicture::Picture& picture, int row, int column) {
+    const Bar bar = BarOf(row, column);
+    switch (picture.plots[column]) {
+    case benchpicture::Plot::Histogram: {
+        auto* const histogram = new Counted<KyHistogramRecordItem>;
+        histogram->SetColors(benchpicture::BarDark, benchpicture::BarLight);
+        histogram->SetError(bar.target, bar.min, bar.max, benchpicture::BinsOf(row, picture.bins), bar.min, bar.max);
+        return histogram;
+    }
+    case benchpicture::Plot::Slider: {
+        auto* const slider = new Counted<KyDragLineRecordItem>;
+        slider->SetTargetValues(bar.target, bar.min, bar.max);
+        std::vector<std::pair<double, COLORREF>> limits;
+        for (const double limit : benchpicture::SliderLimits)
+            limits.emplace_back(limit, benchpicture::SliderLimitColor);
+        slider->SetLimitValues(limits);
+        slider->ShowLimits(true);
+        return slider;
+    }
+    default: {
+        auto* const cell = new BarCell;
+        cell->Show(bar);
+        return cell;
+    }
+    }
+}
+
+CXTPReportRecord* MakeRecord(const benchpicture::Picture& picture, int row) {
     auto* const record = new CXTPReportRecord;
     record->AddItem(new Counted<CXTPReportRecordItemText>(benchpicture::NameOf(row).c_str()));
     record->AddItem(new Counted<CXTPReportRecordItemNumber>(benchpicture::NumberOf(row), _T("%.2f")));
-    for (int bar = 0; bar < benchpicture::BarCount; ++bar) {
-        auto* const cell = new BarCell;
-        cell->Show(BarOf(row, bar));
-        record->AddItem(cell);
-    }
+    for (int column = 0; column < benchpicture::BarCount; ++column)
+        record->AddItem(MakePlot(picture, row, column));
     return record;
 }
 
@@ -90,7 +116,7 @@ CXTPReportRecord* MakeVirtualRecord() {
 
 } // namespace
 
-GridContender::GridContender(Rows kind, int rows) {
+GridContender::GridContender(Rows kind, int rows, const benchpicture::Picture& picture) {
     const CRect rc(0, 0, ViewWidth, ViewHeight);
     m_owner.CreateEx(0, AfxRegisterWndClass(0), _T("grid"), WS_POPUP | WS_VISIBLE, rc, nullptr, 0);
     m_grid.Create(WS_CHILD | WS_VISIBLE, rc, &m_owner, 1);
@@ -105,7 +131,7 @@ GridContender::GridContender(Rows kind, int rows) {
         return;
     }
     for (int row = 0; row < rows; ++row)
-        m_grid.AddRecord(MakeRecord(row));
+        m_grid.AddRecord(MakeRecord(picture, row));
     m_grid.Populate();
 }
 

@@ -13,7 +13,8 @@ enum class Rows {
 
 class GridContender : public Contender {
 public:
-    GridContender(Rows kind, int rows);
+    /// Rows of a virtual record show bars, whatever the picture is.
+    GridContender(Rows kind, int rows, const benchpicture::Picture& picture = {});
     ~GridContender() override;
 
     CWnd& Window() override { return m_grid; }

@@ -13,6 +13,9 @@ using benchpicture::ViewWidth;
 
 /// The window above the list view, which answers its questions.
 class ListOwner : public CWnd {
+public:
+    explicit ListOwner(const benchpicture::Picture& picture) : m_picture(picture) {}
+
 protected:
     BOOL OnNotify(WPARAM, LPARAM lParam, LRESULT* result) override {
         const UINT code = reinterpret_cast<const NMHDR*>(lParam)->code;
@@ -37,6 +40,8 @@ private:
         item.pszText[item.cchTextMax - 1] = L'\0';
     }
 
+    benchpicture::Picture m_picture;
+
     LRESULT Draw(const NMLVCUSTOMDRAW& draw) const {
         switch (draw.nmcd.dwDrawStage) {
         case CDDS_PREPAINT:
@@ -56,15 +61,15 @@ private:
         rc.top = draw.iSubItem;
         ::SendMessage(draw.nmcd.hdr.hwndFrom, LVM_GETSUBITEMRECT, static_cast<WPARAM>(row),
                       reinterpret_cast<LPARAM>(&rc));
-        benchpicture::DrawBar(draw.nmcd.hdc, CRect(rc.left, rc.top, rc.right - 1, rc.bottom - 1),
-                              benchpicture::BarOf(row, draw.iSubItem - 2));
+        benchpicture::DrawPlot(draw.nmcd.hdc, CRect(rc.left, rc.top, rc.right - 1, rc.bottom - 1), m_picture, row,
+                               draw.iSubItem - 2);
         return CDRF_SKIPDEFAULT;
     }
 };
 
 class ListViewContender : public Contender {
 public:
-    explicit ListViewContender(int rows) {
+    ListViewContender(int rows, const benchpicture::Picture& picture) : m_owner(picture) {
         INITCOMMONCONTROLSEX classes = {sizeof(classes), ICC_LISTVIEW_CLASSES};
         ::InitCommonControlsEx(&classes);
         const CRect rc(0, 0, ViewWidth, ViewHeight);
@@ -168,4 +173,6 @@ private:
 
 } // namespace
 
-std::unique_ptr<Contender> MakeListViewContender(int rows) { return std::make_unique<ListViewContender>(rows); }
+std::unique_ptr<Contender> MakeListViewContender(int rows, const benchpicture::Picture& picture) {
+    return std::make_unique<ListViewContender>(rows, picture);
+}

@@ -7,6 +7,7 @@
 
 namespace histogramgeometry {
 
+using plotspan::Clip;
 using plotspan::Extent;
 using plotspan::Span;
 
@@ -38,29 +39,36 @@ Span SingleBin(Extent cell, double minFraction, double maxFraction) {
     return {Truncate(begin), Truncate(end)};
 }
 
-/// The bin of a column by the inverse of `Edge`: right but for rounding.
-std::size_t BinPlaces::Guess(int column) const {
-    const double place = ((static_cast<double>(column) - m_left) / m_width - m_min) / m_binWidth;
-    const double last = static_cast<double>(m_count - 1);
-    return place >= last ? m_count - 1 : place > 0.0 ? static_cast<std::size_t>(place) : 0;
+/// The bin of a column by the inverse of `Edge`: right but for rounding. A column shows the last bin that begins in it,
+/// so it is the bin at the column's right edge; left of 0, where edges are cut the other way, that at its left edge.
+std::int64_t BinPlaces::Guess(int column) const {
+    const double edge = static_cast<double>(column) + (column >= 0 ? 1.0 : 0.0);
+    const double place = (edge - m_left) * m_binsPerPixel + m_binAtLeft;
+    const std::int64_t last = m_count - 1;
+    return place >= static_cast<double>(last) ? last : place > 0.0 ? static_cast<std::int64_t>(place) : 0;
 }
 
-std::optional<std::size_t> BinPlaces::BinAt(int column) const {
-    if (m_count == 0 || Edge(0) > column || Edge(m_count) <= column)
-        return std::nullopt;
-    std::size_t bin = Guess(column);
+std::size_t BinPlaces::BinInStrip(int column) const {
+    std::int64_t bin = Guess(column);
     for (int step = 0; step < 4; ++step) {
         if (Edge(bin) > column)
             --bin;
         else if (Edge(bin + 1) <= column)
             ++bin;
         else
-            return bin;
+            return static_cast<std::size_t>(bin);
     }
     // Places so large or so close together that the inverse says little.
-    const auto bins = std::views::iota(std::size_t{1}, m_count);
-    const auto beyond = std::ranges::partition_point(bins, [&](std::size_t at) { return Edge(at) <= column; });
+    const auto bins = std::views::iota(std::int64_t{1}, m_count);
+    const auto beyond = std::ranges::partition_point(bins, [&](std::int64_t at) { return Edge(at) <= column; });
     return static_cast<std::size_t>(beyond - bins.begin());
+}
+
+std::optional<std::size_t> BinPlaces::BinAt(int column) const {
+    const Span strip = Strip();
+    if (m_count == 0 || strip.begin > column || strip.end <= column)
+        return std::nullopt;
+    return BinInStrip(column);
 }
 
 void PaintBins(plotspan::PixelRow& row, const BinPlaces& places, std::span<const double> counts, double largest,
@@ -70,20 +78,18 @@ void PaintBins(plotspan::PixelRow& row, const BinPlaces& places, std::span<const
     const auto colorOf = [&](double count) {
         return count == 0.0 ? background : colors[static_cast<std::size_t>(ColorOf(count, largest))];
     };
-    const Span columns = row.Columns();
     if (counts.size() <= row.Colors().size()) {
         int begin = places.Edge(0);
         for (std::size_t bin = 0; bin < counts.size(); ++bin) {
-            const int end = places.Edge(bin + 1);
+            const int end = places.Edge(static_cast<std::int64_t>(bin) + 1);
             row.Fill({begin, end}, colorOf(counts[bin]));
             begin = end;
         }
         return;
     }
-    for (int column = columns.begin; column < columns.end; ++column) {
-        if (const auto bin = places.BinAt(column))
-            row.Set(column, colorOf(counts[*bin]));
-    }
+    const Span strip = Clip(places.Strip(), row.Columns().begin, row.Columns().end);
+    for (int column = strip.begin; column < strip.end; ++column)
+        row.Set(column, colorOf(counts[places.BinInStrip(column)]));
 }
 
 } // namespace histogramgeometry

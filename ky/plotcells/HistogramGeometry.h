@@ -32,27 +32,34 @@ class BinPlaces {
 public:
     BinPlaces(plotspan::Extent cell, double minFraction, double maxFraction, std::size_t count)
         : m_left(cell.left), m_width(cell.Width()), m_min(minFraction),
-          m_binWidth((maxFraction - minFraction) / static_cast<double>(count)), m_count(count) {}
+          m_binWidth((maxFraction - minFraction) / static_cast<double>(count)),
+          m_count(static_cast<std::int64_t>(count)), m_binsPerPixel(1.0 / (m_width * m_binWidth)),
+          m_binAtLeft(-m_min / m_binWidth) {}
 
-    std::size_t Count() const { return m_count; }
     /// Whether any bin can have an extent: their places run from left to right.
     bool CanBeSeen() const { return m_binWidth > 0.0; }
     /// The left edge of a bin, which is the right edge of the one before; unclipped. For bins that can be seen, no edge
     /// is left of the one before, so that no two of them share a pixel.
-    int Edge(std::size_t bin) const {
+    int Edge(std::int64_t bin) const {
         return Truncate((static_cast<double>(bin) * m_binWidth + m_min) * m_width + m_left);
     }
-    /// The bin in which the pixel column lies. Its cost does not depend on the number of bins.
+    /// All bins together.
+    plotspan::Span Strip() const { return {Edge(0), Edge(m_count)}; }
+    /// The bin in which a pixel column of the strip lies. Its cost does not depend on the number of bins.
+    std::size_t BinInStrip(int column) const;
+    /// The bin in which the pixel column lies, if it is one of the strip.
     std::optional<std::size_t> BinAt(int column) const;
 
 private:
-    std::size_t Guess(int column) const;
+    std::int64_t Guess(int column) const;
 
     int m_left;
     double m_width;
     double m_min;
     double m_binWidth;
-    std::size_t m_count;
+    std::int64_t m_count;
+    double m_binsPerPixel; ///< these two only serve guesses
+    double m_binAtLeft;
 };
 
 /// Paints the bins into the row; one without any count gets the background's colour. Takes as long as there are bins or

@@ -116,9 +116,8 @@ void KyHistogramRecordItem::DrawBins(const Drawing& drawing) const {
         return;
     }
     const histogramgeometry::BinPlaces places(extent, min, max, m_bins.size());
-    const plotspan::Span strip{places.Edge(0), places.Edge(m_bins.size())};
     const plotspan::Span seen = plotcell::VisibleColumns(dc, ground.rect);
-    plotspan::PixelRow row(plotspan::Clip(strip, seen.begin, seen.end), ground.color);
+    plotspan::PixelRow row(plotspan::Clip(places.Strip(), seen.begin, seen.end), ground.color);
     histogramgeometry::PaintBins(
         row, places, m_bins, m_largestCount,
         colorramp::SharedGradient(m_emptyColor, m_fullColor, histogramgeometry::GradientColors), ground.color);

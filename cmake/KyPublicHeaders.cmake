@@ -48,13 +48,17 @@ function(ky_public_headers result house)
             common/ParseDouble.h
             common/Translation.h
             plotcells/KyBarChartRecordItem.h
+            plotcells/KyDragLineMinMaxRecordItem.h
             plotcells/KyDragLineRecordItem.h
             plotcells/KyHistogramRecordItem.h
             plotcells/KyPlotRecordItem.h
             plotcells/KyPlotRecordReportControl.h
+            reportgrid/KyDialogReportControlTheme.h
+            reportgrid/KyInPlaceEdit.h
             reportgrid/KyReportControl.h
             reportgrid/KyReportControlHelpers.h
             reportgrid/KyReportHeader.h
+            reportgrid/KyReportRecordItemFloat.h
             themes/KyPaintTheme.h
             themes/Themes.h)
     else()

@@ -18,6 +18,7 @@ namespace KyReportControlHelpers {
 /// A cell shows what its item writes in `DoPropExchange`: "Text", or, where there is a "Format", the float "Value" with
 /// nine digits, whatever the grid shows of it; the missing-value mark is an empty cell. Plot cells become bitmap files
 /// of 400 x 22 pixels.
+/// @param control      any report control; it need not have a window
 /// @param imagePrefix  the files of the plot cells are "PREFIX_RECORD_ITEM.bmp", both counted from 0; the page names
 ///                     them exactly so, also one that could not be written. Null is empty.
 /// @return "<table>" alone when the records cannot be written for want of memory

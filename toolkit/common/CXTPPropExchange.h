@@ -47,7 +47,7 @@ public:
     virtual BOOL ExchangeProp(LPCTSTR pszPropName, VARTYPE vtProp, void* pvProp, const void* pvDefault = nullptr) = 0;
 
 protected:
-    explicit CXTPPropExchange(BOOL bLoading) : m_bLoading(bLoading) {}
+    explicit CXTPPropExchange(BOOL bLoading) : m_bLoading(bLoading) {} ///< reads or writes, all its life
 
 private:
     const BOOL m_bLoading;
@@ -87,9 +87,6 @@ using CXTPPropExchangeSection = CXTPPropExchangeHolder<CXTPPropExchange>;
 /// @ingroup toolkit_common
 using CXTPPropExchangeEnumeratorPtr = CXTPPropExchangeHolder<CXTPPropExchangeEnumerator>;
 
-/// @addtogroup toolkit_common
-/// @{
-
 /** @{ */
 /// One property, written or read as the exchange is loading or storing; see `CXTPPropExchange::ExchangeProp` for what
 /// they return. The forms with a default do not write a value that equals it, and read it where there is none.
@@ -110,5 +107,3 @@ KY_TOOLKIT_API BOOL PX_Float(CXTPPropExchange* pPX, LPCTSTR pszPropName, float& 
 KY_TOOLKIT_API BOOL PX_Double(CXTPPropExchange* pPX, LPCTSTR pszPropName, double& dValue);
 KY_TOOLKIT_API BOOL PX_Double(CXTPPropExchange* pPX, LPCTSTR pszPropName, double& dValue, double dDefault);
 /** @} */
-
-/// @}

@@ -15,6 +15,7 @@ struct xml_node_struct;
 class KY_TOOLKIT_API CXTPPropExchangeXMLNode : public CXTPPropExchange {
 public:
     /// The outermost section.
+    /// @param bLoading     whether it reads or writes
     /// @param pDocument    whose document is read or written on; null: an empty one of its own. Not kept.
     /// @param lpszSection  the document's element
     CXTPPropExchangeXMLNode(BOOL bLoading, CXTPPropExchangeXMLNode* pDocument, LPCTSTR lpszSection);

@@ -186,6 +186,28 @@ void DrawBar(HDC dc, const RECT& cell, const Bar& bar) {
     DrawMark(dc, rect, marks.target, Gold);
 }
 
+namespace {
+
+/// A slider in the upper half of the cell, the ends of its scale in the lower one.
+void DrawMinMax(HDC dc, const RECT& cell, const Bar& bar) {
+    const int halfHeight = (cell.bottom - cell.top) / 2, halfWidth = (cell.right - cell.left) / 2;
+    Fill(dc, cell, White);
+    const int saved = ::SaveDC(dc);
+    ::IntersectClipRect(dc, cell.left, cell.top, cell.right, cell.bottom); // the handle is higher than its half
+    DrawSlider(dc, {cell.left, cell.top + 3, cell.right, cell.bottom - 3 - halfHeight}, bar);
+    ::RestoreDC(dc, saved);
+    ::SetTextColor(dc, Black);
+    ::SetBkMode(dc, TRANSPARENT);
+    RECT place = {cell.left + 1, cell.top + 1 + halfHeight, cell.right - 1 - halfWidth, cell.bottom - 1};
+    wchar_t text[32];
+    ::DrawTextW(dc, text, std::swprintf(text, std::size(text), L"%g", bar.min), &place, DT_SINGLELINE | DT_VCENTER);
+    ::OffsetRect(&place, halfWidth, 0);
+    ::DrawTextW(dc, text, std::swprintf(text, std::size(text), L"%g", bar.max), &place,
+                DT_SINGLELINE | DT_VCENTER | DT_RIGHT);
+}
+
+} // namespace
+
 void DrawPlot(HDC dc, const RECT& cell, const Picture& picture, std::int64_t row, int column) {
     const Bar bar = BarOf(row, column);
     switch (picture.plots[column]) {
@@ -195,6 +217,8 @@ void DrawPlot(HDC dc, const RECT& cell, const Picture& picture, std::int64_t row
         return DrawHistogram(dc, cell, bar, BinsOf(row, picture.bins));
     case Plot::Slider:
         return DrawSlider(dc, cell, bar);
+    case Plot::MinMax:
+        return DrawMinMax(dc, cell, bar);
     }
 }
 

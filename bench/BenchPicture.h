@@ -18,7 +18,7 @@ inline constexpr int BarCount = 3;
 inline constexpr int ColumnCount = 2 + BarCount; ///< name, number, plots
 
 /// What the cell of a plot column shows.
-enum class Plot { Bar, Histogram, Slider };
+enum class Plot { Bar, Histogram, Slider, MinMax };
 
 /// What the rows show behind name and number.
 struct Picture {

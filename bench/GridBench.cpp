@@ -279,12 +279,13 @@ void MeasureManyRows(Results& results, GridContender& contender) {
 void ComparePlots(Results& results) {
     using benchpicture::Plot;
     for (const int bins : {40, 200}) {
-        const benchpicture::Picture picture{{Plot::Histogram, Plot::Slider, Plot::Bar}, bins};
+        const benchpicture::Picture picture{{Plot::Histogram, Plot::Slider, Plot::MinMax}, bins};
         GridContender grid(Rows::Records, Contender::RecordRows, picture);
         const auto bare = MakeBareContender(grid.Grid().GetHeaderRect().Height(), picture);
         const auto list = MakeListViewContender(Contender::RecordRows, picture);
         char heading[100], says[150];
-        std::snprintf(heading, sizeof heading, "Histogram of %d bins, slider and bar in each row", bins);
+        std::snprintf(heading, sizeof heading, "Histogram of %d bins, slider, and slider with its ends in each row",
+                      bins);
         std::snprintf(says, sizeof says, "Pixels of the plots that differ from ours: %d (list view), %d (bare loop).",
                       DifferentPixels(grid, *list), DifferentPixels(grid, *bare));
         results.Begin(heading,

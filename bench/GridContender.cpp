@@ -4,7 +4,7 @@
 #include "plotcells/PlotScale.h"
 
 #include <plotcells/KyBarChartRecordItem.h>
-#include <plotcells/KyDragLineRecordItem.h>
+#include <plotcells/KyDragLineMinMaxRecordItem.h>
 #include <plotcells/KyHistogramRecordItem.h>
 
 namespace {
@@ -69,6 +69,18 @@ private:
     int m_bar;
 };
 
+template <class Slider>
+CXTPReportRecordItem* MakeSlider(const Bar& bar) {
+    auto* const slider = new Counted<Slider>;
+    slider->SetTargetValues(bar.target, bar.min, bar.max);
+    std::vector<std::pair<double, COLORREF>> limits;
+    for (const double limit : benchpicture::SliderLimits)
+        limits.emplace_back(limit, benchpicture::SliderLimitColor);
+    slider->SetLimitValues(limits);
+    slider->ShowLimits(true);
+    return slider;
+}
+
 CXTPReportRecordItem* MakePlot(const benchpicture::Picture& picture, int row, int column) {
     const Bar bar = BarOf(row, column);
     switch (picture.plots[column]) {
@@ -78,16 +90,10 @@ CXTPReportRecordItem* MakePlot(const benchpicture::Picture& picture, int row, in
         histogram->SetError(bar.target, bar.min, bar.max, benchpicture::BinsOf(row, picture.bins), bar.min, bar.max);
         return histogram;
     }
-    case benchpicture::Plot::Slider: {
-        auto* const slider = new Counted<KyDragLineRecordItem>;
-        slider->SetTargetValues(bar.target, bar.min, bar.max);
-        std::vector<std::pair<double, COLORREF>> limits;
-        for (const double limit : benchpicture::SliderLimits)
-            limits.emplace_back(limit, benchpicture::SliderLimitColor);
-        slider->SetLimitValues(limits);
-        slider->ShowLimits(true);
-        return slider;
-    }
+    case benchpicture::Plot::Slider:
+        return MakeSlider<KyDragLineRecordItem>(bar);
+    case benchpicture::Plot::MinMax:
+        return MakeSlider<KyDragLineMinMaxRecordItem>(bar);
     default: {
         auto* const cell = new BarCell;
         cell->Show(bar);

@@ -5,6 +5,7 @@
 #include "reportgrid/KyDialogReportControlTheme.h"
 #include "statistics/DisplayText.h"
 #include "window/DpiScale.h"
+#include "window/ProfileGrid.h"
 #include "window/WideText.h"
 
 #include <algorithm>
@@ -21,24 +22,11 @@ constexpr UINT kGridId = 100;
 
 CString Number(double number) { return FromUtf8(statistics::NumberText(number)); }
 
-CString TypeText(csv::ColumnType type) {
-    switch (type) {
-    case csv::ColumnType::Number:
-        return Translate("Column type", "Number");
-    case csv::ColumnType::Date:
-        return Translate("Column type", "Date");
-    case csv::ColumnType::Text:
-        return Translate("Column type", "Text");
-    default:
-        return Translate("Column type", "Empty");
-    }
-}
-
 } // namespace
 
 std::vector<std::pair<CString, CString>> ColumnDetails(const statistics::ColumnProfile& profile) {
     std::vector<std::pair<CString, CString>> details = {
-        {Translate("Type"), TypeText(profile.type)},
+        {Translate("Type"), ColumnTypeText(profile.type)},
         {Translate("Rows with a value"), CountText(profile.count)},
         {Translate("Rows without a value"), CountText(profile.missing)},
     };

@@ -46,19 +46,6 @@ ColumnHistogramItem::ValueText ValueTextOf(const statistics::ColumnProfile& prof
     return [detail](double days) { return FromUtf8(statistics::DateText(days, detail)); };
 }
 
-CString TypeText(csv::ColumnType type) {
-    switch (type) {
-    case csv::ColumnType::Number:
-        return Translate("Column type", "Number");
-    case csv::ColumnType::Date:
-        return Translate("Column type", "Date");
-    case csv::ColumnType::Text:
-        return Translate("Column type", "Text");
-    default:
-        return Translate("Column type", "Empty");
-    }
-}
-
 /// What stands in place of a plot.
 CString PlotText(const statistics::ColumnProfile& profile) {
     const bool one = profile.distinct == 1;
@@ -88,6 +75,19 @@ CString MarkText(LimitMark mark) {
 }
 
 } // namespace
+
+CString ColumnTypeText(csv::ColumnType type) {
+    switch (type) {
+    case csv::ColumnType::Number:
+        return Translate("Column type", "Number");
+    case csv::ColumnType::Date:
+        return Translate("Column type", "Date");
+    case csv::ColumnType::Text:
+        return Translate("Column type", "Text");
+    default:
+        return Translate("Column type", "Empty");
+    }
+}
 
 BEGIN_MESSAGE_MAP(ProfileGrid, KyPlotRecordReportControl)
     ON_MESSAGE(WM_KYRANGEEDITED, &ProfileGrid::OnRangeEdited)
@@ -203,7 +203,7 @@ void ProfileGrid::AddRow(const ColumnFile& file, std::size_t index) {
     const statistics::Summary& numbers = profile.numbers;
     auto* record = new CXTPReportRecord;
     record->AddItem(new CXTPReportRecordItemText(FromUtf8(profile.name)));
-    record->AddItem(new CXTPReportRecordItemText(TypeText(profile.type)));
+    record->AddItem(new CXTPReportRecordItemText(ColumnTypeText(profile.type)));
     record->AddItem(new ValueItem(std::to_wstring(profile.count).c_str(), static_cast<double>(profile.count)));
     record->AddItem(new ValueItem(std::to_wstring(profile.missing).c_str(), static_cast<double>(profile.missing)));
     if (profile.type == csv::ColumnType::Number && numbers.count > 0) {

@@ -15,6 +15,9 @@
 
 class ShareItem;
 
+/// The name of a kind of column, as the user reads it.
+CString ColumnTypeText(csv::ColumnType type);
+
 /// Shows the profiles of a file's columns. The user drags the limits of a column in any of its plots; the other plots
 /// and the share of the values inside follow, and `SetStatusListener` is told what goes on meanwhile. The scale of a
 /// column and the share that is asked for are typed.

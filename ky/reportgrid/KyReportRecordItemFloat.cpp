@@ -4,6 +4,8 @@
 #include "../common/MessageFormat.h"
 #include "../common/ParseDouble.h"
 
+#include <cmath>
+
 namespace {
 
 constexpr const wchar_t* defaultFormat = L"%g";
@@ -69,5 +71,7 @@ void KyReportRecordItemFloat::OnEditChanged(XTP_REPORTRECORDITEM_ARGS*, const wc
     if (!ParseDouble(typed, value))
         return;
     SetValue(value);
-    m_inRange = IsWithinLimits(static_cast<float>(value));
+    // Intended: unlike a number that a cell is made with, a typed "nan" is neither below nor above a limit.
+    const auto typedValue = static_cast<float>(value);
+    m_inRange = std::isnan(typedValue) || IsWithinLimits(typedValue);
 }

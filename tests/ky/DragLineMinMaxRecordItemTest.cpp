@@ -203,12 +203,14 @@ TEST_F(MinMaxTest, TheWholeCellHasTheBackgroundAndTheTextColourComesBack) {
     first->SetBackgroundColor(Green);
     Surface surface(120, 60, Gold);
     surface.Dc().SetTextColor(Blue);
+    surface.Dc().SetBkMode(OPAQUE);
     XTP_REPORTRECORDITEM_DRAWARGS args;
     args.pDC = &surface.Dc();
     args.pControl = &grid;
     args.rcItem = CRect(10, 5, 110, 51);
     first->OnDrawCaption(&args, nullptr);
     EXPECT_EQ(surface.Dc().GetTextColor(), Blue);
+    EXPECT_EQ(::GetBkMode(surface.Dc()), OPAQUE);
     const PixelImage image = surface.Image();
     EXPECT_EQ(image.At(10, 5), Green);
     EXPECT_EQ(image.At(109, 50), Green);

@@ -4,6 +4,7 @@
 #include <reportgrid/KyReportRecordItemFloat.h>
 
 #include <clocale>
+#include <cmath>
 #include <limits>
 
 namespace {
@@ -149,6 +150,15 @@ TEST_F(FloatCellTest, NothingThatIsNoNumberIsWithinLimits) {
     EXPECT_TRUE(IsRed(cell));
     KyReportRecordItemFloat infinite(std::numeric_limits<float>::infinity(), 4, 1);
     EXPECT_TRUE(IsRed(infinite));
+}
+
+TEST_F(FloatCellTest, ATypedNaNIsNeitherBelowNorAboveALimit) {
+    KyReportRecordItemFloat cell(5, 4, 1);
+    Type(cell, L"nan");
+    EXPECT_TRUE(std::isnan(cell.GetValue()));
+    EXPECT_FALSE(IsRed(cell));
+    Type(cell, L"inf");
+    EXPECT_TRUE(IsRed(cell));
 }
 
 // --- Typed ----------------------------------------------------------------------------------------------------------

@@ -316,9 +316,12 @@ void Noise::Act() {
     std::snprintf(text, sizeof(text), "raw: %s 0x%04x 0x%llx 0x%llx", name, message,
                   static_cast<unsigned long long>(wParam), static_cast<unsigned long long>(lParam));
     sentinel::Note(text);
-    // The loop of a pressed caption button hears of the mouse alone, so no timer can end it.
+    // The loops of a pressed caption button and of the right button on a caption hear of the mouse alone, so no timer
+    // can end them.
     if (message == WM_NCLBUTTONDOWN || message == WM_NCLBUTTONDBLCLK)
         ::PostMessage(window, WM_LBUTTONUP, 0, 0);
+    else if (message == WM_NCRBUTTONDOWN)
+        ::PostMessage(window, WM_RBUTTONUP, 0, 0);
     ::SendMessage(window, message, wParam, lParam);
     Pump();
     m_zoo.AwaitReading();

@@ -3,6 +3,7 @@
 
 #include "plotcells/KyPlotRecordItem.h"
 #include "statistics/Limits.h"
+#include "window/PlotTip.h"
 
 #include <algorithm>
 #include <functional>
@@ -58,14 +59,7 @@ public:
             return -1; // the status bar tells the value then, and a tip would hide the plot
         // The tip is asked for before the move reaches the cell, and its text is that of the last move.
         Cell::OnMouseMove(0, point, nullptr);
-        const CString text = this->GetInfoTip();
-        if (text.IsEmpty())
-            return -1;
-        if (tool != nullptr) {
-            tool->rect = this->m_itemRect;
-            tool->lpszText = _wcsdup(text);
-        }
-        return 0; // the grid numbers its cells
+        return PlotTip(this->GetInfoTip(), this->m_itemRect, tool);
     }
 
 private:

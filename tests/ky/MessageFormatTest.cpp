@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
+#include <ostream>
+
 using messageformat::Fill;
 
 namespace {
@@ -35,5 +38,24 @@ TEST(MessageFormat, ABrokenTranslationShowsTheOriginal) {
 }
 
 TEST(MessageFormat, AnOriginalThatDoesNotFitComesBackUnfilled) { EXPECT_EQ(Fill(L"%2%", L"%3%", 5.0), L"%3%"); }
+
+/// There is no memory for its text.
+struct Hungry {
+    friend std::wostream& operator<<(std::wostream&, const Hungry&) { throw std::bad_alloc(); }
+};
+
+/// The first letters find room in the stream, the others do not.
+struct Cut {
+    friend std::wostream& operator<<(std::wostream& stream, const Cut&) {
+        stream << L"12";
+        stream.setstate(std::ios_base::badbit);
+        return stream;
+    }
+};
+
+TEST(MessageFormat, WantOfMemoryIsToldAndNeverAShorterText) {
+    EXPECT_THROW(Fill(Pattern, Pattern, Hungry{}), std::bad_alloc);
+    EXPECT_EQ(Fill(Pattern, Pattern, Cut{}), Pattern);
+}
 
 } // namespace

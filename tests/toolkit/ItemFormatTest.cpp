@@ -37,12 +37,16 @@ TEST(ReadNumber, TakesBothSeparatorsAndWhiteSpaceAround) {
     EXPECT_EQ(number, -2.25);
     EXPECT_TRUE(itemformat::ReadNumber(L"1e3", number));
     EXPECT_EQ(number, 1000);
+    EXPECT_TRUE(itemformat::ReadNumber(L"+4", number));
+    EXPECT_EQ(number, 4);
+    EXPECT_TRUE(itemformat::ReadNumber(L"-.5", number));
+    EXPECT_EQ(number, -0.5);
 }
 
 TEST(ReadNumber, LeavesTheNumberWhenTheTextIsNone) {
     double number = 7;
-    for (const wchar_t* text :
-         {L"", L" ", L"x", L"1x", L"1 2", L"1.234,5", L"1,2,3", L"inf", L"-nan", L"1e999", L"--1"})
+    for (const wchar_t* text : {L"", L" ", L"x", L"1x", L"1 2", L"1.234,5", L"1,2,3", L"inf", L"-nan", L"1e999", L"--1",
+                                L"++1", L"+-1", L"+", L"\u0661", L"0x10"})
         EXPECT_FALSE(itemformat::ReadNumber(text, number));
     EXPECT_FALSE(itemformat::ReadNumber(nullptr, number));
     EXPECT_EQ(number, 7);

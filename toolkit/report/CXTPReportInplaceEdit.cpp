@@ -13,6 +13,7 @@
 #include "../../framework/gdi/SelectGuard.h"
 
 #include <algorithm>
+#include <exception>
 #include <imm.h>
 
 IMPLEMENT_DYNCREATE(CXTPReportInplaceEdit, CEdit)
@@ -108,6 +109,15 @@ BOOL CXTPReportInplaceEdit::Create(XTP_REPORTRECORDITEM_ARGS* pItemArgs) {
         CellMetrics(control, session->args.pRow, session->args.pColumn, session->args.pItem);
     session->startText = metrics.strText;
     m_session = session;
+    const struct Unfinished { // want of memory leaves no half an editor behind
+        CXTPReportInplaceEdit& edit;
+        const std::shared_ptr<Session>& session;
+        int exceptions = std::uncaught_exceptions();
+        ~Unfinished() {
+            if (std::uncaught_exceptions() > exceptions && edit.m_session == session)
+                edit.Close(session);
+        }
+    } unfinished{*this, session};
     TakeLook();
     const int alignment = metrics.nColumnAlignment;
     const DWORD style = WS_CHILD | ES_AUTOHSCROLL |

@@ -1,14 +1,12 @@
 // Numbers as texts: checks of formats, and reading what a user typed.
 #include "ItemFormat.h"
 
-#include <cerrno>
-#include <clocale>
+#include <charconv>
 #include <cmath>
-#include <cstdlib>
-#include <cstring>
 #include <cwchar>
 #include <cwctype>
 #include <string>
+#include <string_view>
 
 namespace itemformat {
 
@@ -57,22 +55,24 @@ bool IsSafe(const wchar_t* format, Value value) {
 bool ReadNumber(const wchar_t* text, double& number) {
     if (!text)
         return false;
-    std::wstring typed(text);
-    const char* const localPoint = std::localeconv()->decimal_point;
-    wchar_t point = L'.';
-    if (std::mbtowc(&point, localPoint, std::strlen(localPoint)) <= 0)
-        point = L'.';
-    for (wchar_t& c : typed)
-        if (c == L'.' || c == L',')
-            c = point;
-    wchar_t* end = nullptr;
-    errno = 0;
-    const double read = std::wcstod(typed.c_str(), &end);
-    if (end == typed.c_str() || errno == ERANGE || !std::isfinite(read))
-        return false;
-    while (std::iswspace(*end))
-        ++end;
-    if (*end != L'\0')
+    std::wstring_view rest(text);
+    while (!rest.empty() && std::iswspace(rest.front()))
+        rest.remove_prefix(1);
+    while (!rest.empty() && std::iswspace(rest.back()))
+        rest.remove_suffix(1);
+    if (rest.size() > 1 && rest.front() == L'+' && rest[1] != L'-')
+        rest.remove_prefix(1);
+    // Not by the C library: where there is no memory for its copy of the text, it does not return.
+    std::string typed;
+    typed.reserve(rest.size());
+    for (const wchar_t c : rest) {
+        if (c > 0x7E)
+            return false;
+        typed += c == L',' ? '.' : static_cast<char>(c);
+    }
+    double read = 0.0;
+    const auto [end, error] = std::from_chars(typed.data(), typed.data() + typed.size(), read);
+    if (error != std::errc() || end != typed.data() + typed.size() || !std::isfinite(read))
         return false;
     number = read;
     return true;

@@ -13,7 +13,8 @@ enum class Value { Number, Text };
 bool IsSafe(const wchar_t* format, Value value);
 
 /// Reads the whole text, white space around it aside, as one finite number. Both '.' and ',' are taken for the decimal
-/// separator, whatever the C locale has. False, and `number` as it was, for anything else; null is no number.
+/// separator, whatever the C locale has; no others are taken between the digits. False, and `number` as it was, for
+/// anything else; null is no number.
 bool ReadNumber(const wchar_t* text, double& number);
 
 } // namespace itemformat

@@ -66,14 +66,26 @@ TEST(RowSelection, CountsAndFindsFromTheTop) {
 
 TEST(RowSelection, ARemovedRowTakesItsPlaceOutAndMovesTheOthersUp) {
     RowSelection selection = Of({{2, 4}, {6, 6}, {8, 9}});
-    selection.RowRemoved(5);
+    selection.Splice(5, 1, 0);
     EXPECT_EQ(selection.Ranges(), (Ranges{{2, 5}, {7, 8}})) << "what row 5 parted is one range";
-    selection.RowRemoved(3);
+    selection.Splice(3, 1, 0);
     EXPECT_EQ(selection.Ranges(), (Ranges{{2, 4}, {6, 7}}));
-    selection.RowRemoved(0);
+    selection.Splice(0, 1, 0);
     EXPECT_EQ(selection.Ranges(), (Ranges{{1, 3}, {5, 6}}));
-    selection.RowRemoved(100);
+    selection.Splice(100, 1, 0);
     EXPECT_EQ(selection.Ranges(), (Ranges{{1, 3}, {5, 6}}));
+}
+
+TEST(RowSelection, InsertedRowsAreNotSelectedAndMoveTheOthersDown) {
+    RowSelection selection = Of({{2, 4}, {6, 6}});
+    selection.Splice(3, 0, 2);
+    EXPECT_EQ(selection.Ranges(), (Ranges{{2, 2}, {5, 6}, {8, 8}})) << "they part the range into which they come";
+    selection.Splice(5, 0, 1);
+    EXPECT_EQ(selection.Ranges(), (Ranges{{2, 2}, {6, 7}, {9, 9}}));
+    selection.Splice(2, 5, 1);
+    EXPECT_EQ(selection.Ranges(), (Ranges{{3, 3}, {5, 5}})) << "row 7 comes behind the new one";
+    selection.Splice(-1, 1, 1);
+    EXPECT_EQ(selection.Ranges(), (Ranges{{3, 3}, {5, 5}}));
 }
 
 TEST(RowSelection, TruncatingDropsTheRowsFromThere) {
@@ -120,10 +132,13 @@ public:
             if (m_set.erase(a) == 0)
                 m_set.insert(a);
             break;
-        case 4:
-            m_selection.RowRemoved(a);
-            RemoveRowFromSet(a);
+        case 4: {
+            std::uniform_int_distribution<int> few(0, 5);
+            const int removed = few(random), inserted = few(random);
+            m_selection.Splice(a, removed, inserted);
+            SpliceSet(a, removed, inserted);
             break;
+        }
         default:
             m_selection.Truncate(a + 40);
             m_set.erase(m_set.lower_bound(a + 40), m_set.end());
@@ -150,11 +165,11 @@ public:
 
 private:
     static int Row(std::mt19937& random) { return std::uniform_int_distribution<int>(0, 100)(random); }
-    void RemoveRowFromSet(int removed) {
+    void SpliceSet(int first, int removed, int inserted) {
         std::set<int> moved;
         for (const int row : m_set)
-            if (row != removed)
-                moved.insert(row > removed ? row - 1 : row);
+            if (row < first || row >= first + removed)
+                moved.insert(row < first ? row : row - removed + inserted);
         m_set = moved;
     }
 

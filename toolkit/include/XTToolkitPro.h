@@ -21,6 +21,8 @@
 #include "../report/CXTPReportColumn.h"
 #include "../report/CXTPReportColumns.h"
 #include "../report/CXTPReportControl.h"
+#include "../report/CXTPReportFilterEditControl.h"
+#include "../report/CXTPReportGroupRow.h"
 #include "../report/CXTPReportHeader.h"
 #include "../report/CXTPReportInplaceEdit.h"
 #include "../report/CXTPReportPaintManager.h"

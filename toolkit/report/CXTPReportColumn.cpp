@@ -107,6 +107,10 @@ void CXTPReportColumn::HideDivider(BOOL bHide) {
     Set(m_bDividerHidden, static_cast<BOOL>(bHide != FALSE), Effect::Look);
 }
 
+void CXTPReportColumn::SetTreeColumn(BOOL bTreeColumn) {
+    Set(m_bTreeColumn, static_cast<BOOL>(bTreeColumn != FALSE), Effect::Layout);
+}
+
 void CXTPReportColumn::SetVisible(BOOL bVisible) {
     const boost::intrusive_ptr<CXTPReportColumn> alive(this); // the host's hooks may delete the column
     if (!bVisible && m_bVisible && GetControl() && !GetControl()->OnColumnLeaving(this))

@@ -76,6 +76,13 @@ public:
     void SetResizable(BOOL bResizable) { m_bResizable = bResizable; } ///< also keeps it out of "fit all columns"
     BOOL IsEditable() const { return m_bEditable; }                   ///< its cells can be edited; TRUE at first
     void SetEditable(BOOL bEditable) { m_bEditable = bEditable; }     ///< see `CXTPReportControl::AllowEdit`
+    /// Whether the filter looks at what the cells show while the column is visible; TRUE at first.
+    BOOL IsFiltrable() const { return m_bFiltrable; }
+    void SetFiltrable(BOOL bFiltrable) { m_bFiltrable = bFiltrable; } ///< counts from the next `Populate` on
+    /// The column shows the outline of the records: a button where there are records below, and an indentation by
+    /// depth, which the cells make room for. FALSE at first; several columns may show it.
+    BOOL IsTreeColumn() const { return m_bTreeColumn; }
+    void SetTreeColumn(BOOL bTreeColumn); ///< rows can be expanded by the user where a visible column shows the tree
     /// The header draws no line between this column and the next one; FALSE at first.
     BOOL IsDividerHidden() const { return m_bDividerHidden; }
     void HideDivider(BOOL bHide); ///< resizing at the divider stays as it was
@@ -128,6 +135,7 @@ private:
     BOOL m_bAutoSize, m_bSortable, m_bVisible;
     BOOL m_bAllowRemove = TRUE, m_bAllowDragging = TRUE, m_bResizable = TRUE, m_bEditable = TRUE;
     BOOL m_bDividerHidden = FALSE;
+    BOOL m_bFiltrable = TRUE, m_bTreeColumn = FALSE;
     BOOL m_bSortIncreasing = TRUE;
     CRect m_rcColumn;
 };

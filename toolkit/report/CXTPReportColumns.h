@@ -65,7 +65,8 @@ public:
     void ResetSortOrder();
     /// The columns by which rows are sorted. Kept in saved layouts.
     CXTPReportColumnOrder* GetSortOrder() { return &m_sortOrder; }
-    /// The columns by which rows are grouped. Kept in saved layouts.
+    /// The columns by which rows are grouped, most significant first, from the next `Populate` on; each in the
+    /// direction that counts for its sorting. They stay as visible as they are. Kept in saved layouts.
     CXTPReportColumnOrder* GetGroupsOrder() { return &m_groupsOrder; }
 
     CXTPReportControl* GetControl() const { return m_pControl; } ///< the control that owns the collection

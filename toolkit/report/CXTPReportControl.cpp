@@ -4,7 +4,6 @@
 #include "CXTPReportColumn.h"
 #include "CXTPReportRecord.h"
 #include "ReportControlImpl.h"
-#include "ReportSort.h"
 
 #include "../../framework/windows/WindowDpi.h"
 
@@ -151,23 +150,12 @@ CXTPReportRecord* CXTPReportControl::AddRecord(CXTPReportRecord* pRecord) { retu
 void CXTPReportControl::Populate() {
     if (!m_impl->FinishEdit())
         return;
-    reportsort::RowStateKeeper keeper(*m_impl->rows, *m_impl->selectedRows, m_impl->focusedRow);
-    if (IsVirtualMode())
-        m_impl->rows->RebuildVirtual(m_impl->records->GetVirtualRecord(), m_impl->records->GetVirtualCount());
-    else
-        m_impl->rows->Rebuild(reportsort::SortedVisibleRecords(*m_impl->records, *m_impl->columns));
-    // Until the rows of before are found again, none of the new ones may be taken for them.
-    m_impl->focusedRow = -1;
-    try {
-        m_impl->focusedRow = keeper.Restore();
-    } catch (...) {
-        m_impl->selectedRows->SetRanges(RowSelection());
-        AdjustLayout();
-        throw;
-    }
-    AdjustLayout();
-    m_impl->chosenTopRow = m_impl->topRow;
-    m_impl->TellAccess(EVENT_OBJECT_REORDER);
+    m_impl->RemakeRows([this] {
+        if (IsVirtualMode())
+            m_impl->rows->RebuildVirtual(m_impl->records->GetVirtualRecord(), m_impl->records->GetVirtualCount());
+        else
+            m_impl->rows->Rebuild(*m_impl->records, *m_impl->columns, m_impl->filter);
+    });
 }
 
 void CXTPReportControl::ResetContent() {
@@ -187,14 +175,17 @@ void CXTPReportControl::SetVirtualMode(CXTPReportRecord* pVirtualRecord, int nCo
 
 BOOL CXTPReportControl::IsVirtualMode() const { return m_impl->records->IsVirtualMode(); }
 
-void CXTPReportControl::OnRowRemoved(int nRowIndex) {
+void CXTPReportControl::OnRowsChanged(int nFirst, int nRemoved, int nInserted) {
+    const auto moved = [&](int nRow) {
+        if (nRow >= nFirst + nRemoved)
+            return nRow + nInserted - nRemoved;
+        return std::min(nRow, nFirst);
+    };
     // A removed row hands the focus to the one that takes its place, so that the keyboard goes on from there.
-    int& focused = m_impl->focusedRow;
-    if (focused > nRowIndex)
-        --focused;
-    focused = std::min(focused, m_impl->rows->GetCount() - 1);
-    if (m_impl->topRow > nRowIndex)
-        --m_impl->topRow;
+    m_impl->focusedRow = std::min(moved(m_impl->focusedRow), m_impl->rows->GetCount() - 1);
+    // Rows that come in at the top stand in view; those that come in above it move nothing.
+    if (m_impl->topRow > nFirst)
+        m_impl->topRow = moved(m_impl->topRow);
     m_impl->chosenTopRow = m_impl->topRow;
     AdjustLayout();
 }

@@ -8,26 +8,40 @@
 
 #include <memory>
 
-/// A grid. The host adds columns and records and calls `Populate`; rows are the sorted, visible records. All points and
+/// A grid. The host adds columns and records and calls `Populate`; rows are the sorted, visible records, those below
+/// expanded records, and the heads of groups. All points and
 /// rectangles are in client coordinates. Changes through setters redraw by themselves; changes of item values are shown
 /// by `RedrawControl`. The control owns its columns, records, rows, header and paint manager.
 ///
-/// Mouse. A press goes to the item under it and then, unless the item keeps it, focuses and selects the row: alone,
-/// with ctrl in addition, with shift as a block. Dragging over other rows selects them and scrolls at the edges. Every
-/// move goes to the item under the point, also while a derived control has captured the mouse and moves the points;
-/// only a drag or resize in the header keeps them. The second press of a double click is a press as well, so that a
-/// cell can be dragged right after a click. Escape, a right click and the loss of the capture end a gesture without
-/// effect.
+/// Outline. Records below a record (`CXTPReportRecord::GetChilds`) have rows below its row while it is expanded, sorted
+/// among themselves; a tree column (`CXTPReportColumn::SetTreeColumn`) shows them indented, with a button. The columns
+/// of `CXTPReportColumns::GetGroupsOrder` group the control's own records: a `CXTPReportGroupRow` for each text that
+/// they show there, in the order in which the cells compare and in the column's direction, with the records below it;
+/// records that show no text form the group that comes first, in a decreasing column last. Grouping columns stay as
+/// visible as they are. What is expanded is kept in the records and, for groups, by their captions, over every
+/// `Populate`; groups are expanded at first, records are not. Group rows are focused and selected as others are but
+/// have no record: what works on records leaves them out. A filter (`SetFilterText`) leaves the records that contain
+/// its words, and those above them. None of this applies to virtual mode.
+///
+/// Mouse. A press on an expand button expands or collapses the row and does nothing else; so does a double click on the
+/// row of a group, and on a cell of a tree column that cannot be edited. Another press goes to the item under it and
+/// then, unless the item keeps it, focuses and selects the row: alone, with ctrl in addition, with shift as a block.
+/// Dragging over other rows selects them and scrolls at the edges. Every move goes to the item under the point, also
+/// while a derived control has captured the mouse and moves the points; only a drag or resize in the header keeps them.
+/// The second press of a double click is a press as well, so that a cell can be dragged right after a click. Escape, a
+/// right click and the loss of the capture end a gesture without effect.
 ///
 /// Keyboard. Up, down, page keys, home and end move focus and selection, with shift they extend the selection, with
 /// ctrl they move the focus alone; space selects, ctrl+space turns round; ctrl+A selects all; ctrl+C, X and V copy,
 /// cut and paste, as insert and delete with ctrl or shift do; typing finds the row
 /// whose text in the sorted (else the first) column begins with it. Left and right move the focused column, with ctrl
-/// they scroll sideways, as alt+page keys do by a page; F3 sorts by it, with shift in addition; alt+left and alt+right
-/// change its width, alt+plus fits it, ctrl+plus fits all; ctrl+shift+left and right move it; alt+down opens the menu
-/// of its header. Enter follows the link of the focused cell, else it edits it, else it sends NM_RETURN. The menu key
-/// sends NM_RCLICK for the focused cell; when the owner answers 0, the menu of the focused column's header opens.
-/// Ctrl+F1 shows the tool tip of the focused cell.
+/// they scroll sideways, as alt+page keys do by a page; on the row of a group and in a tree column, right expands or
+/// goes to the first row below, and left collapses or goes to the row above. The number pad's plus, minus and asterisk
+/// expand, collapse, and expand with all below, where a cell does not want them typed; F3 sorts by it, with shift in
+/// addition; alt+left and alt+right change its width, alt+plus fits it, ctrl+plus fits all; ctrl+shift+left and right
+/// move it; alt+down opens the menu of its header. Enter follows the link of the focused cell, else it edits it, else
+/// it sends NM_RETURN. The menu key sends NM_RCLICK for the focused cell; when the owner answers 0, the menu of the
+/// focused column's header opens. Ctrl+F1 shows the tool tip of the focused cell.
 ///
 /// Editing. Where `AllowEdit`, the column and the item allow it, F2, Enter, a double click and typing edit the focused
 /// cell, tab and shift+tab the next and the previous such cell. A session begins when the owner does not refuse
@@ -62,7 +76,8 @@ public:
     CXTPReportRecord* AddRecord(CXTPReportRecord* pRecord); ///< takes ownership; shown after `Populate`
     virtual void Populate();     ///< rebuilds the rows; selection and focus stay with their records
     virtual void ResetContent(); ///< removes all records and rows
-    /// One record stands for `nCount` rows; its items answer for the row in `GetItemMetrics`. Sorting is the host's.
+    /// One record stands for `nCount` rows; its items answer for the row in `GetItemMetrics`. Sorting is the host's,
+    /// and so are child records, grouping and the filter, which have no effect here; a saved layout keeps the groups.
     void SetVirtualMode(CXTPReportRecord* pVirtualRecord, int nCount);
     BOOL IsVirtualMode() const; ///< from `SetVirtualMode` on, also before `Populate`
 
@@ -79,6 +94,30 @@ public:
     /// painting, so that more can be set before.
     void SetTheme(XTPReportPaintTheme theme, BOOL bRedraw = TRUE);
     CXTPToolTipContext* GetToolTipContext() const; ///< never null
+
+    // --- Outline ------------------------------------------------------------------------------------------------
+    /// Shows or hides the rows below the row, as `CXTPReportRow::SetExpanded` does, and tells the owner
+    /// (XTP_NM_REPORT_ROWEXPANDED). A focused row that goes hands the focus to the collapsed one, and the selection as
+    /// well when nothing else is selected. Rows without any below them do not change.
+    void ExpandRow(CXTPReportRow* pRow, BOOL bExpand);
+    /** @{ */
+    /// Expands or collapses every row that has others below it, groups and records. The owner is not told.
+    void ExpandAll();
+    void CollapseAll();
+    /** @} */
+    /// The caption of the row of a group. Here "<caption of the column>: <value> (<number of records>)".
+    virtual CString GetGroupCaption(const CXTPReportColumn* pColumn, const CString& strValue, int nRecords) const;
+
+    // --- Filter -------------------------------------------------------------------------------------------------
+    /// Records have a row from the next `Populate` on only when every word of the text (what white space parts) occurs
+    /// in what `CXTPReportRecord::GetFilterText` tells, whatever the case of the letters, or in that of a record below
+    /// them. Empty: all of them.
+    void SetFilterText(LPCTSTR strText);
+    CString GetFilterText() const; ///< empty at first
+
+    /// A text that the control shows or tells by itself. English here: a host that speaks another language overrides
+    /// this.
+    virtual CString GetText(XTPReportText text) const;
 
     // --- Places -------------------------------------------------------------------------------------------------
     CRect GetReportRectangle() const;           ///< where rows are shown
@@ -189,9 +228,10 @@ public:
     void PreSubclassWindow() override;
 
     // --- Called by the model as it changes ---------------------------------------------------------------------------
-    /// The row at that index was taken out, because its record is being deleted: focus, top row and scroll bars follow.
-    /// The selection has already lost it. The rows below have moved up by one.
-    void OnRowRemoved(int nRowIndex);
+    /// From `nFirst` on, `nRemoved` rows were taken out and `nInserted` have come in their place, because records are
+    /// being deleted, or a row was expanded or collapsed: focus, top row and scroll bars follow. The selection has done
+    /// so already. The rows below have moved along.
+    void OnRowsChanged(int nFirst, int nRemoved, int nInserted);
     /// All rows were taken out: nothing has the focus any more.
     void OnRowsCleared();
     /// The column is about to be deleted: the header forgets it, and a drag or resize of it ends without effect.
@@ -246,9 +286,9 @@ protected:
     LRESULT OnDpiChangedAroundParent(WPARAM wParam, LPARAM lParam); ///< the system's word to child windows
     LRESULT OnPrintClient(CDC* pDC, UINT nFlags);    ///< draws the client area into `pDC`, whatever the flags
     LRESULT OnSetFont(WPARAM wParam, LPARAM lParam); ///< a copy of the font, for all texts; a null font changes nothing
-    /// For assistive programs: an `IAccessible` of the client area, with the headers of the visible columns, the rows and
-    /// their cells. Its objects may be kept; they answer CO_E_OBJNOTCONNECTED once the window is destroyed, or the row
-    /// was taken out. Changes of focus, selection and rows are told as events.
+    /// For assistive programs: an `IAccessible` of the client area, with the headers of the visible columns, the rows
+    /// and their cells. Its objects may be kept; they answer CO_E_OBJNOTCONNECTED once the window is destroyed, or the
+    /// row was taken out. Changes of focus, selection and rows are told as events.
     LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
     LRESULT OnGetFont(WPARAM wParam, LPARAM lParam); ///< the paint manager's font; not the handle that was set
     DECLARE_MESSAGE_MAP()

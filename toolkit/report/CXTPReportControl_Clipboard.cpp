@@ -151,9 +151,11 @@ std::wstring CXTPReportControl::Impl::SelectedText() const {
     for (const RowSelection::Range& range : selectedRows->GetRanges().Ranges()) {
         for (int row = range.first; row <= range.last; ++row) {
             const CXTPReportRecord* const record = rows->GetRecordAt(row);
+            if (!record)
+                continue; // a group
             tabtext::RowWriter writer(text);
             for (CXTPReportColumn* const column : shown) {
-                CXTPReportRecordItem* const item = record ? record->GetItem(column) : nullptr;
+                CXTPReportRecordItem* const item = record->GetItem(column);
                 CString cell;
                 if (item && isVirtual) // the item stands for all rows and answers for one in its metrics
                     cell = CellMetrics(control, rows->GetAt(row), column, item).strText;
@@ -167,11 +169,20 @@ std::wstring CXTPReportControl::Impl::SelectedText() const {
     return text;
 }
 
+/// Those below another one that is selected go along with it, and are not listed.
 std::vector<CXTPReportRecord*> CXTPReportControl::Impl::SelectedRecordList() const {
     std::vector<CXTPReportRecord*> selected;
-    for (const RowSelection::Range& range : selectedRows->GetRanges().Ranges())
-        for (int row = range.first; row <= range.last; ++row)
-            selected.push_back(rows->GetRecordAt(row));
+    int branchEnd = 0;
+    for (const RowSelection::Range& range : selectedRows->GetRanges().Ranges()) {
+        for (int row = std::max(range.first, branchEnd); row <= range.last; ++row) {
+            CXTPReportRecord* const record = rows->GetRecordAt(row);
+            if (!record)
+                continue; // a group
+            selected.push_back(record);
+            branchEnd = rows->GetBranchEnd(row);
+            row = branchEnd - 1;
+        }
+    }
     return selected;
 }
 
@@ -223,8 +234,7 @@ void CXTPReportControl::Cut() {
     m_impl->CancelGesture();
     m_impl->ChangeSelection([this] {
         const std::vector<CXTPReportRecord*> selected = m_impl->SelectedRecordList();
-        std::for_each(selected.rbegin(), selected.rend(),
-                      [this](CXTPReportRecord* record) { m_impl->records->RemoveRecord(record); });
+        std::for_each(selected.rbegin(), selected.rend(), [](CXTPReportRecord* record) { record->Delete(); });
     });
 }
 
@@ -249,10 +259,11 @@ void CXTPReportControl::Paste() {
 void CXTPReportControl::Impl::InsertRecords(CXTPReportRecords& pasted) {
     CancelGesture();
     const CXTPReportRecord* const below = rows->GetRecordAt(focusedRow);
+    CXTPReportRecords* const target = below ? below->GetRecords() : records.get();
     int place = below ? below->GetIndex() : records->GetCount();
     const std::vector<CXTPReportRecord*> inserted = TakeAll(pasted);
     for (CXTPReportRecord* const record : inserted)
-        records->InsertAt(place++, record);
+        target->InsertAt(place++, record);
 
     const WindowGuard guard(control);
     control.Populate();

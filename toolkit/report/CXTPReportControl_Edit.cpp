@@ -12,13 +12,21 @@ namespace {
 /// So many rows are looked at for the next cell that can be edited.
 constexpr int SearchedRows = 10'000;
 
+bool IsOrStandsBelow(const CXTPReportRecord* record, const CXTPReportRecord* other) {
+    while (record && record != other)
+        record = record->GetParentRecord();
+    return record != nullptr;
+}
+
 } // namespace
 
 CRect CellRect(const CXTPReportRow& row, const CXTPReportColumn& column) {
     const CRect rcRow = row.GetRect(), rcColumn = column.GetRect();
     if (!row.GetControl() || !column.IsVisible())
         return CRect();
-    return CRect(rcColumn.left, rcRow.top, std::max(rcColumn.right - 1, rcColumn.left), rcRow.bottom - 1);
+    const int right = std::max<int>(rcColumn.right - 1, rcColumn.left);
+    const int left = std::min<int>(rcColumn.left + row.GetTreeIndent(&column), right);
+    return CRect(left, rcRow.top, right, rcRow.bottom - 1);
 }
 
 // --- What the host decides ------------------------------------------------------------------------------------------
@@ -195,7 +203,7 @@ BOOL CXTPReportControl::OnColumnLeaving(const CXTPReportColumn* pColumn) {
 
 BOOL CXTPReportControl::OnRecordLeaving(const CXTPReportRecord* pRecord) {
     const CXTPReportRecordItem* const item = GetActiveItem();
-    if (!item || (pRecord && item->GetRecord() != pRecord))
+    if (!item || (pRecord && !IsOrStandsBelow(item->GetRecord(), pRecord)))
         return TRUE;
     const WindowGuard guard(*this);
     m_impl->openEdit->EndEdit(FALSE);

@@ -49,8 +49,9 @@ UINT CXTPReportControl::OnGetDlgCode() {
 void CXTPReportControl::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags) {
     m_impl->toolTips.CancelToolTips();
     const WindowGuard guard(*this);
-    const bool isDone = m_impl->MoveByKey(nChar) || m_impl->SelectByKey(nChar) || m_impl->ColumnByKey(nChar) ||
-                        m_impl->ClipboardByKey(nChar) || m_impl->CellByKey(nChar);
+    m_impl->isSignOurs = false;
+    const bool isDone = m_impl->OutlineByKey(nChar) || m_impl->MoveByKey(nChar) || m_impl->SelectByKey(nChar) ||
+                        m_impl->ColumnByKey(nChar) || m_impl->ClipboardByKey(nChar) || m_impl->CellByKey(nChar);
     if (isDone || guard.IsGone())
         return;
     if (nChar == VK_ESCAPE)
@@ -307,6 +308,8 @@ void CXTPReportControl::OnSysChar(UINT nChar, UINT nRepCnt, UINT nFlags) {
 }
 
 void CXTPReportControl::OnChar(UINT nChar, UINT nRepCnt, UINT nFlags) {
+    if (std::exchange(m_impl->isSignOurs, false) && (nChar == '+' || nChar == '-' || nChar == '*'))
+        return;
     if (nChar == VK_TAB && m_impl->allowsEdit) {
         m_impl->EditNextCell(IsKeyDown(VK_SHIFT) ? -1 : 1);
         return;

@@ -78,6 +78,8 @@ void CXTPReportControl::Impl::PressRow(UINT flags, CPoint point) {
     if (!hit.row)
         return;
     press = RowPress();
+    if (PressExpandButton(point))
+        return;
     press.cell = hit;
     press.isClick = true;
     press.lastPoint = point;
@@ -172,6 +174,10 @@ void CXTPReportControl::OnLButtonDblClk(UINT nFlags, CPoint point) {
         return;
     }
     m_impl->RefreshMovedRow(m_impl->RowAt(point));
+    if (m_impl->FinishEdit() && m_impl->PressExpandButton(point))
+        return; // two presses
+    if (guard.IsGone())
+        return;
     const CellHit pressed = m_impl->HitCell(point);
     if (pressed.item) {
         XTP_REPORTRECORDITEM_CLICKARGS args = m_impl->ClickArgs(pressed, point);
@@ -184,6 +190,8 @@ void CXTPReportControl::OnLButtonDblClk(UINT nFlags, CPoint point) {
         return;
     SendItemNotify(NM_DBLCLK, point, hit.row, hit.item, hit.column);
     if (guard.IsGone() || m_impl->EditPressedCell(pressed, point) || guard.IsGone())
+        return;
+    if (m_impl->TogglePressedRow(pressed, point))
         return;
     // A cell that is dragged wants the press, however soon it follows the last one. Unless an answer to the double
     // click has outlasted the button.

@@ -32,6 +32,13 @@ constexpr ColorMember RoleMembers[] = {
     &CXTPReportPaintManager::m_clrGridLine,
     &CXTPReportPaintManager::m_clrHyperlink,
     &CXTPReportPaintManager::m_clrDropMark,
+    &CXTPReportPaintManager::m_clrGroupRow,
+    &CXTPReportPaintManager::m_clrGroupRowText,
+    &CXTPReportPaintManager::m_clrGroupRowLine,
+    &CXTPReportPaintManager::m_clrTreeLine,
+    &CXTPReportPaintManager::m_clrExpandButton,
+    &CXTPReportPaintManager::m_clrExpandButtonFill,
+    &CXTPReportPaintManager::m_clrExpandButtonSign,
     &CXTPReportPaintManager::m_clrHeader,
     &CXTPReportPaintManager::m_clrHeaderLight,
     &CXTPReportPaintManager::m_clrHeaderSorted,
@@ -211,6 +218,12 @@ void CXTPReportPaintManager::FillRowMetrics(CXTPReportRow* pRow, XTP_REPORTRECOR
     pMetrics->clrForeground = m_clrWindowText;
     const bool isDisabled = IsDisabled(control);
     pMetrics->clrBackground = GetRowBackground(pRow, isDisabled);
+    if (pRow && pRow->IsGroupRow()) {
+        pMetrics->pFont = &m_fontBold;
+        pMetrics->clrForeground = m_clrGroupRowText;
+        if (!isDisabled && m_clrGroupRow != CXTPPaintManagerColor::Unset)
+            pMetrics->clrBackground = m_clrGroupRow;
+    }
     if (pRow && pRow->IsSelected()) {
         const bool isActive = control && control->HasFocus();
         pMetrics->clrForeground = isActive ? m_clrHighlightText : m_clrInactiveHighlightText;

@@ -56,6 +56,10 @@ public:
     int GetSortArrowSpace() const;
     /// How far a caption moves right and down while its column is pressed, pixels.
     int GetPressedOffset() const;
+    /// How far a record is indented in a tree column from the one above it; the room of the expand button as well.
+    int GetTreeIndent() const;
+    /// Where a press expands or collapses the row of a group that stands at `rcRow`.
+    CRect GetGroupButtonRect(const CXTPReportGroupRow* pRow, const CRect& rcRow) const;
     /// Pixels for a length given at 96 DPI.
     int ScaleForDpi(int nPixels) const;
     CFont* GetTextFont() { return &m_fontText; }     ///< owned here; the host's, else the system's for message texts
@@ -93,6 +97,13 @@ public:
     virtual void DrawNoItemText(CDC* pDC, const CRect& rcReport);
     /// Colours and font of a row that is or is not selected, in a control that has or has not the focus.
     virtual void FillRowMetrics(CXTPReportRow* pRow, XTP_REPORTRECORDITEM_METRICS* pMetrics);
+    /// The row of a group, with its caption, button and line.
+    virtual void DrawGroupRow(CDC* pDC, CXTPReportGroupRow* pRow, const CRect& rcRow);
+    /// The lines that join records in the indentation `rcIndent` of a tree column's cell, which ends at `nRight`.
+    virtual void DrawTreeLines(CDC* pDC, CXTPReportRow* pRow, const CRect& rcIndent, int nRight);
+    /// In the middle of `rcButton`; `metrics` are those of its row.
+    virtual void DrawExpandButton(CDC* pDC, const CRect& rcButton, BOOL bExpanded,
+                                  const XTP_REPORTRECORDITEM_METRICS& metrics);
     /// The lines at the right and lower edge of a cell, inside `rcCell`.
     virtual void DrawGridLines(CDC* pDC, const CRect& rcCell);
     /// One line of text in the colour that `pDC` has, vertically centred, with an ellipsis when it does not fit;
@@ -121,6 +132,13 @@ public:
     CXTPPaintManagerColor m_clrHyperlink;             ///< text and line of a hyperlink
     CXTPPaintManagerColor m_clrDisabledText;          ///< every text of a disabled control, and the empty text
     CXTPPaintManagerColor m_clrDropMark;              ///< where a dragged column would land
+    CXTPPaintManagerColor m_clrGroupRow;              ///< behind the caption of a group
+    CXTPPaintManagerColor m_clrGroupRowText;          ///< the caption of a group
+    CXTPPaintManagerColor m_clrGroupRowLine;          ///< under the row of a group
+    CXTPPaintManagerColor m_clrTreeLine;              ///< from a record to those below it; unset: no lines
+    CXTPPaintManagerColor m_clrExpandButton;          ///< frame of an expand button, or all of a triangle
+    CXTPPaintManagerColor m_clrExpandButtonFill;      ///< inside of its frame
+    CXTPPaintManagerColor m_clrExpandButtonSign;      ///< its plus or minus
     CXTPPaintManagerColor m_clrHeader;            ///< lower end of the header's gradient, which runs from light to dark
     CXTPPaintManagerColor m_clrHeaderLight;       ///< its upper end
     CXTPPaintManagerColor m_clrHeaderSorted;      ///< lower end of a sorted column

@@ -2,6 +2,7 @@
 #include "CXTPReportRecord.h"
 
 #include "CXTPReportColumn.h"
+#include "CXTPReportColumns.h"
 #include "CXTPReportRecordItem.h"
 #include "CXTPReportRecordItemText.h"
 #include "CXTPReportRecords.h"
@@ -104,6 +105,9 @@ void CXTPReportRecord::DoPropExchange(CXTPPropExchange* pPX) {
     BOOL bVisible = m_bVisible;
     PX_Bool(pPX, _T("Visible"), bVisible, TRUE);
     m_bVisible = bVisible != FALSE;
+    BOOL bExpanded = m_bExpanded;
+    PX_Bool(pPX, _T("Expanded"), bExpanded, FALSE);
+    m_bExpanded = bExpanded != FALSE;
     if (pPX->IsStoring())
         StoreItems(pPX);
     else
@@ -134,6 +138,19 @@ void CXTPReportRecord::LoadItems(CXTPPropExchange* pPX) {
             pItem = new CXTPReportRecordItemText;
         AddItem(pItem)->DoPropExchange(&section);
     }
+}
+
+CString CXTPReportRecord::GetFilterText(const CXTPReportColumns& rColumns) {
+    CString strText;
+    for (int i = 0; i < rColumns.GetCount(); ++i) {
+        CXTPReportColumn* const pColumn = rColumns.GetAt(i);
+        CXTPReportRecordItem* const pItem = GetItem(pColumn);
+        if (!pItem || !pColumn->IsVisible() || !pColumn->IsFiltrable())
+            continue;
+        strText += pItem->GetCaption(pColumn);
+        strText += _T('\n');
+    }
+    return strText;
 }
 
 void CXTPReportRecord::GetItemMetrics(XTP_REPORTRECORDITEM_DRAWARGS* /*pDrawArgs*/,

@@ -30,23 +30,32 @@ public:
     CXTPReportRecordItem* GetItem(const CXTPReportColumn* pColumn) const;
     int IndexOf(const CXTPReportRecordItem* pItem) const; ///< −1 when the item is not in this record
 
-    /// The records below this one, in their own order; made when they are first asked for, never null. They are data of
-    /// this record: they have no rows.
+    /// The records below this one, in their own order; made when they are first asked for, never null. They have rows
+    /// below that of this record while it is expanded.
     CXTPReportRecords* GetChilds();
     BOOL HasChildren() const;                  ///< there is a record below this one
     CXTPReportRecord* GetParentRecord() const; ///< null for a record of the control's own collection, and of none
 
     /// An invisible record gets no row at the next `Populate`.
     BOOL IsVisible() const { return m_bVisible; }
-    void SetVisible(BOOL bVisible) { m_bVisible = bVisible; } ///< rows follow at the next `Populate`
+    /// Rows follow at the next `Populate`. An invisible record hides those below it.
+    void SetVisible(BOOL bVisible) { m_bVisible = bVisible; }
+    /// Whether the records below this one are shown, as far as this one is. FALSE at first. The user's expanding and
+    /// collapsing is kept here.
+    BOOL IsExpanded() const { return m_bExpanded; }
+    /// Rows follow at the next `Populate`; `CXTPReportRow::SetExpanded` is for at once.
+    void SetExpanded(BOOL bExpanded) { m_bExpanded = bExpanded != FALSE; }
+    /// The text in which the control looks for the words of its filter: here what the record shows in the visible
+    /// columns that are filtrable, parted by line feeds. Overrides may append what is to be found besides.
+    virtual CString GetFilterText(const CXTPReportColumns& rColumns);
 
     int GetIndex() const; ///< place in the collection, −1 when in none; −1 for the record of virtual mode
     CXTPReportRecords* GetRecords() const { return m_pRecords; } ///< null before the record is added
-    /// Removes the record, and its row, from its collection and deletes it. The items that handlers hold references to
+    /// Removes the record, and its row and those below it, from its collection and deletes it. The items that handlers hold references to
     /// live on without a record.
     void Delete();
 
-    /// Writes or reads the record: whether it is visible, its items and its child records. Reading replaces items and
+    /// Writes or reads the record: whether it is visible and expanded, its items and its child records. Reading replaces items and
     /// children by new ones of the classes that were written; an item of a class that nobody can make becomes a text
     /// item, such a record a plain one. What belongs to the host (item data) is not exchanged.
     virtual void DoPropExchange(CXTPPropExchange* pPX);
@@ -66,6 +75,7 @@ private:
 
     friend class CXTPReportRecords;
     friend class CXTPReportRows;
+    friend class ReportGroup;
 
     int m_nIndex = -1; ///< kept by the collection's sequence
     std::vector<CXTPReportRecordItem*, recorditemheap::Allocator<CXTPReportRecordItem*>> m_items;
@@ -73,4 +83,6 @@ private:
     std::unique_ptr<Extras> m_pExtras;
     int m_nRow = -1; ///< kept by the rows' sequence
     bool m_bVisible = true;
+    bool m_bExpanded = false;
+    bool m_bGroup = false; ///< stands for a group of records among the rows
 };

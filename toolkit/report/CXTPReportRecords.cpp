@@ -27,8 +27,10 @@ CXTPReportControl* CXTPReportRecords::GetControl() const {
     return pAbove ? pAbove->GetControl() : nullptr;
 }
 
-/// Null for child records, which have no rows.
-CXTPReportRows* CXTPReportRecords::GetRows() const { return m_pControl ? m_pControl->GetRows() : nullptr; }
+CXTPReportRows* CXTPReportRecords::GetRows() const {
+    const CXTPReportControl* const pControl = GetControl();
+    return pControl ? pControl->GetRows() : nullptr;
+}
 
 int CXTPReportRecords::GetCount() const { return m_records.Count(); }
 
@@ -60,7 +62,8 @@ void CXTPReportRecords::InsertAt(int nIndex, CXTPReportRecord* pRecord) {
 }
 
 BOOL CXTPReportRecords::RemoveRecord(CXTPReportRecord* pRecord) {
-    if (m_pControl && pRecord && !m_pControl->OnRecordLeaving(pRecord))
+    CXTPReportControl* const pControl = GetControl();
+    if (pControl && pRecord && !pControl->OnRecordLeaving(pRecord))
         return FALSE;
     if (pRecord && pRecord == m_pVirtualRecord) {
         SetVirtualMode(nullptr, 0);
@@ -78,11 +81,27 @@ BOOL CXTPReportRecords::RemoveRecord(CXTPReportRecord* pRecord) {
 
 void CXTPReportRecords::RemoveAt(int nIndex) { RemoveRecord(GetAt(nIndex)); }
 
+/// FALSE when the window is gone, see `CXTPReportControl::OnRecordLeaving`.
+bool CXTPReportRecords::AllowRemoveAll() const {
+    CXTPReportControl* const pControl = GetControl();
+    if (!pControl || !m_pOwnerRecord)
+        return !pControl || pControl->OnRecordLeaving(nullptr);
+    // The hooks of the host may change the collection.
+    for (int nIndex = 0; nIndex < GetCount(); ++nIndex)
+        if (!pControl->OnRecordLeaving(GetAt(nIndex)))
+            return false;
+    return true;
+}
+
 void CXTPReportRecords::RemoveAll() {
-    if (m_pControl && !m_pControl->OnRecordLeaving(nullptr))
+    if (!AllowRemoveAll())
         return;
-    if (CXTPReportRows* const pRows = GetRows())
-        pRows->Clear();
+    if (CXTPReportRows* const pRows = GetRows()) {
+        if (m_pOwnerRecord)
+            pRows->ChildrenRemoved(m_pOwnerRecord);
+        else
+            pRows->Clear();
+    }
     for (CXTPReportRecord* const pRecord : m_records.Take())
         Release(pRecord);
     m_nVirtualCount = 0;

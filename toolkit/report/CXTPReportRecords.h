@@ -24,7 +24,7 @@ public:
     /// Takes ownership and returns the record; null is not added.
     CXTPReportRecord* Add(CXTPReportRecord* pRecord);
     void InsertAt(int nIndex, CXTPReportRecord* pRecord); ///< clamped to 0…count
-    /// Deletes the record; its row goes with it at once, so that no row ever shows a dead record. FALSE when the record
+    /// Deletes the record; its row goes with it at once, and those below it, so that no row ever shows a dead record. FALSE when the record
     /// is not in this collection.
     BOOL RemoveRecord(CXTPReportRecord* pRecord);
     void RemoveAt(int nIndex); ///< nothing happens when out of range
@@ -55,7 +55,8 @@ public:
     const std::vector<CXTPReportRecord*>& GetRecords() const;
 
 private:
-    CXTPReportRows* GetRows() const;
+    CXTPReportRows* GetRows() const; ///< of the control; null without one
+    bool AllowRemoveAll() const;
     void Release(CXTPReportRecord* pRecord);
 
     CXTPReportControl* m_pControl = nullptr;

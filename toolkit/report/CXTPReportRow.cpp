@@ -21,7 +21,7 @@ CRect InsideGridLines(const CRect& rcCell) {
     return CRect(rcCell.left, rcCell.top, std::max(rcCell.right - 1, rcCell.left), rcCell.bottom - 1);
 }
 
-CRect CellRect(const CRect& rcRow, const CXTPReportColumn* column) {
+CRect WholeCell(const CRect& rcRow, const CXTPReportColumn* column) {
     const CRect rcColumn = column->GetRect();
     return CRect(rcColumn.left, rcRow.top, rcColumn.right, rcRow.bottom);
 }
@@ -62,6 +62,63 @@ void CXTPReportRow::EnsureVisible() {
         control->EnsureVisible(this);
 }
 
+// --- Outline --------------------------------------------------------------------------------------------------------
+
+BOOL CXTPReportRow::HasChildren() const { return m_pRows && m_pRows->HasChildren(m_nIndex); }
+
+BOOL CXTPReportRow::IsExpanded() const { return m_pRows && m_pRows->IsExpanded(m_nIndex); }
+
+void CXTPReportRow::SetExpanded(BOOL bExpanded) {
+    if (CXTPReportControl* control = GetControl())
+        control->ExpandRow(this, bExpanded);
+}
+
+CXTPReportRow* CXTPReportRow::GetParentRow() const {
+    return m_pRows ? m_pRows->GetAt(m_pRows->GetParentIndex(m_nIndex)) : nullptr;
+}
+
+CXTPReportRow* CXTPReportRow::GetFirstChildRow() const {
+    return m_pRows ? m_pRows->GetAt(m_pRows->GetFirstChildIndex(m_nIndex)) : nullptr;
+}
+
+CXTPReportRow* CXTPReportRow::GetNextSiblingRow() const {
+    return m_pRows ? m_pRows->GetAt(m_pRows->GetNextSiblingIndex(m_nIndex)) : nullptr;
+}
+
+int CXTPReportRow::GetTreeDepth() const { return m_pRows ? m_pRows->GetTreeDepth(m_nIndex) : 0; }
+
+int CXTPReportRow::GetGroupLevel() const { return m_pRows ? m_pRows->GetGroupLevel(m_nIndex) : 0; }
+
+int CXTPReportRow::GetTreeIndent(const CXTPReportColumn* pColumn) const {
+    const CXTPReportControl* control = GetControl();
+    if (!control || !m_pRecord || !pColumn || !pColumn->IsTreeColumn() || m_pRows->IsVirtual())
+        return 0;
+    // A tree may be deeper than any window is wide.
+    constexpr int deepest = 1000;
+    return (std::min(GetTreeDepth(), deepest) + 1) * control->GetPaintManager()->GetTreeIndent();
+}
+
+CRect CXTPReportRow::GetExpandButtonRect() const {
+    const CXTPReportControl* control = GetControl();
+    if (!control || !m_pRecord || !HasChildren())
+        return CRect();
+    const CXTPReportColumns* columns = control->GetColumns();
+    for (int i = 0; i < columns->GetCount(); ++i)
+        if (columns->GetAt(i)->IsVisible() && columns->GetAt(i)->IsTreeColumn())
+            return ButtonPlace(GetRect(), columns->GetAt(i));
+    return CRect();
+}
+
+/// The last step of the indentation, as far as the cell goes.
+CRect CXTPReportRow::ButtonPlace(const CRect& rcRow, const CXTPReportColumn* pColumn) const {
+    CRect rcButton = InsideGridLines(WholeCell(rcRow, pColumn));
+    const int right = rcButton.left + GetTreeIndent(pColumn);
+    const int left = right - GetControl()->GetPaintManager()->GetTreeIndent();
+    rcButton.right = std::min<int>(right, rcButton.right);
+    rcButton.left = std::min<int>(left, rcButton.right);
+    return rcButton;
+}
+
 // --- Places ---------------------------------------------------------------------------------------------------------
 
 CRect CXTPReportRow::GetRect() const {
@@ -81,7 +138,13 @@ CRect CXTPReportRow::GetItemRect(CXTPReportRecordItem* pItem) const {
     const CXTPReportColumn* column = control && index >= 0 ? control->GetColumns()->Find(index) : nullptr;
     if (!column || !column->IsVisible())
         return CRect();
-    return InsideGridLines(CellRect(GetRect(), column));
+    return ItemPlace(GetRect(), column);
+}
+
+CRect CXTPReportRow::ItemPlace(const CRect& rcRow, const CXTPReportColumn* pColumn) const {
+    CRect rcItem = InsideGridLines(WholeCell(rcRow, pColumn));
+    rcItem.left = std::min<int>(rcItem.left + GetTreeIndent(pColumn), rcItem.right);
+    return rcItem;
 }
 
 CXTPReportRecordItem* CXTPReportRow::HitTest(CPoint ptPoint, CRect* pRectItem, CXTPReportColumn** ppColumn) const {
@@ -92,12 +155,14 @@ CXTPReportRecordItem* CXTPReportRow::HitTest(CPoint ptPoint, CRect* pRectItem, C
     const CXTPReportColumns* columns = control->GetColumns();
     for (int i = 0; i < columns->GetCount(); ++i) {
         CXTPReportColumn* column = columns->GetAt(i);
-        const CRect rcCell = CellRect(rcRow, column);
+        const CRect rcCell = WholeCell(rcRow, column);
         if (!column->IsVisible() || ptPoint.x < rcCell.left || ptPoint.x >= rcCell.right)
             continue;
+        if (ptPoint.x < rcCell.left + GetTreeIndent(column))
+            return nullptr;
         CXTPReportRecordItem* item = m_pRecord->GetItem(column);
         if (item && pRectItem)
-            *pRectItem = InsideGridLines(rcCell);
+            *pRectItem = ItemPlace(rcRow, column);
         if (item && ppColumn)
             *ppColumn = column;
         return item;
@@ -123,27 +188,46 @@ void CXTPReportRow::Draw(CDC* pDC, const CRect& rcRow, const CRect& rcClip) {
         CXTPReportColumn* column = columns->GetAt(i);
         if (!column->IsVisible())
             continue;
-        const CRect rcCell = CellRect(rcRow, column);
+        const CRect rcCell = WholeCell(rcRow, column);
         right = std::max<int>(right, rcCell.right);
         if (rcCell.right <= rcClip.left || rcCell.left >= rcClip.right)
             continue;
-        DrawCell(pDC, column, rcCell);
+        DrawTree(pDC, column, rcRow, metrics);
+        DrawCell(pDC, column, rcRow);
         paintManager->DrawGridLines(pDC, rcCell);
     }
     // Beyond the last column only the line under the row goes on; its end lies outside, where nothing is drawn.
     if (right < rcDirty.right)
         paintManager->DrawGridLines(pDC, CRect(right, rcRow.top, rcRow.right + 1, rcRow.bottom));
-    if (!IsFocused() || !control->HasFocus())
-        return;
-    paintManager->DrawFocusedRow(pDC, rcRow);
-    if (control->IsColumnFocusVisible())
-        paintManager->DrawFocusedCell(pDC, InsideGridLines(CellRect(rcRow, control->GetFocusedColumn())), metrics);
+    DrawFocus(pDC, rcRow);
+    if (IsFocused() && control->HasFocus() && control->IsColumnFocusVisible())
+        paintManager->DrawFocusedCell(pDC, ItemPlace(rcRow, control->GetFocusedColumn()), metrics);
 }
 
-void CXTPReportRow::DrawCell(CDC* pDC, CXTPReportColumn* pColumn, const CRect& rcCell) {
+void CXTPReportRow::DrawFocus(CDC* pDC, const CRect& rcRow) {
+    CXTPReportControl* control = GetControl();
+    if (control && IsFocused() && control->HasFocus())
+        control->GetPaintManager()->DrawFocusedRow(pDC, rcRow);
+}
+
+void CXTPReportRow::DrawTree(CDC* pDC, const CXTPReportColumn* pColumn, const CRect& rcRow,
+                             const XTP_REPORTRECORDITEM_METRICS& metrics) {
+    const int indent = GetTreeIndent(pColumn);
+    if (indent == 0)
+        return;
+    CXTPReportPaintManager* paintManager = GetControl()->GetPaintManager();
+    const CRect rcCell = WholeCell(rcRow, pColumn);
+    paintManager->DrawTreeLines(pDC, this, CRect(rcCell.left, rcCell.top, rcCell.left + indent, rcCell.bottom),
+                                rcCell.right);
+    const CRect rcButton = ButtonPlace(rcRow, pColumn);
+    if (HasChildren() && rcButton.Width() == paintManager->GetTreeIndent())
+        paintManager->DrawExpandButton(pDC, rcButton, IsExpanded(), metrics);
+}
+
+void CXTPReportRow::DrawCell(CDC* pDC, CXTPReportColumn* pColumn, const CRect& rcRow) {
     CXTPReportRecordItem* item = m_pRecord ? m_pRecord->GetItem(pColumn) : nullptr;
     XTP_REPORTRECORDITEM_DRAWARGS args;
-    args.rcItem = InsideGridLines(rcCell);
+    args.rcItem = ItemPlace(rcRow, pColumn);
     if (!item || args.rcItem.IsRectEmpty())
         return;
     args.pDC = pDC;

@@ -1,13 +1,15 @@
-// The rows of a report control: the records in the order in which they are shown.
+// The rows of a report control: what it shows below each other, from the top.
 #include "CXTPReportRows.h"
 
 #include "CXTPReportControl.h"
+#include "CXTPReportGroupRow.h"
 #include "CXTPReportRecord.h"
-#include "CXTPReportRow.h"
 #include "CXTPReportSelectedRows.h"
+#include "ReportGroups.h"
+#include "RowBuilder.h"
+#include "RowOutline.h"
 
 #include <algorithm>
-#include <iterator>
 #include <new>
 #include <utility>
 
@@ -16,12 +18,28 @@ CXTPReportRows::CXTPReportRows(CXTPReportControl* pControl)
 
 CXTPReportRows::~CXTPReportRows() { DetachRowObjects(); }
 
-int CXTPReportRows::GetCount() const { return m_pVirtualRecord ? m_nVirtualCount : m_records.Count(); }
+int CXTPReportRows::GetCount() const {
+    if (m_pVirtualRecord)
+        return m_nVirtualCount;
+    return m_pOutline ? m_pOutline->RowCount() : m_records.Count();
+}
+
+CXTPReportRecord* CXTPReportRows::GetEntryAt(int nIndex) const {
+    if (nIndex < 0 || nIndex >= GetCount())
+        return nullptr;
+    if (m_pVirtualRecord)
+        return m_pVirtualRecord;
+    return m_records.At(m_pOutline ? m_pOutline->NodeAt(nIndex) : nIndex);
+}
 
 CXTPReportRecord* CXTPReportRows::GetRecordAt(int nIndex) const {
-    if (!m_pVirtualRecord)
-        return m_records.At(nIndex);
-    return nIndex >= 0 && nIndex < m_nVirtualCount ? m_pVirtualRecord : nullptr;
+    CXTPReportRecord* const pEntry = GetEntryAt(nIndex);
+    return pEntry && !pEntry->m_bGroup ? pEntry : nullptr;
+}
+
+const ReportGroup* CXTPReportRows::GetGroupAt(int nIndex) const {
+    CXTPReportRecord* const pEntry = GetEntryAt(nIndex);
+    return pEntry && pEntry->m_bGroup ? static_cast<const ReportGroup*>(pEntry) : nullptr;
 }
 
 /// Where the row object of a row that is there is kept.
@@ -30,18 +48,86 @@ CXTPReportRow*& CXTPReportRows::RowObject(int nIndex) const {
 }
 
 CXTPReportRow* CXTPReportRows::GetAt(int nIndex) const {
-    CXTPReportRecord* const pRecord = GetRecordAt(nIndex);
-    if (!pRecord)
+    CXTPReportRecord* const pEntry = GetEntryAt(nIndex);
+    if (!pEntry)
         return nullptr;
     CXTPReportRow*& pRow = RowObject(nIndex);
-    if (!pRow)
-        pRow = new CXTPReportRow(const_cast<CXTPReportRows*>(this), pRecord, nIndex);
+    CXTPReportRows* const pThis = const_cast<CXTPReportRows*>(this);
+    if (!pRow && pEntry->m_bGroup)
+        pRow = new CXTPReportGroupRow(pThis, nIndex);
+    else if (!pRow)
+        pRow = new CXTPReportRow(pThis, pEntry, nIndex);
     return pRow;
 }
 
-int CXTPReportRows::IndexOf(const CXTPReportRecord* pRecord) const { return m_records.IndexOf(pRecord); }
+int CXTPReportRows::IndexOf(const CXTPReportRecord* pRecord) const {
+    const int nPlace = m_records.IndexOf(pRecord);
+    return m_pOutline && nPlace >= 0 ? m_pOutline->RowOf(nPlace) : nPlace;
+}
+
+int CXTPReportRows::IndexOfNearest(const CXTPReportRecord* pEntry) const {
+    const int nPlace = m_records.IndexOf(pEntry);
+    return m_pOutline && nPlace >= 0 ? m_pOutline->RowOfNearest(nPlace) : nPlace;
+}
 
 CXTPReportRow* CXTPReportRows::Find(CXTPReportRecord* pRecord) const { return GetAt(IndexOf(pRecord)); }
+
+// --- Outline --------------------------------------------------------------------------------------------------------
+
+/// −1 without an outline, and when out of range.
+int CXTPReportRows::NodeAt(int nIndex) const {
+    return m_pOutline && nIndex >= 0 && nIndex < GetCount() ? m_pOutline->NodeAt(nIndex) : -1;
+}
+
+bool CXTPReportRows::IsGroup(int nNode) const { return m_records.At(nNode) && m_records.At(nNode)->m_bGroup; }
+
+BOOL CXTPReportRows::IsOutline() const { return m_pOutline != nullptr; }
+
+BOOL CXTPReportRows::HasChildren(int nIndex) const {
+    const int nNode = NodeAt(nIndex);
+    return nNode >= 0 && m_pOutline->HasChildren(nNode);
+}
+
+BOOL CXTPReportRows::IsExpanded(int nIndex) const { return NodeAt(nIndex) >= 0 && m_pOutline->IsExpanded(nIndex); }
+
+int CXTPReportRows::GetParentIndex(int nIndex) const {
+    const int nNode = NodeAt(nIndex);
+    const int nParent = nNode >= 0 ? m_pOutline->Parent(nNode) : -1;
+    return nParent >= 0 ? m_pOutline->RowOf(nParent) : -1;
+}
+
+int CXTPReportRows::GetFirstChildIndex(int nIndex) const { return IsExpanded(nIndex) ? nIndex + 1 : -1; }
+
+int CXTPReportRows::GetNextSiblingIndex(int nIndex) const {
+    if (NodeAt(nIndex) >= 0)
+        return m_pOutline->NextSiblingRow(nIndex);
+    return nIndex >= 0 && nIndex + 1 < GetCount() ? nIndex + 1 : -1;
+}
+
+int CXTPReportRows::GetBranchEnd(int nIndex) const {
+    return NodeAt(nIndex) >= 0 ? m_pOutline->BranchEnd(nIndex) : std::clamp(nIndex + 1, 0, GetCount());
+}
+
+int CXTPReportRows::GetTreeDepth(int nIndex) const {
+    int nDepth = 0;
+    const int nNode = NodeAt(nIndex);
+    for (int nAbove = nNode >= 0 ? m_pOutline->Parent(nNode) : -1; nAbove >= 0 && !IsGroup(nAbove);
+         nAbove = m_pOutline->Parent(nAbove))
+        ++nDepth;
+    return nDepth;
+}
+
+int CXTPReportRows::GetGroupLevel(int nIndex) const {
+    const int nNode = NodeAt(nIndex);
+    return nNode >= 0 ? m_pOutline->Level(nNode) - GetTreeDepth(nIndex) : 0;
+}
+
+BOOL CXTPReportRows::HasNextSibling(int nIndex, int nAbove) const {
+    int nNode = NodeAt(nIndex);
+    for (; nNode >= 0 && nAbove > 0; --nAbove)
+        nNode = m_pOutline->Parent(nNode);
+    return nNode >= 0 && m_pOutline->HasNextSibling(nNode);
+}
 
 // --- For the control -------------------------------------------------------------------------------------------------
 
@@ -59,50 +145,146 @@ void CXTPReportRows::DetachRowObjects() {
         std::for_each(rows.begin(), rows.end(), Detach);
 }
 
-/// Lets go of a row object; those below it move up by one place. Want of memory costs all of them, to be made again.
-void CXTPReportRows::TakeOutRowObject(int nIndex) try {
-    std::vector<CXTPReportRow*> below;
+/// Lets go of the row objects of rows that have gone; those below move along. Want of memory costs all of them, to be
+/// made again.
+void CXTPReportRows::SpliceRowObjects(const RowSplice& splice) try {
+    if (m_rowObjects.empty())
+        return;
+    const int nMove = splice.inserted - splice.removed, nEnd = splice.first + splice.removed;
+    std::vector<CXTPReportRow*> gone, below;
     for (const auto& [nBlock, rows] : m_rowObjects)
-        std::copy_if(rows.begin(), rows.end(), std::back_inserter(below),
-                     [nIndex](const CXTPReportRow* pRow) { return pRow && pRow->m_nIndex > nIndex; });
+        for (CXTPReportRow* const pRow : rows)
+            if (pRow && pRow->m_nIndex >= splice.first)
+                (pRow->m_nIndex < nEnd ? gone : below).push_back(pRow);
     // Room is made before anything moves.
-    CXTPReportRow*& pTaken = RowObject(nIndex);
     for (const CXTPReportRow* const pRow : below)
-        RowObject(pRow->m_nIndex - 1);
-    Detach(std::exchange(pTaken, nullptr));
+        RowObject(pRow->m_nIndex + nMove);
     for (const CXTPReportRow* const pRow : below)
         RowObject(pRow->m_nIndex) = nullptr;
+    for (CXTPReportRow* const pRow : gone) {
+        RowObject(pRow->m_nIndex) = nullptr;
+        Detach(pRow);
+    }
     for (CXTPReportRow* const pRow : below)
-        RowObject(--pRow->m_nIndex) = pRow;
+        RowObject(pRow->m_nIndex += nMove) = pRow;
 } catch (const std::bad_alloc&) {
     DetachRowObjects();
 }
 
-void CXTPReportRows::Rebuild(std::vector<CXTPReportRecord*> records) {
+/// The rows have changed: what goes by their indices follows.
+void CXTPReportRows::Splice(const RowSplice& splice) {
+    if (splice.IsNothing())
+        return;
+    SpliceRowObjects(splice);
+    if (!m_pControl)
+        return;
+    m_pControl->GetSelectedRows()->RowsChanged(splice.first, splice.removed, splice.inserted);
+    m_pControl->OnRowsChanged(splice.first, splice.removed, splice.inserted);
+}
+
+void CXTPReportRows::Rebuild(const CXTPReportRecords& records, CXTPReportColumns& columns, const TextFilter& filter) {
+    if (!m_pGroups)
+        m_pGroups = std::make_unique<ReportGroups>();
+    RowList rows = rowbuilder::Build(records, columns, filter, *m_pGroups);
+    std::unique_ptr<RowOutline> pOutline;
+    if (!rows.parents.empty()) {
+        pOutline = std::make_unique<RowOutline>(rows.parents);
+        pOutline->ShowAll([&rows](int nNode) { return rows.records[nNode]->IsExpanded(); });
+    }
     DetachRowObjects();
     m_pVirtualRecord = nullptr;
     m_nVirtualCount = 0;
-    m_records.Assign(std::move(records));
+    m_pOutline = std::move(pOutline);
+    m_records.Assign(std::move(rows.records));
 }
 
 void CXTPReportRows::RebuildVirtual(CXTPReportRecord* pVirtualRecord, int nCount) {
     DetachRowObjects();
+    m_pOutline.reset();
     m_records.Take();
     m_pVirtualRecord = pVirtualRecord;
     m_nVirtualCount = pVirtualRecord ? std::max(nCount, 0) : 0;
 }
 
-void CXTPReportRows::RecordRemoved(CXTPReportRecord* pRecord) {
-    const int nIndex = IndexOf(pRecord);
-    if (nIndex < 0)
+void CXTPReportRows::SetExpanded(int nIndex, bool bExpanded) {
+    if (!HasChildren(nIndex))
         return;
-    m_records.Erase(nIndex);
-    if (!m_rowObjects.empty())
-        TakeOutRowObject(nIndex);
-    if (m_pControl) {
-        m_pControl->GetSelectedRows()->RowRemoved(nIndex);
-        m_pControl->OnRowRemoved(nIndex);
+    GetEntryAt(nIndex)->SetExpanded(bExpanded);
+    const auto isExpanded = [this](int nNode) { return m_records.At(nNode)->IsExpanded() != FALSE; };
+    Splice(bExpanded ? m_pOutline->Expand(nIndex, isExpanded) : m_pOutline->Collapse(nIndex));
+}
+
+void CXTPReportRows::ExpandBranch(int nIndex) {
+    if (!HasChildren(nIndex))
+        return;
+    const int nNode = NodeAt(nIndex);
+    SetNodesExpanded(nNode, m_pOutline->End(nNode), true);
+    m_pOutline->Collapse(nIndex);
+    m_pOutline->Expand(nIndex, [](int) { return true; });
+    DetachRowObjects();
+}
+
+/// Keeps in their records whether those are expanded.
+void CXTPReportRows::SetNodesExpanded(int nFirstNode, int nEndNode, bool bExpanded) {
+    for (int nNode = nFirstNode; nNode < nEndNode; ++nNode)
+        if (!m_pOutline->IsRemoved(nNode) && m_pOutline->HasChildren(nNode))
+            m_records.At(nNode)->SetExpanded(bExpanded);
+}
+
+void CXTPReportRows::SetAllExpanded(bool bExpanded) {
+    if (!m_pOutline)
+        return;
+    SetNodesExpanded(0, m_pOutline->NodeCount(), bExpanded);
+    m_pOutline->ShowAll([bExpanded](int) { return bExpanded; });
+    DetachRowObjects();
+}
+
+// --- Removal ---------------------------------------------------------------------------------------------------------
+
+void CXTPReportRows::RecordRemoved(CXTPReportRecord* pRecord) {
+    const int nPlace = m_records.IndexOf(pRecord);
+    if (nPlace < 0)
+        return;
+    if (m_pOutline) {
+        TakeOut(nPlace, m_pOutline->End(nPlace));
+        return;
     }
+    m_records.Erase(nPlace);
+    Splice({nPlace, 1, 0});
+}
+
+void CXTPReportRows::ChildrenRemoved(const CXTPReportRecord* pRecord) {
+    const int nNode = m_pOutline ? m_records.IndexOf(pRecord) : -1;
+    if (nNode >= 0)
+        TakeOut(nNode + 1, m_pOutline->End(nNode));
+}
+
+/// Takes out a record with all below it, or all below a record.
+void CXTPReportRows::TakeOut(int nFirstNode, int nEndNode) {
+    if (nFirstNode == nEndNode)
+        return;
+    const bool isBranch = m_pOutline->End(nFirstNode) == nEndNode;
+    int nRecords = 0;
+    for (int nNode = nFirstNode; nNode < nEndNode; ++nNode)
+        nRecords += !m_pOutline->IsRemoved(nNode);
+    int nTop = isBranch ? nFirstNode : nFirstNode - 1;
+    bool isWhole = isBranch;
+    for (int nAbove = m_pOutline->Parent(nFirstNode); nAbove >= 0; nAbove = m_pOutline->Parent(nAbove)) {
+        if (!IsGroup(nAbove))
+            continue;
+        auto* const pGroup = static_cast<ReportGroup*>(m_records.At(nAbove));
+        pGroup->records -= nRecords;
+        if (pGroup->records > 0)
+            continue;
+        nTop = nAbove;
+        isWhole = true;
+    }
+    const RowSplice splice = isWhole ? m_pOutline->Remove(nTop) : m_pOutline->RemoveBelow(nTop);
+    for (int nNode = isWhole ? nTop : nTop + 1; nNode < m_pOutline->End(nTop); ++nNode)
+        m_records.Vacate(nNode);
+    if (splice.IsNothing() && m_pControl)
+        m_pControl->RedrawControl(); // a count in the row of a group, or a button
+    Splice(splice);
 }
 
 void CXTPReportRows::Clear() {

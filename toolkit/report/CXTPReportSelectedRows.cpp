@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <new>
 #include <utility>
 
 CXTPReportSelectedRows::CXTPReportSelectedRows(CXTPReportControl* pControl) : m_pControl(pControl) {}
@@ -88,10 +89,14 @@ void CXTPReportSelectedRows::SetRanges(const RowSelection& ranges) {
     Assign(std::move(kept));
 }
 
-void CXTPReportSelectedRows::RowRemoved(int nRowIndex) {
-    m_ranges.RowRemoved(nRowIndex);
-    if (m_nAnchor == nRowIndex)
-        m_nAnchor = std::min(m_nAnchor, GetRowCount() - 1);
-    else if (m_nAnchor > nRowIndex)
-        --m_nAnchor;
+void CXTPReportSelectedRows::RowsChanged(int nFirst, int nRemoved, int nInserted) {
+    try {
+        m_ranges.Splice(nFirst, nRemoved, nInserted);
+    } catch (const std::bad_alloc&) {
+        m_ranges.Clear(); // better no selection than other rows
+    }
+    if (m_nAnchor >= nFirst + nRemoved)
+        m_nAnchor += nInserted - nRemoved;
+    else if (m_nAnchor >= nFirst)
+        m_nAnchor = std::min(nFirst, GetRowCount() - 1);
 }

@@ -39,8 +39,9 @@ public:
     /// rows.
     const RowSelection& GetRanges() const { return m_ranges; }
     void SetRanges(const RowSelection& ranges); ///< replaces the selection
-    /// The row was taken out: it leaves the selection, and those below move up by one.
-    void RowRemoved(int nRowIndex);
+    /// From `nFirst` on, `nRemoved` rows were taken out, which leave the selection, and `nInserted` came in their
+    /// place, which are not selected; those below have moved along.
+    void RowsChanged(int nFirst, int nRemoved, int nInserted);
 
 private:
     int GetRowCount() const;

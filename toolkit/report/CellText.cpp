@@ -103,7 +103,7 @@ int CXTPReportColumn::BestFitWidthBefore(std::chrono::steady_clock::time_point d
             continue;
         const XTP_REPORTRECORDITEM_METRICS metrics = CellMetrics(*control, row, column, item);
         if (!metrics.strText.IsEmpty())
-            width = std::max(width, CellTextWidth(metrics) + space);
+            width = std::max(width, CellTextWidth(metrics) + row->GetTreeIndent(this) + space);
         else if (width < m_nWidth && DrawsPicture(CellArgs(*control, row, column, item), metrics.clrBackground))
             width = m_nWidth; // a picture has no natural width
         if (std::chrono::steady_clock::now() >= deadline)

@@ -48,6 +48,11 @@ void RecordSequence::Erase(int index) {
         Renumber();
 }
 
+void RecordSequence::Vacate(int index) {
+    if (CXTPReportRecord* const record = std::exchange(m_records[index], nullptr))
+        record->*m_place = -1;
+}
+
 void RecordSequence::Assign(std::vector<CXTPReportRecord*> records) {
     Take();
     m_records = std::move(records);
@@ -56,13 +61,15 @@ void RecordSequence::Assign(std::vector<CXTPReportRecord*> records) {
 
 std::vector<CXTPReportRecord*> RecordSequence::Take() {
     for (CXTPReportRecord* const record : m_records)
-        record->*m_place = -1;
+        if (record)
+            record->*m_place = -1;
     m_lag = 0;
     return std::exchange(m_records, {});
 }
 
 void RecordSequence::Renumber() {
     for (int index = 0; index < Count(); ++index)
-        m_records[index]->*m_place = index;
+        if (m_records[index])
+            m_records[index]->*m_place = index;
     m_lag = 0;
 }

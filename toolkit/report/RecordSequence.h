@@ -16,7 +16,7 @@ public:
     explicit RecordSequence(int CXTPReportRecord::*place) : m_place(place) {}
 
     int Count() const { return static_cast<int>(m_records.size()); } ///< O(1)
-    CXTPReportRecord* At(int index) const;                           ///< null when out of range
+    CXTPReportRecord* At(int index) const;                           ///< null when out of range, and for a vacant place
     /// The place of the record; −1 when it is not in this sequence. Null is in none.
     int IndexOf(const CXTPReportRecord* record) const;
     /// In order; the reference is good until the next change.
@@ -25,6 +25,8 @@ public:
     void Append(CXTPReportRecord* record);            ///< never null, and in no sequence that uses the same member
     void Insert(int index, CXTPReportRecord* record); ///< 0 <= index <= count
     void Erase(int index);                            ///< 0 <= index < count
+    /// Takes the record out and leaves its place empty; nothing moves. Not to be mixed with `Erase`.
+    void Vacate(int index);
     /// Replaces all records. Those that were in the sequence are looked at once more, so they must still live.
     void Assign(std::vector<CXTPReportRecord*> records);
     /// Empties the sequence and returns what was in it.

@@ -4,6 +4,7 @@
 #include "CXTPReportColumn.h"
 #include "CXTPReportColumns.h"
 #include "CXTPReportControl.h"
+#include "CXTPReportGroupRow.h"
 #include "CXTPReportHeader.h"
 #include "CXTPReportRecord.h"
 #include "CXTPReportRecordItem.h"
@@ -54,6 +55,10 @@ struct Element {
     bool IsHeader() const { return !row && column; }
     bool IsRow() const { return row && !column; }
     bool IsCell() const { return row && column; }
+    /// Null but for the row of a group.
+    const CXTPReportGroupRow* Group() const {
+        return IsRow() && row->IsGroupRow() ? static_cast<const CXTPReportGroupRow*>(row) : nullptr;
+    }
     /// Null where the record has no such cell.
     CXTPReportRecordItem* Item() const {
         return IsCell() && row->GetRecord() ? row->GetRecord()->GetItem(column) : nullptr;
@@ -102,6 +107,8 @@ CString NameOf(CXTPReportControl& control, const Element& element) {
     CString name;
     if (element.IsGrid())
         control.GetWindowText(name);
+    else if (const CXTPReportGroupRow* const group = element.Group())
+        name = group->GetCaption();
     else if (element.column)
         name = element.column->GetCaption();
     else
@@ -127,12 +134,23 @@ CString DescriptionOf(CXTPReportControl& control, const Element& element) {
     return description;
 }
 
-LONG RoleOf(const Element& element) {
+LONG RoleOf(const CXTPReportControl& control, const Element& element) {
     if (element.IsGrid())
         return ROLE_SYSTEM_TABLE;
     if (element.IsHeader())
         return ROLE_SYSTEM_COLUMNHEADER;
-    return element.IsRow() ? ROLE_SYSTEM_ROW : ROLE_SYSTEM_CELL;
+    if (!element.IsRow())
+        return ROLE_SYSTEM_CELL;
+    return control.GetRows()->IsOutline() ? ROLE_SYSTEM_OUTLINEITEM : ROLE_SYSTEM_ROW;
+}
+
+/// Of a cell its text. Of a row in an outline its level, from 0 on, as trees of the system tell it.
+CString ValueOf(CXTPReportControl& control, const Element& element) {
+    if (!element.IsRow() || !control.GetRows()->IsOutline())
+        return TextOf(control, element);
+    CString level;
+    level.Format(_T("%d"), element.row->GetGroupLevel() + element.row->GetTreeDepth());
+    return level;
 }
 
 /// In client coordinates, also where it is scrolled out of view.
@@ -185,24 +203,31 @@ LONG StateOf(const CXTPReportControl& control, const Element& element) {
     add(element.IsGrid() && control.IsMultipleSelection(), STATE_SYSTEM_MULTISELECTABLE | STATE_SYSTEM_EXTSELECTABLE);
     add(element.row, STATE_SYSTEM_SELECTABLE);
     add(element.row && element.row->IsSelected(), STATE_SYSTEM_SELECTED);
+    if (element.IsRow() && element.row->HasChildren())
+        add(true, element.row->IsExpanded() ? STATE_SYSTEM_EXPANDED : STATE_SYSTEM_COLLAPSED);
     const CXTPReportRecordItem* const item = element.Item();
     add(item && item->GetHyperlinksCount() > 0, STATE_SYSTEM_LINKED);
     add(element.IsCell() && !IsEditable(control, element), STATE_SYSTEM_READONLY);
     return state;
 }
 
-/// Pressing a header sorts. A row or cell does what enter does for it.
+/// Pressing a header sorts. A row that others stand below is expanded or collapsed; another one, and a cell, does what
+/// enter does for it.
 CString DefaultActionOf(const CXTPReportControl& control, const Element& element) {
     if (element.IsGrid())
         return CString();
     if (element.IsHeader()) {
         const bool sorts = control.GetReportHeader()->IsAllowColumnSort() && element.column->IsSortable();
-        return sorts ? CString(_T("Sort")) : CString();
+        return sorts ? control.GetText(xtpReportTextSort) : CString();
     }
+    if (element.IsRow() && element.row->HasChildren())
+        return control.GetText(element.row->IsExpanded() ? xtpReportTextCollapse : xtpReportTextExpand);
+    if (element.row->IsGroupRow())
+        return CString(); // its cells
     const CXTPReportRecordItem* const item = element.Item();
     if (item && item->GetHyperlinksCount() > 0)
-        return _T("Jump");
-    return IsEditable(control, element) ? _T("Edit") : _T("Open");
+        return control.GetText(xtpReportTextJump);
+    return control.GetText(IsEditable(control, element) ? xtpReportTextEdit : xtpReportTextOpen);
 }
 
 void Edit(CXTPReportControl& control, const Element& cell) {
@@ -217,6 +242,10 @@ void Edit(CXTPReportControl& control, const Element& cell) {
 void Act(CXTPReportControl& control, const Element& element) {
     if (element.IsHeader()) {
         control.GetReportHeader()->Sort(element.column, FALSE);
+        return;
+    }
+    if (element.IsRow() && element.row->HasChildren()) {
+        element.row->SetExpanded(!element.row->IsExpanded());
         return;
     }
     CXTPReportRecordItem* const item = element.Item();
@@ -368,7 +397,7 @@ public:
     }
     STDMETHODIMP get_accValue(VARIANT child, BSTR* value) override {
         return TellOf(child, value,
-                      [&](const Element& element) { return GiveText(TextOf(Control(), element), value); });
+                      [&](const Element& element) { return GiveText(ValueOf(Control(), element), value); });
     }
     STDMETHODIMP get_accDescription(VARIANT child, BSTR* description) override {
         return TellOf(child, description,
@@ -376,7 +405,7 @@ public:
     }
     STDMETHODIMP get_accRole(VARIANT child, VARIANT* role) override {
         return TellOf(child, role, [&](const Element& element) {
-            GiveNumber(RoleOf(element), role);
+            GiveNumber(RoleOf(Control(), element), role);
             return S_OK;
         });
     }

@@ -1,9 +1,9 @@
 // The inside of a report control: its parts and its state. Only the control's own sources include this.
 //
 // The operations stand in the source of their concern: CXTPReportControl_Paint, _Scroll, _Selection, _Mouse, _Keyboard,
-// _Edit, _Tips and _Clipboard. Callbacks to items, to the owner and to overrides may do anything, even destroy the
-// control: whoever makes one holds a WindowGuard and returns at once when the window is gone, and finds rows and items
-// anew afterwards.
+// _Outline, _Edit, _Tips and _Clipboard. Callbacks to items, to the owner and to overrides may do anything, even
+// destroy the control: whoever makes one holds a WindowGuard and returns at once when the window is gone, and finds
+// rows and items anew afterwards.
 #pragma once
 
 #include "CXTPReportColumns.h"
@@ -18,7 +18,9 @@
 #include "DpiLength.h"
 #include "GridGeometry.h"
 #include "ReportAccessible.h"
+#include "ReportSort.h"
 #include "RowSelection.h"
+#include "TextFilter.h"
 
 #include "../common/BackBuffer.h"
 #include "../common/ObjectReference.h"
@@ -48,7 +50,8 @@ struct CellHit {
     bool IsSameCell(const CellHit& other) const { return rowIndex == other.rowIndex && item == other.item; }
 };
 
-/// The cell of row and column without its grid lines, as `CXTPReportRow::HitTest` tells it; empty where there is none.
+/// The cell of row and column without its grid lines and indentation, as `CXTPReportRow::HitTest` tells it; empty where
+/// there is none.
 CRect CellRect(const CXTPReportRow& row, const CXTPReportColumn& column);
 
 /// A press of the left button over the rows, from button down to button up.
@@ -170,6 +173,23 @@ struct CXTPReportControl::Impl {
     void SelectByClick(int rowIndex, UINT mouseFlags);
     void MoveFocusTo(int rowIndex, bool extends, bool keepsSelection);
 
+    // --- Outline and filter -----------------------------------------------------------------------------------------
+    TextFilter filter;
+
+    /// Runs `change`, which makes all rows anew; selection and focus stay with what they stood on.
+    template <class Change>
+    void RemakeRows(Change change);
+    void ExpandRow(int rowIndex, bool expand);
+    void ExpandRowByUser(int rowIndex, bool expand);
+    void ExpandBranchByUser(int rowIndex);
+    void ExpandAll(bool expand);
+    bool CanExpand(int rowIndex) const;
+    /// A press on the button of a row expands or collapses it, and does nothing else.
+    bool PressExpandButton(CPoint point);
+    bool TogglePressedRow(const CellHit& pressed, CPoint point);
+    bool OutlineByKey(UINT key);
+    bool OutlineBySign(UINT key);
+
     // --- Clipboard ------------------------------------------------------------------------------------------------
     std::wstring SelectedText() const;
     CString SelectedRecords() const;
@@ -230,6 +250,7 @@ struct CXTPReportControl::Impl {
     CString searchText; ///< typed so far; the rows that begin with it are looked for
     DWORD searchTime = 0;
 
+    bool isSignOurs = false;    ///< the character of the key pressed last was meant for the outline
     bool isSysCharOurs = false; ///< the character of the key pressed last with alt was meant for the columns
 
     bool MoveByKey(UINT key);
@@ -250,6 +271,24 @@ struct CXTPReportControl::Impl {
     bool IsTyping() const;
     void FindTyped(wchar_t character);
 };
+
+template <class Change>
+void CXTPReportControl::Impl::RemakeRows(Change change) {
+    reportsort::RowStateKeeper keeper(*rows, *selectedRows, focusedRow);
+    change();
+    // Until the rows of before are found again, none of the new ones may be taken for them.
+    focusedRow = -1;
+    try {
+        focusedRow = keeper.Restore();
+    } catch (...) {
+        selectedRows->SetRanges(RowSelection());
+        control.AdjustLayout();
+        throw;
+    }
+    control.AdjustLayout();
+    chosenTopRow = topRow;
+    TellAccess(EVENT_OBJECT_REORDER);
+}
 
 /// The control's timers; numbers of its own, because derived classes have theirs in the same window.
 constexpr UINT_PTR ReportTimerAutoScroll = 0x7E51;

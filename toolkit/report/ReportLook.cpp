@@ -113,12 +113,20 @@ constexpr BodyColors ClassicBody = {
     Between(COLOR_WINDOW, COLOR_BTNSHADOW, 38), // grid lines
     Sys(COLOR_HOTLIGHT),                        // hyperlink
     Rgb(0xC00000),                              // drop mark
+    Sys(COLOR_BTNFACE),                         // group row
+    Sys(COLOR_BTNTEXT),
+    Sys(COLOR_BTNSHADOW), // line under it
+    Sys(COLOR_BTNSHADOW), // tree lines
+    Sys(COLOR_BTNSHADOW), // expand button: frame, inside, sign
+    Sys(COLOR_WINDOW),
+    Sys(COLOR_WINDOWTEXT),
 };
 
 constexpr BodyColors OfficeXPBody = {
     Sys(COLOR_WINDOW),  Sys(COLOR_WINDOWTEXT), Rgb(0xF1F5FB), Sys(COLOR_BTNFACE), Sys(COLOR_GRAYTEXT),
     Rgb(0xC1D2EE),      Rgb(0x000000),         Rgb(0xDCE0E8), Rgb(0x000000),      Rgb(0x316AC5),
-    Sys(COLOR_BTNFACE), Sys(COLOR_HOTLIGHT),   Rgb(0x316AC5),
+    Sys(COLOR_BTNFACE), Sys(COLOR_HOTLIGHT),   Rgb(0x316AC5), Rgb(0xE1E8F4),      Rgb(0x1F3A6E),
+    Rgb(0x9DB1D4),      Rgb(0xA9B7D1),         Rgb(0x7F93B9), Sys(COLOR_WINDOW),  Rgb(0x1F3A6E),
 };
 
 constexpr BodyColors Office2013Body = {
@@ -130,6 +138,9 @@ constexpr BodyColors Office2013Body = {
     Rgb(0xE6E6E6),                               //
     Rgb(0x0072C6),                               //
     Rgb(0x0072C6),                               //
+    Rgb(0xFFFFFF), Rgb(0x0072C6), Rgb(0xC6C6C6), // group row
+    None,                                        //
+    Rgb(0x6A6A6A), None,          None,          // expand button
 };
 
 constexpr BodyColors Windows7Body = {
@@ -141,6 +152,9 @@ constexpr BodyColors Windows7Body = {
     Rgb(0xE9EDF2),                               //
     Rgb(0x0066CC),                               //
     Rgb(0x3399FF),                               //
+    Rgb(0xFFFFFF), Rgb(0x003399), Rgb(0xB9CCE4), // group row
+    None,                                        //
+    Rgb(0x5A5A5A), None,          None,          // expand button
 };
 
 constexpr BodyColors ResourceBody = {
@@ -152,6 +166,9 @@ constexpr BodyColors ResourceBody = {
     Rgb(0xCEDAE9),                               //
     Rgb(0x1E5AA8),                               //
     Rgb(0xE08A00),                               //
+    Rgb(0xDCE7F5), Rgb(0x15428B), Rgb(0x9DB8D6), // group row
+    None,                                        //
+    Rgb(0x7B9AC2), Rgb(0xFFFFFF), Rgb(0x15428B), // expand button
 };
 
 constexpr BodyColors HighContrastBody = {
@@ -162,15 +179,26 @@ constexpr BodyColors HighContrastBody = {
     Sys(COLOR_HIGHLIGHT), // the focus is told by its dotted rectangle
     Sys(COLOR_HIGHLIGHTTEXT), None,
     Sys(COLOR_BTNSHADOW),     Sys(COLOR_HOTLIGHT),
-    Sys(COLOR_HIGHLIGHT),
+    Sys(COLOR_HIGHLIGHT),     Sys(COLOR_WINDOW),
+    Sys(COLOR_WINDOWTEXT),    Sys(COLOR_WINDOWTEXT),
+    Sys(COLOR_WINDOWTEXT),    Sys(COLOR_WINDOWTEXT),
+    Sys(COLOR_WINDOW),        Sys(COLOR_WINDOWTEXT),
 };
 
 constexpr ThemeLook ThemeLooks[] = {
-    {xtpReportThemeDefault, xtpReportColumnShaded, {5, 3, 4, 2, 4}, ClassicBody, nullptr},
-    {xtpReportThemeOfficeXP, xtpReportColumnFlat, {5, 3, 4, 2, 4}, OfficeXPBody, nullptr},
-    {xtpReportThemeOffice2013, xtpReportColumnFlat, {7, 4, 5, 3, 0}, Office2013Body, &Office2013Header},
-    {xtpReportThemeWindows7, xtpReportColumnExplorer, {6, 3, 5, 2, 3}, Windows7Body, nullptr},
-    {xtpReportThemeResource, xtpReportColumnResource, {5, 3, 4, 2, 4}, ResourceBody, nullptr},
+    {xtpReportThemeDefault, xtpReportColumnShaded, {5, 3, 4, 2, 4, 17, ExpandButton::Box}, ClassicBody, nullptr},
+    {xtpReportThemeOfficeXP, xtpReportColumnFlat, {5, 3, 4, 2, 4, 17, ExpandButton::Box}, OfficeXPBody, nullptr},
+    {xtpReportThemeOffice2013,
+     xtpReportColumnFlat,
+     {7, 4, 5, 3, 0, 18, ExpandButton::Triangle},
+     Office2013Body,
+     &Office2013Header},
+    {xtpReportThemeWindows7,
+     xtpReportColumnExplorer,
+     {6, 3, 5, 2, 3, 16, ExpandButton::Triangle},
+     Windows7Body,
+     nullptr},
+    {xtpReportThemeResource, xtpReportColumnResource, {5, 3, 4, 2, 4, 17, ExpandButton::Box}, ResourceBody, nullptr},
 };
 
 const ThemeLook& Find(XTPReportPaintTheme theme) {

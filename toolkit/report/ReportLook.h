@@ -25,6 +25,13 @@ enum class Role {
     GridLine,
     Hyperlink,
     DropMark,
+    GroupRow, ///< behind the caption of a group; none: that of the other rows
+    GroupRowText,
+    GroupRowLine,     ///< under the row of a group
+    TreeLine,         ///< from a record to those below it; none: no lines
+    ExpandButton,     ///< the frame of a box, or a whole triangle
+    ExpandButtonFill, ///< inside of a box
+    ExpandButtonSign, ///< plus and minus
 
     Header, ///< the lower end of the header's gradient
     HeaderLight,
@@ -48,13 +55,20 @@ constexpr std::size_t HeaderRoles = static_cast<std::size_t>(Role::Count) - Body
 using BodyColors = std::array<LookColor, BodyRoles>;
 using HeaderColors = std::array<LookColor, HeaderRoles>;
 
-/// Lengths at 96 DPI.
+enum class ExpandButton {
+    Box,     ///< with a plus or a minus
+    Triangle ///< points to the right while collapsed, to the lower right while expanded
+};
+
+/// Lengths at 96 DPI, and shapes.
 struct BodyMetrics {
     int cellPadding;   ///< between the edge of a cell or column header and its text
     int rowSpacing;    ///< above and below the text of a row
     int headerSpacing; ///< above and below a caption
     int dropMarkWidth; ///< of the bar between two columns
     int dropMarkArrow; ///< height of the arrows at its ends; 0: none
+    int treeIndent;    ///< from a record to those below it; the room of an expand button as well
+    ExpandButton button;
 };
 
 /// How the edges of a header column are drawn.

@@ -1,4 +1,4 @@
-// The rows that `CXTPReportControl::Populate` makes: which records are shown, and in which order.
+// The order of records in a report control, and what stays with them when the rows are made anew.
 #include "ReportSort.h"
 
 #include "CXTPReportColumn.h"
@@ -6,8 +6,6 @@
 #include "CXTPReportRecord.h"
 #include "CXTPReportRecordItemNumber.h"
 #include "CXTPReportRecordItemText.h"
-#include "CXTPReportRecords.h"
-#include "CXTPReportRow.h"
 #include "CXTPReportRows.h"
 #include "CXTPReportSelectedRows.h"
 #include "ItemCompare.h"
@@ -19,6 +17,7 @@
 #include <cstdint>
 #include <cstring>
 #include <memory>
+#include <numeric>
 #include <span>
 #include <string>
 #include <typeinfo>
@@ -194,24 +193,24 @@ void SortEqualHeads(const std::vector<DirectedKey>& keys, std::span<Entry> entri
 
 } // namespace
 
-std::vector<CXTPReportRecord*> SortedVisibleRecords(const CXTPReportRecords& records, CXTPReportColumns& columns) {
-    std::vector<CXTPReportRecord*> visible;
-    visible.reserve(records.GetCount());
-    std::copy_if(records.GetRecords().begin(), records.GetRecords().end(), std::back_inserter(visible),
-                 [](const CXTPReportRecord* record) { return record->IsVisible(); });
-
+std::vector<std::uint32_t> Order(const std::vector<CXTPReportRecord*>& records, CXTPReportColumns& columns) {
+    std::vector<std::uint32_t> places;
+    places.reserve(records.size());
     std::vector<DirectedKey> keys;
     const CXTPReportColumnOrder& order = *columns.GetSortOrder();
     for (int i = 0; i < order.GetCount(); ++i)
-        keys.push_back({MakeKey(order.GetAt(i), visible), order.GetAt(i)->IsSortIncreasing() != FALSE});
-    if (keys.empty() || visible.size() < 2)
-        return visible;
+        keys.push_back({MakeKey(order.GetAt(i), records), order.GetAt(i)->IsSortIncreasing() != FALSE});
+    if (keys.empty()) {
+        places.resize(records.size());
+        std::iota(places.begin(), places.end(), 0U);
+        return places;
+    }
 
     // The first key's heads lie beside the places, so that most of the sorting looks at nothing else.
     const DirectedKey& first = keys.front();
     std::vector<Entry> entries;
-    entries.reserve(visible.size());
-    for (std::uint32_t place = 0; place < visible.size(); ++place) {
+    entries.reserve(records.size());
+    for (std::uint32_t place = 0; place < records.size(); ++place) {
         const std::uint64_t head = first.key->Head(place);
         entries.push_back({first.increasing ? head : ~head, place});
     }
@@ -226,11 +225,9 @@ std::vector<CXTPReportRecord*> SortedVisibleRecords(const CXTPReportRecords& rec
             SortEqualHeads(keys, std::span(begin, end));
         begin = end;
     }
-    std::vector<CXTPReportRecord*> sorted;
-    sorted.reserve(visible.size());
     for (const Entry& entry : entries)
-        sorted.push_back(visible[entry.place]);
-    return sorted;
+        places.push_back(entry.place);
+    return places;
 }
 
 // --- RowStateKeeper --------------------------------------------------------------------------------------------------
@@ -239,11 +236,11 @@ RowStateKeeper::RowStateKeeper(CXTPReportRows& rows, CXTPReportSelectedRows& sel
     : m_rows(rows), m_selection(selection), m_nFocusedRow(nFocusedRow), m_bVirtual(rows.IsVirtual()) {
     if (m_bVirtual)
         return;
-    m_pAnchor = rows.GetRecordAt(selection.GetAnchor());
-    m_pFocused = rows.GetRecordAt(nFocusedRow);
+    m_pAnchor = rows.GetEntryAt(selection.GetAnchor());
+    m_pFocused = rows.GetEntryAt(nFocusedRow);
     for (const RowSelection::Range& range : selection.GetRanges().Ranges())
         for (int nRow = range.first; nRow <= range.last && nRow < rows.GetCount(); ++nRow)
-            m_selected.push_back(rows.GetRecordAt(nRow));
+            m_selected.push_back(rows.GetEntryAt(nRow));
 }
 
 int RowStateKeeper::Restore() {
@@ -274,7 +271,7 @@ int RowStateKeeper::Restore() {
     }
     m_selection.SetRanges(ranges);
     m_selection.SetAnchor(m_rows.IndexOf(m_pAnchor));
-    return m_rows.IndexOf(m_pFocused);
+    return m_rows.IndexOfNearest(m_pFocused);
 }
 
 } // namespace reportsort

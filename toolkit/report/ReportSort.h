@@ -1,18 +1,19 @@
-// The rows that `CXTPReportControl::Populate` makes: which records are shown, and in which order.
+// The order of records in a report control, and what stays with them when the rows are made anew.
 #pragma once
 
 #include "XTPReportDefines.h"
 
+#include <cstdint>
 #include <vector>
 
 namespace reportsort {
 
-/// The visible records, ordered by the sort order's columns, most significant first, each in its direction. Records
-/// that compare equal in all of them stay in the order of the collection, whichever the direction. A record without an
-/// item for a column comes before those that have one. Cells compare through `CXTPReportRecordItem::Compare`.
-std::vector<CXTPReportRecord*> SortedVisibleRecords(const CXTPReportRecords& records, CXTPReportColumns& columns);
+/// The places of the records in the order of the sort order's columns, most significant first, each in its direction.
+/// Records that compare equal in all of them stay in the order given, whichever the direction. A record without an item
+/// for a column comes before those that have one. Cells compare through `CXTPReportRecordItem::Compare`.
+std::vector<std::uint32_t> Order(const std::vector<CXTPReportRecord*>& records, CXTPReportColumns& columns);
 
-/// Carries selection, anchor and focus over a rebuild of the rows: they stay with their records. Take it before the
+/// Carries selection, anchor and focus over a rebuild of the rows: they stay with their records and groups. Take it before the
 /// rebuild, with the rows' old order still there; no record may be deleted until `Restore`. In virtual mode, which has
 /// one record for all rows, they stay with the row indices; when virtual mode begins or ends nothing is carried over.
 class RowStateKeeper {
@@ -21,7 +22,7 @@ public:
     RowStateKeeper(CXTPReportRows& rows, CXTPReportSelectedRows& selection, int nFocusedRow);
 
     /// Selects the rows of the records that were selected, and forgets those that have no row any more. Returns the
-    /// index of the row that has the focus now, -1 for none.
+    /// index of the row that has the focus now, -1 for none: where a record stands below a collapsed row, that one.
     int Restore();
 
 private:

@@ -90,19 +90,33 @@ void RowSelection::Invert(int row) {
         Add(row, row);
 }
 
-void RowSelection::RowRemoved(int row) {
-    if (row < 0)
+void RowSelection::Splice(int first, int removed, int inserted) {
+    if (first < 0 || removed < 0 || inserted < 0)
         return;
-    Remove(row, row);
-    const auto behind = FirstEndingAtOrBehind(m_ranges, row);
-    for (auto it = behind; it != m_ranges.end(); ++it) {
-        --it->first;
-        --it->last;
+    // Rows go first, which needs no memory: ends of ranges come nearer, and what is left of two may touch.
+    const std::int64_t end = std::int64_t{first} + removed;
+    auto kept = m_ranges.begin();
+    for (const Range& range : m_ranges) {
+        const int from = range.first < first ? range.first : std::max<std::int64_t>(range.first, end) - removed;
+        const int to = range.last < first ? range.last : std::max<std::int64_t>(range.last, end - 1) - removed;
+        if (kept != m_ranges.begin() && (kept - 1)->last + 1 >= from)
+            (kept - 1)->last = std::max((kept - 1)->last, to);
+        else if (from <= to)
+            *kept++ = {from, to};
     }
-    // What was parted by that row alone is one range now.
-    if (behind != m_ranges.end() && behind != m_ranges.begin() && (behind - 1)->last + 1 == behind->first) {
-        (behind - 1)->last = behind->last;
-        m_ranges.erase(behind);
+    m_ranges.erase(kept, m_ranges.end());
+    if (inserted == 0)
+        return;
+    auto behind = FirstEndingAtOrBehind(m_ranges, first);
+    if (behind != m_ranges.end() && behind->first < first) {
+        // New rows part the range into which they come.
+        const Range tail{first, behind->last};
+        behind = m_ranges.insert(behind + 1, tail);
+        (behind - 1)->last = first - 1;
+    }
+    for (; behind != m_ranges.end(); ++behind) {
+        behind->first += inserted;
+        behind->last += inserted;
     }
 }
 

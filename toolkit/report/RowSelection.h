@@ -30,8 +30,9 @@ public:
     /// Takes out the rows `first`…`last`, both inclusive, which may cut a range in two.
     void Remove(int first, int last);
     void Invert(int row); ///< in when it was out, out when it was in
-    /// The row at `row` goes away: it leaves the set and all rows below move up by one.
-    void RowRemoved(int row);
+    /// From `first` on, `removed` rows go away and leave the set, and `inserted` others, which are not in it, come in
+    /// their place; all rows below move along.
+    void Splice(int first, int removed, int inserted);
     /// Drops everything from `count` on.
     void Truncate(int count);
 

@@ -11,6 +11,8 @@
 class CXTPReportColumn;
 class CXTPReportColumns;
 class CXTPReportControl;
+class CXTPReportFilterEditControl;
+class CXTPReportGroupRow;
 class CXTPReportHeader;
 class CXTPReportInplaceEdit;
 class CXTPReportPaintManager;
@@ -41,6 +43,18 @@ enum XTPReportGridStyle {
     xtpReportGridLargeDots, ///< 2 pixels drawn, 2 left out
     xtpReportGridDashes,    ///< 4 pixels drawn, 2 left out
     xtpReportGridSolid      ///< a line of 1 pixel
+};
+
+/// Texts that a report control shows or tells by itself; see `CXTPReportControl::GetText`.
+enum XTPReportText {
+    xtpReportTextSort,     ///< what pressing a header does
+    xtpReportTextJump,     ///< what Enter does in a cell with a link
+    xtpReportTextEdit,     ///< what Enter does in a cell that can be edited
+    xtpReportTextOpen,     ///< what Enter does in another cell
+    xtpReportTextExpand,   ///< what is done to a collapsed row
+    xtpReportTextCollapse, ///< what is done to an expanded row
+    xtpReportTextNoValue,  ///< stands for the value of a group whose records show no text
+    xtpReportTextFilterCue ///< in an empty filter edit control
 };
 
 /// Everything that drawing one cell needs. Coordinates are those of `pDC`.
@@ -96,6 +110,9 @@ constexpr UINT XTP_NM_REPORT_REQUESTEDIT = XTP_NM_REPORT_FIRST - 7;
 constexpr UINT XTP_NM_REPORT_VALUECHANGED = XTP_NM_REPORT_FIRST - 8;
 /// Editing ended without effect: by Escape, with the text that was there before, or because the record is about to go.
 constexpr UINT XTP_NM_REPORT_EDITCANCELED = XTP_NM_REPORT_FIRST - 9;
+
+/// A row was expanded or collapsed, by the user or the host; no item. `CXTPReportRow::IsExpanded` tells which.
+constexpr UINT XTP_NM_REPORT_ROWEXPANDED = XTP_NM_REPORT_FIRST - 10;
 
 /// What a notification about a cell carries. The pointers are valid until the owner returns.
 struct XTP_NM_REPORTRECORDITEM {

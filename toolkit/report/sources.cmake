@@ -14,7 +14,10 @@ list(APPEND kytoolkit_report_SOURCES
     report/ItemCompare.cpp
     report/RecordItemHeap.cpp
     report/RecordSequence.cpp
-    report/ReportSort.cpp)
+    report/ReportGroups.cpp
+    report/ReportSort.cpp
+    report/RowBuilder.cpp
+    report/TextFilter.cpp)
 # Then the view: control, header, rows, and the look of it all.
 list(APPEND kytoolkit_report_SOURCES
     report/CellText.cpp
@@ -23,15 +26,19 @@ list(APPEND kytoolkit_report_SOURCES
     report/CXTPReportControl_Edit.cpp
     report/CXTPReportControl_Keyboard.cpp
     report/CXTPReportControl_Mouse.cpp
+    report/CXTPReportControl_Outline.cpp
     report/CXTPReportControl_Paint.cpp
     report/CXTPReportControl_Scroll.cpp
     report/CXTPReportControl_Selection.cpp
     report/CXTPReportControl_Tips.cpp
+    report/CXTPReportFilterEditControl.cpp
+    report/CXTPReportGroupRow.cpp
     report/CXTPReportHeader.cpp
     report/CXTPReportHeader_Mouse.cpp
     report/CXTPReportInplaceEdit.cpp
     report/CXTPReportPaintManager.cpp
     report/CXTPReportPaintManager_Header.cpp
+    report/CXTPReportPaintManager_Outline.cpp
     report/CXTPReportRow.cpp
     report/CXTPReportThemeResource.cpp
     report/ReportAccessible.cpp

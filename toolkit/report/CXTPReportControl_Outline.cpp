@@ -33,7 +33,8 @@ void CXTPReportControl::Impl::ExpandRow(int rowIndex, bool expand) {
     if (takesFocus)
         focusedRow = rowIndex; // in front of the change, which would hand it to the row below
     rows->SetExpanded(rowIndex, expand);
-    if (takesFocus && selectedRows->GetCount() == 0 && formerlySelected > 0) {
+    const bool isOtherSelection = selectedRows->GetRanges().Count() != formerlySelected;
+    if (takesFocus && isOtherSelection && selectedRows->GetCount() == 0) {
         selectedRows->SelectBlock(rowIndex, rowIndex);
         selectedRows->SetAnchor(rowIndex);
     }
@@ -44,7 +45,7 @@ void CXTPReportControl::Impl::ExpandRow(int rowIndex, bool expand) {
             TellAccess(EVENT_OBJECT_FOCUS, focusedRow);
         control.SendItemNotify(XTP_NM_REPORT_FOCUSCHANGED, CPoint(0, 0), control.GetFocusedRow(), nullptr, nullptr);
     }
-    if (!guard.IsGone() && !expand && selectedRows->GetRanges().Count() != formerlySelected)
+    if (!guard.IsGone() && isOtherSelection)
         TellSelectionChanged();
     if (!guard.IsGone() && row && row->GetControl() == &control)
         control.SendItemNotify(XTP_NM_REPORT_ROWEXPANDED, CPoint(0, 0), row.get(), nullptr, nullptr);

@@ -5,6 +5,8 @@
 #include "window/ColumnPlotItem.h"
 #include "window/WideText.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr double kMargin = 0.06; // room for limits beyond the values
@@ -27,6 +29,11 @@ ColumnHistogramItem::ColumnHistogramItem(const statistics::ColumnProfile& profil
              PlotValue(profile.histogram.maximum));
     if (ColumnPlotItem::CanShow(profile.ValueSummary()))
         SetLimits(ColumnPlotItem::InitialLimits(profile.ValueSummary()));
+}
+
+double ColumnHistogramItem::Rank() const {
+    const auto fullest = std::ranges::max_element(m_bins);
+    return fullest != m_bins.end() ? *fullest / static_cast<double>(m_profile.count) : 0;
 }
 
 CString ColumnHistogramItem::GetInfoTip() const {

@@ -21,6 +21,8 @@ public:
     double GetMin() const override { return m_histMin; }
     double GetMax() const override { return m_histMax; }
     CString GetInfoTip() const override;
+    /// How much of everything is in the fullest bin.
+    double Rank() const override;
 
 private:
     const statistics::ColumnProfile& m_profile;

@@ -16,6 +16,9 @@ public:
     /// Whether there is a scale to draw on.
     static bool CanShow(const statistics::Summary& numbers);
 
+    /// How much of the scale lies between the limits.
+    double Rank() const override { return (m_upper - m_lower) / (GetMax() - GetMin()); }
+
     /// The limits that the plots of a column start with.
     static statistics::Limits InitialLimits(const statistics::Summary& numbers);
 };

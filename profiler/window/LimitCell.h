@@ -3,6 +3,7 @@
 
 #include "plotcells/KyPlotRecordItem.h"
 #include "statistics/Limits.h"
+#include "window/PlotRank.h"
 #include "window/PlotTip.h"
 
 #include <algorithm>
@@ -27,7 +28,7 @@ inline float PlotValue(double value) {
 
 /// A plot cell of the library with its limits as a whole, which tells of every move and shows the text of its tip.
 template <class Cell>
-class LimitCell : public Cell {
+class LimitCell : public Cell, public PlotRank {
 public:
     void SetListener(LimitListener listener) { m_listener = std::move(listener); }
 
@@ -53,6 +54,8 @@ public:
         if (abandoned && m_listener.abandoned)
             m_listener.abandoned();
     }
+
+    int Compare(CXTPReportColumn*, CXTPReportRecordItem* item) override { return ComparePlots(*this, item); }
 
     INT_PTR OnToolHitTest(CPoint point, TOOLINFO* tool) override {
         if (DraggedMark() != LimitMark::None)

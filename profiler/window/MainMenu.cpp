@@ -57,6 +57,9 @@ void AppendViewMenu(CMenu& bar) {
     view.AppendMenu(MF_STRING, ID_VIEW_DETAILS, Translate("Menu", "Column &details\tAlt+Enter"));
     view.AppendMenu(MF_STRING, ID_VIEW_MESSAGES, Translate("Menu", "&Messages\tCtrl+M"));
     view.AppendMenu(MF_SEPARATOR);
+    view.AppendMenu(MF_STRING, ID_VIEW_FILTER, Translate("Menu", "&Filter by name\tCtrl+F"));
+    view.AppendMenu(MF_STRING, ID_VIEW_GROUP_BY_TYPE, Translate("Menu", "&Group by type\tCtrl+G"));
+    view.AppendMenu(MF_SEPARATOR);
     AppendPopup(view, rows, Translate("Menu", "&Row height"));
     AppendPopup(view, themes, Translate("Menu", "&Theme"));
     AppendPopup(bar, view, Translate("Menu", "&View"));
@@ -105,6 +108,10 @@ CString CommandDescription(UINT command) {
         return Translate("Tells everything that is known of the selected column. A double click does as well.");
     case ID_VIEW_MESSAGES:
         return Translate("Shows or hides the list of what was odd about the file.");
+    case ID_VIEW_FILTER:
+        return Translate("Shows only the columns whose name contains what is typed.");
+    case ID_VIEW_GROUP_BY_TYPE:
+        return Translate("Puts the columns of one type together, under a line that tells the type.");
     case ID_HELP_KEYS:
         return Translate("Tells what keys and mouse do.");
     case ID_APP_ABOUT:

@@ -127,16 +127,16 @@ void ProfileGrid::AddColumns() {
         {PlotItem, L"Plot", Translate("Distribution"), 230, DT_LEFT,
          // xgettext:no-c-format
          Translate("Bar: mean ± standard deviation. Whiskers: 5 % and 95 % quantiles. Gold: median. Red: minimum and "
-                   "maximum. Drag the bar's ends and the median.")},
+                   "maximum. Drag the bar's ends and the median. Sorts by how much of the scale the bar takes.")},
         {HistogramItem, L"Histogram", Translate("Histogram"), 140, DT_LEFT,
          Translate("How often values come, the darker the more often. Red: limits. Gold: target. All three can be "
-                   "dragged. Of texts the most frequent ones are shown.")},
+                   "dragged. Of texts the most frequent ones are shown. Sorts by the share of the fullest column.")},
         {TargetItem, L"Target", Translate("Target"), 90, DT_LEFT,
-         Translate("The target from minimum to maximum, to be dragged. Marks: quartiles.")},
+         Translate("The target from minimum to maximum, to be dragged. Marks: quartiles. Sorts by its place there.")},
         {ScaleItem, L"Scale", Translate("Scale"), 110, DT_LEFT,
          Translate(
              "The target on a scale of your own: click one of its ends and type another. Enter or a click elsewhere "
-             "takes it.")},
+             "takes it. Sorts by the target's place on the scale.")},
         {InsideItem, L"Inside", Translate("Inside"), 58, DT_RIGHT,
          Translate("The share of the column's values from the lower to the upper limit; red when it is too small")},
         {RequiredItem, L"Required", Translate("Limit"), 56, DT_RIGHT,
@@ -150,9 +150,9 @@ void ProfileGrid::AddColumns() {
                             layout.item == ScaleItem;
         column->SetMinWidth(GetPaintManager()->ScaleForDpi(isPlot ? 80 : 40));
         column->SetTooltip(layout.tip);
-        column->SetSortable(!isPlot);
         column->AllowRemove(layout.item != NameItem);
         column->SetEditable(layout.item == RequiredItem);
+        column->SetFiltrable(layout.item == NameItem);
         AddColumn(column);
     }
 }
@@ -161,7 +161,7 @@ CString ProfileGrid::DefaultEmptyText() { return Translate("Open a CSV file (Ctr
 
 void ProfileGrid::SetEmptyText(const CString& text) {
     m_emptyText = text;
-    GetPaintManager()->SetNoItemText(text);
+    GetPaintManager()->SetNoItemText(TextWithoutRows());
     if (GetRows()->GetCount() == 0)
         RedrawControl();
 }
@@ -169,13 +169,70 @@ void ProfileGrid::SetEmptyText(const CString& text) {
 /// Theme changes make a new paint manager.
 void ProfileGrid::SetUpPaintManager() {
     GetPaintManager()->SetRowHeight(GetPaintManager()->ScaleForDpi(m_rowHeight));
-    GetPaintManager()->SetNoItemText(m_emptyText);
+    GetPaintManager()->SetNoItemText(TextWithoutRows());
+}
+
+CString ProfileGrid::GetText(XTPReportText text) const {
+    switch (text) {
+    case xtpReportTextSort:
+        return Translate("For screen readers", "Sort");
+    case xtpReportTextJump:
+        return Translate("For screen readers", "Jump");
+    case xtpReportTextEdit:
+        return Translate("For screen readers", "Edit");
+    case xtpReportTextOpen:
+        return Translate("For screen readers", "Open");
+    case xtpReportTextExpand:
+        return Translate("For screen readers", "Expand");
+    case xtpReportTextCollapse:
+        return Translate("For screen readers", "Collapse");
+    case xtpReportTextNoValue:
+        return Translate("Group", "(none)");
+    default:
+        return KyPlotRecordReportControl::GetText(text);
+    }
+}
+
+CString ProfileGrid::TextWithoutRows() const {
+    return GetRecords()->GetCount() == 0 ? m_emptyText : Translate("No column has such a name.");
+}
+
+void ProfileGrid::Populate() {
+    GetPaintManager()->SetNoItemText(TextWithoutRows());
+    KyPlotRecordReportControl::Populate();
+    if (m_rowsShown)
+        m_rowsShown(ShownColumns());
+}
+
+/// Those that the filter leaves, in collapsed groups as well.
+std::size_t ProfileGrid::ShownColumns() const {
+    std::size_t columns = 0;
+    for (int i = 0; i < GetRows()->GetCount(); ++i) {
+        const CXTPReportRow* const row = GetRows()->GetAt(i);
+        if (row->GetParentRow() != nullptr)
+            continue; // counted with its group
+        const auto* const group = dynamic_cast<const CXTPReportGroupRow*>(row);
+        columns += group != nullptr ? group->GetRecordCount() : 1;
+    }
+    return columns;
 }
 
 void ProfileGrid::ApplyTheme(int theme) {
     SendMessage(WM_KYTHEMECHANGED, static_cast<WPARAM>(theme), 0);
     SetUpPaintManager();
     AdjustLayout();
+}
+
+bool ProfileGrid::IsGroupedByType() const {
+    return GetColumns()->GetGroupsOrder()->IndexOf(GetColumns()->Find(TypeItem)) >= 0;
+}
+
+void ProfileGrid::GroupByType(bool group) {
+    CXTPReportColumnOrder& groups = *GetColumns()->GetGroupsOrder();
+    groups.Clear();
+    if (group)
+        groups.Add(GetColumns()->Find(TypeItem));
+    Populate();
 }
 
 void ProfileGrid::SetRowHeight(int pixels) {
@@ -228,17 +285,17 @@ void ProfileGrid::AddPlots(CXTPReportRecord& record, const ColumnFile& file, std
     if (hasLimits && profile.type == csv::ColumnType::Number)
         record.AddItem(row.plot = new ColumnPlotItem(profile.numbers));
     else
-        record.AddItem(new CXTPReportRecordItemText(PlotText(profile)));
+        record.AddItem(new PlotTextItem(PlotText(profile)));
     if (profile.count > 0)
         record.AddItem(row.histogram = new ColumnHistogramItem(profile, ValueTextOf(profile)));
     else
-        record.AddItem(new CXTPReportRecordItemText);
+        record.AddItem(new PlotTextItem);
     if (hasLimits) {
         AddLimits(record, row);
     } else {
-        record.AddItem(new CXTPReportRecordItemText);
+        record.AddItem(new PlotTextItem);
         record.AddItem(new ShareItem);
-        record.AddItem(new CXTPReportRecordItemText);
+        record.AddItem(new PlotTextItem);
         record.AddItem(new RequiredShareItem(nullptr));
     }
 }
@@ -258,7 +315,7 @@ void ProfileGrid::AddLimits(CXTPReportRecord& record, LimitRow row) {
         ListenTo(*row.scale, index);
         record.AddItem(row.scale);
     } else {
-        record.AddItem(new CXTPReportRecordItemText);
+        record.AddItem(new PlotTextItem);
     }
     record.AddItem(new RequiredShareItem([this, index](float percent) { OnRequired(index, percent); }));
     if (row.plot != nullptr)

@@ -29,6 +29,9 @@ public:
     /// Creates the window and its columns, and restores the layout that the user left.
     BOOL CreateGrid(CWnd* parent, UINT id);
 
+    /// Called on the user-interface thread whenever other rows are shown, with the number of columns that have one.
+    void SetRowsListener(std::function<void(std::size_t)> listener) { m_rowsShown = std::move(listener); }
+
     /// Shows the file, which must stay until the next call; null shows an empty grid.
     void Show(const ColumnFile* file);
 
@@ -41,9 +44,17 @@ public:
     /// The place of the focused row's column in the file; none without a row.
     std::optional<std::size_t> FocusedColumnOfFile() const;
 
+    /// Rows stand in groups by the type of the column. The saved layout keeps it.
+    bool IsGroupedByType() const;
+    void GroupByType(bool group);
+
     /// In pixels at 96 DPI; 34 at first.
     int RowHeight() const { return m_rowHeight; }
     void SetRowHeight(int pixels);
+
+    void Populate() override;
+    /// The grid's own texts in the user's language.
+    CString GetText(XTPReportText text) const override;
 
 protected:
     void OnPlotRecordItemDragCancelled() override;
@@ -77,9 +88,12 @@ private:
     void TakeMoveBack();
     static void ShowLimits(LimitRow& row, const statistics::Limits& limits, const KyPlotRecordItem* dragged);
     void SetUpPaintManager();
+    CString TextWithoutRows() const;
+    std::size_t ShownColumns() const;
     void Tell(const CString& sentence);
 
     std::function<void(const CString&)> m_status;
+    std::function<void(std::size_t)> m_rowsShown;
     CString m_emptyText;
     int m_rowHeight = 34;
     std::vector<LimitRow> m_limitRows;

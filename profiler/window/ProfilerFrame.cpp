@@ -73,6 +73,8 @@ BEGIN_MESSAGE_MAP(ProfilerFrame, CFrameWnd)
     ON_COMMAND(ID_VIEW_DETAILS, &ProfilerFrame::OnViewDetails)
     ON_NOTIFY(NM_DBLCLK, AFX_IDW_PANE_FIRST, &ProfilerFrame::OnGridDoubleClick)
     ON_COMMAND(ID_VIEW_MESSAGES, &ProfilerFrame::OnViewMessages)
+    ON_COMMAND(ID_VIEW_FILTER, &ProfilerFrame::OnViewFilter)
+    ON_COMMAND(ID_VIEW_GROUP_BY_TYPE, &ProfilerFrame::OnViewGroupByType)
     ON_COMMAND_RANGE(ID_VIEW_THEME_FIRST, ID_VIEW_THEME_LAST, &ProfilerFrame::OnViewTheme)
     ON_COMMAND_RANGE(ID_VIEW_ROW_HEIGHT_FIRST, ID_VIEW_ROW_HEIGHT_LAST, &ProfilerFrame::OnViewRowHeight)
     ON_COMMAND(ID_HELP_KEYS, &ProfilerFrame::OnHelpKeys)
@@ -84,6 +86,8 @@ BEGIN_MESSAGE_MAP(ProfilerFrame, CFrameWnd)
     ON_UPDATE_COMMAND_UI(ID_EDIT_COPY_GRID, &ProfilerFrame::OnUpdateExport)
     ON_UPDATE_COMMAND_UI(ID_VIEW_DETAILS, &ProfilerFrame::OnUpdateViewDetails)
     ON_UPDATE_COMMAND_UI(ID_VIEW_MESSAGES, &ProfilerFrame::OnUpdateViewMessages)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_FILTER, &ProfilerFrame::OnUpdateViewFilter)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_GROUP_BY_TYPE, &ProfilerFrame::OnUpdateViewGroupByType)
     ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_THEME_FIRST, ID_VIEW_THEME_LAST, &ProfilerFrame::OnUpdateViewTheme)
     ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_ROW_HEIGHT_FIRST, ID_VIEW_ROW_HEIGHT_LAST, &ProfilerFrame::OnUpdateViewRowHeight)
 END_MESSAGE_MAP()
@@ -110,8 +114,12 @@ int ProfilerFrame::OnCreate(LPCREATESTRUCT create) {
     const int height = static_cast<int>(AfxGetApp()->GetProfileInt(kWindowSection, kRowHeightEntry, 0));
     if (std::ranges::count(kRowHeights, height) > 0)
         m_grid.SetRowHeight(height);
-    if (!CreateStatusBar() || !m_grid.CreateGrid(this, AFX_IDW_PANE_FIRST) || !m_messages.CreateFor(this))
+    if (!CreateStatusBar() || !m_grid.CreateGrid(this, AFX_IDW_PANE_FIRST) || !m_filter.Create(*this, m_grid) ||
+        !m_messages.CreateFor(this))
         return -1;
+    m_grid.SetRowsListener([this](std::size_t shown) {
+        m_filter.ShowCount(shown, static_cast<std::size_t>(m_grid.GetRecords()->GetCount()));
+    });
     m_grid.SetStatusListener([this](const CString& text) {
         m_gridTold = ::GetTickCount64();
         ShowStatus(text);
@@ -139,6 +147,7 @@ void ProfilerFrame::SetPaneWidths(int dpi) {
 
 LRESULT ProfilerFrame::OnDpiChanged(WPARAM resolution, LPARAM suggested) {
     SetPaneWidths(LOWORD(resolution));
+    m_filter.UseDpi(LOWORD(resolution));
     return CFrameWnd::OnDpiChanged(resolution, suggested);
 }
 
@@ -362,6 +371,19 @@ void ProfilerFrame::OnViewMessages() {
         m_messages.Open();
 }
 
+void ProfilerFrame::OnViewFilter() {
+    if (m_filter.IsVisible())
+        m_filter.Close();
+    else
+        m_filter.Open();
+}
+
+void ProfilerFrame::OnViewGroupByType() {
+    m_grid.GroupByType(!m_grid.IsGroupedByType());
+    ShowStatus(m_grid.IsGroupedByType() ? Translate("The columns are grouped by their type.")
+                                        : Translate("The columns are no longer grouped."));
+}
+
 void ProfilerFrame::OnViewTheme(UINT id) {
     m_theme = static_cast<int>(id - ID_VIEW_THEME_FIRST);
     m_grid.ApplyTheme(m_theme);
@@ -394,7 +416,8 @@ void ProfilerFrame::OnHelpKeys() {
                                    "Alt+Plus: best width, Ctrl+Plus of all columns\n"
                                    "Alt+Down: choose columns\n"
                                    "Ctrl+F1: tip of the cell\n"
-                                   "Alt+Enter, double click: details of the column\n\n"
+                                   "Alt+Enter, double click: details of the column\n"
+                                   "Ctrl+F: filter by name, Ctrl+G: group by type\n\n"
                                    "Ctrl+O: open a file\n"
                                    "Ctrl+E: export as HTML, Ctrl+B: open in the browser\n"
                                    "Ctrl+Shift+C: copy the table, Ctrl+C: copy the row\n"
@@ -418,6 +441,10 @@ void ProfilerFrame::OnUpdateFileStop(CCmdUI* item) { item->Enable(IsReading()); 
 void ProfilerFrame::OnUpdateViewDetails(CCmdUI* item) { item->Enable(m_grid.FocusedColumnOfFile().has_value()); }
 
 void ProfilerFrame::OnUpdateViewMessages(CCmdUI* item) { item->SetCheck(m_messages.IsWindowVisible() ? 1 : 0); }
+
+void ProfilerFrame::OnUpdateViewFilter(CCmdUI* item) { item->SetCheck(m_filter.IsVisible() ? 1 : 0); }
+
+void ProfilerFrame::OnUpdateViewGroupByType(CCmdUI* item) { item->SetCheck(m_grid.IsGroupedByType() ? 1 : 0); }
 
 void ProfilerFrame::OnUpdateViewRowHeight(CCmdUI* item) {
     item->SetRadio(kRowHeights[item->m_nID - ID_VIEW_ROW_HEIGHT_FIRST] == m_grid.RowHeight());

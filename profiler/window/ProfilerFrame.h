@@ -2,6 +2,7 @@
 #pragma once
 
 #include "window/FileReading.h"
+#include "window/FilterBar.h"
 #include "window/MessagesWindow.h"
 #include "window/ProfileGrid.h"
 #include "window/ReadingPanes.h"
@@ -10,9 +11,9 @@
 
 #include <memory>
 
-/// A menu, the grid and a status bar. Holds one open file at a time. Files are read while the window goes on working
-/// with the former one, which stays as it is when the new one cannot be opened or the user gives up. The object is
-/// deleted with its window.
+/// A menu, the grid with a bar that filters it, and a status bar. Holds one open file at a time. Files are read while
+/// the window goes on working with the former one, which stays as it is when the new one cannot be opened or the user
+/// gives up. The object is deleted with its window.
 class ProfilerFrame : public CFrameWnd {
 public:
     ProfilerFrame();
@@ -46,6 +47,8 @@ protected:
     void OnViewDetails();
     void OnGridDoubleClick(NMHDR* header, LRESULT* result);
     void OnViewMessages();
+    void OnViewFilter();
+    void OnViewGroupByType();
     void OnViewTheme(UINT id);
     void OnViewRowHeight(UINT id);
     void OnHelpKeys();
@@ -55,6 +58,8 @@ protected:
     void OnUpdateExport(CCmdUI* item);
     void OnUpdateViewDetails(CCmdUI* item);
     void OnUpdateViewMessages(CCmdUI* item);
+    void OnUpdateViewFilter(CCmdUI* item);
+    void OnUpdateViewGroupByType(CCmdUI* item);
     void OnUpdateViewTheme(CCmdUI* item);
     void OnUpdateViewRowHeight(CCmdUI* item);
     DECLARE_MESSAGE_MAP()
@@ -74,6 +79,7 @@ private:
 
     ProfileGrid m_grid;
     CStatusBar m_statusBar;
+    FilterBar m_filter;
     MessagesWindow m_messages;
     std::unique_ptr<ColumnFile> m_file; ///< null when none is open
     CString m_status;                   ///< the status bar's first pane while no menu is open

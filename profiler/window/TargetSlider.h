@@ -4,6 +4,7 @@
 #include "plotcells/KyPlotRecordItem.h"
 #include "statistics/Summary.h"
 #include "window/ColumnPlotItem.h"
+#include "window/PlotRank.h"
 
 #include <functional>
 
@@ -15,7 +16,7 @@ struct TargetListener {
 
 /// A slider of the library with the target of a column on the scale from minimum to maximum, which tells of every move.
 template <class Cell>
-class TargetSlider : public Cell {
+class TargetSlider : public Cell, public PlotRank {
 public:
     explicit TargetSlider(const statistics::Summary& values) {
         this->SetMargin(0.08);
@@ -37,6 +38,10 @@ public:
         if (this->GetReportControl() != nullptr && m_listener.released)
             m_listener.released(this->GetTarget());
     }
+
+    int Compare(CXTPReportColumn*, CXTPReportRecordItem* item) override { return ComparePlots(*this, item); }
+    /// Where on its scale the target is.
+    double Rank() const override { return (this->GetTarget() - this->GetMin()) / (this->GetMax() - this->GetMin()); }
 
 private:
     TargetListener m_listener;

@@ -14,23 +14,6 @@
 
 namespace {
 
-/// Items of a record.
-enum Item {
-    NameItem,
-    TypeItem,
-    CountItem,
-    MissingItem,
-    MinimumItem,
-    MeanItem,
-    MaximumItem,
-    PlotItem,
-    HistogramItem,
-    TargetItem,
-    InsideItem,
-    ScaleItem,
-    RequiredItem
-};
-
 constexpr wchar_t kSection[] = L"Columns";
 constexpr wchar_t kNameColumn[] = L"Name";
 
@@ -109,7 +92,7 @@ BOOL ProfileGrid::CreateGrid(CWnd* parent, UINT id) {
 
 void ProfileGrid::AddColumns() {
     struct Layout {
-        Item item;
+        ProfileItem item;
         const wchar_t* name; // kept in saved layouts, never shown
         CString caption;
         int width; // pixels at 96 DPI

@@ -15,6 +15,23 @@
 
 class ShareItem;
 
+/// The items of a record, each of which has a column of the grid.
+enum ProfileItem {
+    NameItem,
+    TypeItem,
+    CountItem,
+    MissingItem,
+    MinimumItem,
+    MeanItem,
+    MaximumItem,
+    PlotItem,
+    HistogramItem,
+    TargetItem,
+    InsideItem,
+    ScaleItem,
+    RequiredItem
+};
+
 /// The name of a kind of column, as the user reads it.
 CString ColumnTypeText(csv::ColumnType type);
 

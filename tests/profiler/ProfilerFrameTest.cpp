@@ -21,23 +21,6 @@ using testing::ElementsAre;
 using testing::EndsWith;
 using testing::IsEmpty;
 
-/// Items of a record.
-enum Item {
-    NameItem,
-    TypeItem,
-    CountItem,
-    MissingItem,
-    MinimumItem,
-    MeanItem,
-    MaximumItem,
-    PlotItem,
-    HistogramItem,
-    TargetItem,
-    InsideItem,
-    ScaleItem,
-    RequiredItem
-};
-
 TEST_F(ProfilerFrameTest, WithoutAFileItSaysWhatToDo) {
     EXPECT_EQ(Title(), L"Column Profiler");
     EXPECT_EQ(Status(), L"Ready");

@@ -57,8 +57,6 @@ protected:
     void Sort(int item) { Grid().GetReportHeader()->Sort(Grid().GetColumns()->Find(item), FALSE); }
 };
 
-enum Item { NameItem = 0, TypeItem = 1, PlotItem = 7, HistogramItem = 8, TargetItem = 9, ScaleItem = 11 };
-
 // --- Filter ---------------------------------------------------------------------------------------------------------
 
 TEST_F(ProfilerRowsTest, TheFilterIsHiddenUntilItIsAskedFor) {

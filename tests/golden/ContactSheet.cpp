@@ -1,8 +1,9 @@
 // Shows the looks of the report control: contact_sheet FOLDER writes one picture for each theme, column style and
 // resolution, theme-THEME-style-STYLE-DPI.bmp, with the states that a grid can be in side by side. With --golden it
 // writes those that are kept as golden pictures: every theme and style at 96 dots per inch, each theme's own style at
-// 144, with letters whose edges are not smoothed, so that the colours of a picture fit into a palette. One picture
-// more, editing-DPI.bmp, shows open editors and the look of grids on dialogs.
+// 144, with letters whose edges are not smoothed, so that the colours of a picture fit into a palette. Two pictures
+// more: editing-DPI.bmp shows open editors and the look of grids on dialogs, previews-DPI.bmp preview texts in every
+// theme.
 //
 // Every picture is what real controls draw when real messages have brought them into these states.
 #include <XTToolkitPro.h>
@@ -211,6 +212,23 @@ void ShowDialogThemeWithoutDivider(Panel& panel) {
     panel.SelectRows(false);
 }
 
+/// Rows without and with a preview, one of them selected; the last one is cut off.
+void ShowPreviews(Panel& panel) {
+    panel.AddRows();
+    const wchar_t* const texts[] = {
+        L"A short one.",
+        L"Breeds on ice-free coasts; wrapped between words, and cut off where it needs more "
+        L"than three lines, as this one does, which goes on for a while.",
+        nullptr, L"Two\nlines", nullptr};
+    for (int i = 0; i < 5; ++i)
+        if (texts[i])
+            panel.Grid().GetRecords()->GetAt(i)->SetPreviewItem(new CXTPReportRecordItemPreview(texts[i]));
+    panel.Grid().EnablePreviewMode(TRUE);
+    panel.Look().UseAlternateRowBackground(TRUE);
+    panel.Grid().SetFocus();
+    panel.Grid().SetFocusedRow(panel.Grid().GetRows()->GetAt(0));
+}
+
 struct State {
     const wchar_t* name;
     void (*show)(Panel&);
@@ -221,18 +239,24 @@ constexpr State States[] = {{L"focus, sorted, hot", ShowFocus},
                             {L"disabled", ShowDisabled},
                             {L"empty", ShowEmpty}};
 
-/// What the picture of editing shows, each in the look of a theme.
-struct EditingState {
+/// What a picture shows in which the themes stand side by side.
+struct ThemedState {
     const wchar_t* name;
     int theme; ///< place in Themes
     void (*show)(Panel&);
 };
-constexpr EditingState EditingStates[] = {{L"editor, default", 0, ShowEditor},
-                                          {L"editor, Office 2013", 2, ShowEditor},
-                                          {L"editor, resource", 4, ShowEditor},
-                                          {L"dialog", 4, ShowDialogTheme},
-                                          {L"dialog, a divider hidden", 4, ShowDialogThemeWithoutDivider}};
+constexpr ThemedState EditingStates[] = {{L"editor, default", 0, ShowEditor},
+                                         {L"editor, Office 2013", 2, ShowEditor},
+                                         {L"editor, resource", 4, ShowEditor},
+                                         {L"dialog", 4, ShowDialogTheme},
+                                         {L"dialog, a divider hidden", 4, ShowDialogThemeWithoutDivider}};
+constexpr ThemedState PreviewStates[] = {{L"previews, default", 0, ShowPreviews},
+                                         {L"Office XP", 1, ShowPreviews},
+                                         {L"Office 2013", 2, ShowPreviews},
+                                         {L"Windows 7", 3, ShowPreviews},
+                                         {L"resource", 4, ShowPreviews}};
 static_assert(std::size(EditingStates) == std::size(States)); // the same strip
+static_assert(std::size(PreviewStates) == std::size(States));
 
 // --- Pictures -------------------------------------------------------------------------------------------------------
 
@@ -282,17 +306,18 @@ bool WritePicture(const Theme& theme, int style, int dpi, const std::wstring& fo
                             L"-" + std::to_wstring(dpi) + L".bmp");
 }
 
-bool WriteEditingPicture(int dpi, const std::wstring& folder) {
+template <class ThemedStates>
+bool WriteThemedPicture(const std::wstring& name, const ThemedStates& states, int dpi, const std::wstring& folder) {
     const Strip strip{dpi};
     DibCanvas canvas(strip.Size().cx, strip.Size().cy, RGB(205, 205, 205));
-    DrawLabels(canvas.Dc(), strip, EditingStates, std::wstring());
-    for (int i = 0; i < static_cast<int>(std::size(EditingStates)); ++i) {
-        const Theme& theme = Themes[EditingStates[i].theme];
+    DrawLabels(canvas.Dc(), strip, states, std::wstring());
+    for (int i = 0; i < static_cast<int>(std::size(states)); ++i) {
+        const Theme& theme = Themes[states[i].theme];
         Panel panel(theme, CXTPReportPaintManager(theme.theme).GetColumnStyle(), dpi);
-        EditingStates[i].show(panel);
+        states[i].show(panel);
         panel.DrawInto(canvas.Dc(), CPoint(strip.Left(i), strip.Top()));
     }
-    return Save(canvas, folder + L"\\editing-" + std::to_wstring(dpi) + L".bmp");
+    return Save(canvas, folder + L"\\" + name + L"-" + std::to_wstring(dpi) + L".bmp");
 }
 
 CWinApp theApp;
@@ -319,8 +344,10 @@ int main(int argc, char** argv) {
         }
     }
     for (const int dpi : Resolutions) {
-        if (!isGolden || dpi == 96)
-            isWhole = WriteEditingPicture(dpi, folder) && isWhole;
+        if (isGolden && dpi != 96)
+            continue;
+        isWhole = WriteThemedPicture(L"editing", EditingStates, dpi, folder) && isWhole;
+        isWhole = WriteThemedPicture(L"previews", PreviewStates, dpi, folder) && isWhole;
     }
     return isWhole ? 0 : 1;
 }

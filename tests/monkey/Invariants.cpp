@@ -31,7 +31,11 @@ void CheckRows(CXTPReportControl& grid) {
         Expect(grid.GetSelectedRows()->GetAt(selected - 1) != nullptr, "the last selected row is a row");
     Expect(grid.IsMultipleSelection() || selected <= 1, "a single selection holds one row at most");
     const int top = grid.GetTopRowIndex();
-    Expect(top >= 0 && top <= std::max(rows - grid.GetFullyVisibleRowCount(), 0), "the top row is in range");
+    Expect(top >= 0 && top <= std::max(rows - 1, 0), "the top row is a row");
+    // The rows from the one above it on would not all have room.
+    Expect(top == 0 ||
+               grid.GetRowRect(rows - 1).bottom > grid.GetReportRectangle().bottom - grid.GetRowRect(top - 1).Height(),
+           "the top row is in range");
     Expect(grid.IsVirtualMode() || rows <= grid.GetRecords()->GetCount(), "rows have records");
 }
 
@@ -70,12 +74,16 @@ void CheckCells(CXTPReportControl& grid) {
         const CXTPReportRow* row = grid.GetRows()->GetAt(i);
         const CRect rcRow = row->GetRect();
         // A view lower than a row shows a part of it.
+        const CRect rcPreview = row->GetPreviewRect();
+        Expect(rcPreview.IsRectEmpty() ||
+                   (rcPreview.top == row->GetCellsRect().bottom - 1 && rcPreview.bottom == rcRow.bottom - 1),
+               "a preview stands between the cells and the line below the row");
         Expect(rcRow.top >= rcReport.top && (rcRow.bottom <= rcReport.bottom || i == first), "rows lie in the view");
         const CXTPReportRecord* record = row->GetRecord();
         for (int item = 0; record && item < record->GetItemCount(); ++item) {
             const auto* plot = dynamic_cast<const KyPlotRecordItem*>(record->GetItem(item));
             const CRect rcItem = row->GetItemRect(record->GetItem(item));
-            Expect(rcItem.IsRectEmpty() || (rcItem.top == rcRow.top && rcItem.bottom == rcRow.bottom - 1),
+            Expect(rcItem.IsRectEmpty() || (rcItem.top == rcRow.top && rcItem.bottom == row->GetCellsRect().bottom - 1),
                    "cells lie in their rows");
             Expect(!plot || plotpeek::Drags(*plot) <= 1, "a plot has one dragged mark at most");
         }

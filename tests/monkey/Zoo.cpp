@@ -136,6 +136,7 @@ void Yard::CreateGrid(int index) {
         grid.AddColumn(column);
     }
     grid.AllowEdit(index != 0 || m_dice.OneIn(2));
+    grid.EnablePreviewMode(index != 2 && m_dice.OneIn(2));
     if (index == 2)
         grid.SetInplaceEdit(new KyInPlaceEdit);
     if (auto* chooser = dynamic_cast<KyReportControl*>(&grid))
@@ -195,6 +196,10 @@ CXTPReportRecord* Yard::MakeRecord(int index, int number) {
     });
     record->AddItem(plot);
     record->AddItem(new CXTPReportRecordItemText(_T("wide wide wide wide wide wide wide wide wide")));
+    if (number % 3 != 0)
+        record->SetPreviewItem(new CXTPReportRecordItemPreview(CString(_T("words below the cells "), number % 23) +
+                                                               CString(_T('x'), number % 50) +
+                                                               _T("\nand more\nof them")));
     return record;
 }
 
@@ -225,7 +230,7 @@ void Yard::DoMischief(int index) {
     m_isInMischief = true;
     ++m_heard.mischief;
     CXTPReportControl& grid = *m_grids[index];
-    switch (m_dice.Below(14)) {
+    switch (m_dice.Below(15)) {
     case 0:
         m_grids[index].reset();
         break;
@@ -266,6 +271,9 @@ void Yard::DoMischief(int index) {
         break;
     case 12:
         EditSomething(grid);
+        break;
+    case 13:
+        grid.EnablePreviewMode(!grid.IsPreviewMode());
         break;
     default:
         ::MessageBox(m_hWnd, _T("mischief"), _T("Yard"), MB_OK);

@@ -11,16 +11,16 @@ namespace {
 
 // --- Rows ------------------------------------------------------------------------------------------------------------
 
-TEST(UniformRows, AViewOf105PixelsShowsFiveWholeRowsOf20AndOneCutOff) {
-    const UniformRows rows(100, 20, 105);
-    EXPECT_EQ(rows.FullyVisibleCount(), 5);
+TEST(RowsOfOneHeight, AViewOf105PixelsShowsFiveWholeRowsOf20AndOneCutOff) {
+    const StackedRows rows(100, 20, 105);
+    EXPECT_EQ(rows.FullyVisibleCount(0), 5);
     EXPECT_EQ(rows.VisibleRows(0), (IndexRange{0, 5}));
     EXPECT_EQ(rows.VisibleRows(10), (IndexRange{10, 15}));
     EXPECT_EQ(rows.TotalHeight(), 2000);
 }
 
-TEST(UniformRows, TheLastPageShowsTheLastRowWhole) {
-    const UniformRows rows(100, 20, 105);
+TEST(RowsOfOneHeight, TheLastPageShowsTheLastRowWhole) {
+    const StackedRows rows(100, 20, 105);
     EXPECT_EQ(rows.MaxTopRow(), 95);
     EXPECT_EQ(rows.VisibleRows(95), (IndexRange{95, 99}));
     EXPECT_EQ(rows.ClampTopRow(96), 95);
@@ -28,22 +28,22 @@ TEST(UniformRows, TheLastPageShowsTheLastRowWhole) {
     EXPECT_EQ(rows.ClampTopRow(std::numeric_limits<std::int64_t>::max()), 95);
 }
 
-TEST(UniformRows, FewerRowsThanThePageDoNotScroll) {
-    const UniformRows rows(3, 20, 105);
+TEST(RowsOfOneHeight, FewerRowsThanThePageDoNotScroll) {
+    const StackedRows rows(3, 20, 105);
     EXPECT_EQ(rows.MaxTopRow(), 0);
     EXPECT_EQ(rows.VisibleRows(0), (IndexRange{0, 2}));
 }
 
-TEST(UniformRows, AViewLowerThanARowStillPagesByOne) {
-    const UniformRows rows(100, 20, 7);
-    EXPECT_EQ(rows.FullyVisibleCount(), 1);
+TEST(RowsOfOneHeight, AViewLowerThanARowStillPagesByOne) {
+    const StackedRows rows(100, 20, 7);
+    EXPECT_EQ(rows.FullyVisibleCount(0), 1);
     EXPECT_EQ(rows.MaxTopRow(), 99);
     EXPECT_EQ(rows.NextRow(RowMove::PageDown, 4, 4), 5);
     EXPECT_EQ(rows.NextRow(RowMove::PageUp, 4, 4), 3);
 }
 
-TEST(UniformRows, APointMeansTheRowItLiesIn) {
-    const UniformRows rows(100, 20, 105);
+TEST(RowsOfOneHeight, APointMeansTheRowItLiesIn) {
+    const StackedRows rows(100, 20, 105);
     EXPECT_EQ(rows.RowAt(10, 0), 10);
     EXPECT_EQ(rows.RowAt(10, 19), 10);
     EXPECT_EQ(rows.RowAt(10, 20), 11);
@@ -52,29 +52,29 @@ TEST(UniformRows, APointMeansTheRowItLiesIn) {
     EXPECT_EQ(rows.RowAt(95, 100), -1);
 }
 
-TEST(UniformRows, APointBeyondTheRowsMeansTheNearestOne) {
-    const UniformRows rows(100, 20, 105);
+TEST(RowsOfOneHeight, APointBeyondTheRowsMeansTheNearestOne) {
+    const StackedRows rows(100, 20, 105);
     EXPECT_EQ(rows.NearestRow(10, -1), 9);
     EXPECT_EQ(rows.NearestRow(10, -20), 9);
     EXPECT_EQ(rows.NearestRow(10, -21), 8);
     EXPECT_EQ(rows.NearestRow(0, -500), 0);
     EXPECT_EQ(rows.NearestRow(95, 5000), 99);
-    EXPECT_EQ(UniformRows(0, 20, 105).NearestRow(0, 5), -1);
+    EXPECT_EQ(StackedRows(0, 20, 105).NearestRow(0, 5), -1);
 }
 
-TEST(UniformRows, ABandMeetsOnlyTheRowsItTouches) {
-    const UniformRows rows(100, 20, 105);
+TEST(RowsOfOneHeight, ABandMeetsOnlyTheRowsItTouches) {
+    const StackedRows rows(100, 20, 105);
     EXPECT_EQ(rows.RowsInBand(10, 20, 40), (IndexRange{11, 11}));
     EXPECT_EQ(rows.RowsInBand(10, 19, 41), (IndexRange{10, 12}));
     EXPECT_EQ(rows.RowsInBand(10, -50, 1), (IndexRange{10, 10}));
     EXPECT_TRUE(rows.RowsInBand(10, 40, 40).IsEmpty());
     EXPECT_TRUE(rows.RowsInBand(10, 105, 200).IsEmpty());
     EXPECT_TRUE(rows.RowsInBand(95, 100, 105).IsEmpty());
-    EXPECT_TRUE(UniformRows(0, 20, 105).VisibleRows(0).IsEmpty());
+    EXPECT_TRUE(StackedRows(0, 20, 105).VisibleRows(0).IsEmpty());
 }
 
-TEST(UniformRows, ShowingARowScrollsAsLittleAsPossible) {
-    const UniformRows rows(100, 20, 105);
+TEST(RowsOfOneHeight, ShowingARowScrollsAsLittleAsPossible) {
+    const StackedRows rows(100, 20, 105);
     EXPECT_EQ(rows.TopRowToShow(10, 12), 10);
     EXPECT_EQ(rows.TopRowToShow(10, 14), 10);
     EXPECT_EQ(rows.TopRowToShow(10, 15), 11) << "the sixth row of the view is cut off";
@@ -84,14 +84,15 @@ TEST(UniformRows, ShowingARowScrollsAsLittleAsPossible) {
     EXPECT_EQ(rows.TopRowToShow(10, 100), 10);
 }
 
-TEST(UniformRows, TwoBillionRowsAreReachedToTheLast) {
+TEST(RowsOfOneHeight, TwoBillionRowsAreReachedToTheLast) {
     const int count = std::numeric_limits<int>::max();
-    const UniformRows rows(count, 20, 105);
+    const StackedRows rows(count, 20, 105);
     EXPECT_EQ(rows.TotalHeight(), static_cast<std::int64_t>(count) * 20);
     EXPECT_EQ(rows.MaxTopRow(), count - 5);
     EXPECT_EQ(rows.VisibleRows(count - 5), (IndexRange{count - 5, count - 1}));
     EXPECT_EQ(rows.RowAt(count - 5, 99), count - 1);
     EXPECT_EQ(rows.RowAt(count - 5, 100), -1);
+    EXPECT_EQ(rows.PageAbove(count - 5), count - 10);
     EXPECT_EQ(rows.RowTop(count - 5, count - 1), 80);
     EXPECT_EQ(rows.NextRow(RowMove::PageDown, count - 2, count - 6), count - 1);
     EXPECT_EQ(rows.NextRow(RowMove::End, 0, 0), count - 1);
@@ -99,8 +100,8 @@ TEST(UniformRows, TwoBillionRowsAreReachedToTheLast) {
     EXPECT_LT(rows.RowTop(count - 5, 0), -100000000);
 }
 
-TEST(UniformRows, ArrowsMoveByOneAndStopAtTheEnds) {
-    const UniformRows rows(100, 20, 105);
+TEST(RowsOfOneHeight, ArrowsMoveByOneAndStopAtTheEnds) {
+    const StackedRows rows(100, 20, 105);
     EXPECT_EQ(rows.NextRow(RowMove::Down, 7, 5), 8);
     EXPECT_EQ(rows.NextRow(RowMove::Up, 7, 5), 6);
     EXPECT_EQ(rows.NextRow(RowMove::Up, 0, 0), 0);
@@ -109,8 +110,8 @@ TEST(UniformRows, ArrowsMoveByOneAndStopAtTheEnds) {
     EXPECT_EQ(rows.NextRow(RowMove::End, 50, 48), 99);
 }
 
-TEST(UniformRows, PageKeysGoToTheEndOfThePageFirst) {
-    const UniformRows rows(100, 20, 105);
+TEST(RowsOfOneHeight, PageKeysGoToTheEndOfThePageFirst) {
+    const StackedRows rows(100, 20, 105);
     EXPECT_EQ(rows.NextRow(RowMove::PageDown, 10, 10), 14);
     EXPECT_EQ(rows.NextRow(RowMove::PageDown, 14, 10), 18);
     EXPECT_EQ(rows.NextRow(RowMove::PageUp, 14, 10), 10);
@@ -119,11 +120,11 @@ TEST(UniformRows, PageKeysGoToTheEndOfThePageFirst) {
     EXPECT_EQ(rows.NextRow(RowMove::PageDown, 98, 95), 99);
 }
 
-TEST(UniformRows, WithoutAFocusTheKeysBeginAtTheFirstRow) {
-    const UniformRows rows(100, 20, 105);
+TEST(RowsOfOneHeight, WithoutAFocusTheKeysBeginAtTheFirstRow) {
+    const StackedRows rows(100, 20, 105);
     EXPECT_EQ(rows.NextRow(RowMove::Down, -1, 0), 0);
     EXPECT_EQ(rows.NextRow(RowMove::Up, -1, 0), 0);
-    EXPECT_EQ(UniformRows(0, 20, 105).NextRow(RowMove::Down, -1, 0), -1);
+    EXPECT_EQ(StackedRows(0, 20, 105).NextRow(RowMove::Down, -1, 0), -1);
 }
 
 // --- Columns ---------------------------------------------------------------------------------------------------------

@@ -38,6 +38,37 @@ CXTPReportRecord* NewRecord(LPCTSTR text) {
 
 CString TextOf(const CXTPReportRecord& record, int item = 0) { return record.GetItem(item)->GetCaption(nullptr); }
 
+// --- Preview ---------------------------------------------------------------------------------------------------------
+
+TEST(RecordExchange, ARecordWithoutAPreviewWritesNothingOfIt) {
+    const std::unique_ptr<CXTPReportRecord> record(NewRecord(_T("a")));
+    EXPECT_EQ(Written(*record).Find(_T("Preview")), -1);
+}
+
+TEST(RecordExchange, ARecordReadsThePreviewThatItHasWritten) {
+    const std::unique_ptr<CXTPReportRecord> record(NewRecord(_T("a"))), read(NewRecord(_T("b")));
+    record->SetPreviewItem(new CXTPReportRecordItemPreview(_T("below\nthe cells")));
+    record->GetItemPreview()->SetTextColor(RGB(1, 2, 3));
+    read->SetPreviewItem(new CXTPReportRecordItemPreview(_T("former")));
+    Read(Written(*record), *read);
+    ASSERT_NE(read->GetItemPreview(), nullptr);
+    EXPECT_STREQ(read->GetItemPreview()->GetPreviewText(), _T("below\nthe cells"));
+    EXPECT_EQ(read->GetItemPreview()->GetTextColor(), RGB(1, 2, 3));
+    EXPECT_EQ(read->GetItemPreview()->GetRecord(), read.get());
+    EXPECT_EQ(read->GetItemCount(), 1) << "it is no cell";
+
+    const std::unique_ptr<CXTPReportRecord> plain(NewRecord(_T("c")));
+    Read(Written(*plain), *read);
+    EXPECT_EQ(read->GetItemPreview(), nullptr) << "the former one goes";
+}
+
+TEST(RecordExchange, APreviewOfAClassThatNobodyCanMakeBecomesAPlainOne) {
+    CXTPReportRecord read;
+    Read(_T("<Root><Preview ClassName=\"CXTPReportRecord\" Text=\"t\"/></Root>"), read);
+    ASSERT_NE(read.GetItemPreview(), nullptr);
+    EXPECT_STREQ(read.GetItemPreview()->GetPreviewText(), _T("t"));
+}
+
 // --- Items -----------------------------------------------------------------------------------------------------------
 
 TEST(RecordExchange, APlainItemWritesNothingButItsValue) {

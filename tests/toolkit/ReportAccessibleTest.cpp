@@ -205,6 +205,15 @@ TEST_F(AccessibleTest, ARowIsReadInOneGo) {
     m_grid.Populate();
     EXPECT_EQ(Name(Row(2)), L"only");
     EXPECT_EQ(Text(Row(2), &IAccessible::get_accDescription), L"B: only");
+    m_grid.GetRecords()->GetAt(2)->SetPreviewItem(new CXTPReportRecordItemPreview(_T(" below\n")));
+    EXPECT_EQ(Text(Row(2), &IAccessible::get_accDescription), L"B: only") << "not in preview mode";
+    m_grid.EnablePreviewMode(TRUE);
+    EXPECT_EQ(Text(Row(2), &IAccessible::get_accDescription), L"B: only; below");
+    m_grid.Populate();
+    const CXTPReportRow* const high = m_grid.GetRows()->GetAt(2);
+    ASSERT_GT(high->GetRect().Height(), RowHeight());
+    EXPECT_EQ(Location(Row(2)), OnScreenRect(high->GetRect()));
+    EXPECT_EQ(Location(Row(2), 1).Height(), RowHeight()) << "a cell ends above the preview";
     EXPECT_EQ(Value(Row(2), 1), L"(none)");
     EXPECT_EQ(Value(Row(2), 3), L"(none)") << "the record has no such cell";
     EXPECT_EQ(Name(Row(2), 3), L"C");

@@ -350,6 +350,7 @@ TEST_P(ContrastTest, HighContrastReplacesEveryColourByOneOfTheSystem) {
     for (const CXTPPaintManagerColor& window : {look.m_clrWindow, look.m_clrAlternateRow, look.m_clrDisabledWindow})
         EXPECT_EQ(COLORREF(window), system(COLOR_WINDOW));
     EXPECT_EQ(COLORREF(look.m_clrWindowText), system(COLOR_WINDOWTEXT));
+    EXPECT_EQ(COLORREF(look.m_clrPreviewText), system(COLOR_WINDOWTEXT));
     EXPECT_EQ(COLORREF(look.m_clrDisabledText), system(COLOR_GRAYTEXT));
     EXPECT_EQ(COLORREF(look.m_clrGridLine), system(COLOR_BTNSHADOW));
     EXPECT_EQ(COLORREF(look.m_clrHyperlink), system(COLOR_HOTLIGHT));

@@ -29,6 +29,7 @@
 #include "../report/CXTPReportRecord.h"
 #include "../report/CXTPReportRecordItem.h"
 #include "../report/CXTPReportRecordItemNumber.h"
+#include "../report/CXTPReportRecordItemPreview.h"
 #include "../report/CXTPReportRecordItemText.h"
 #include "../report/CXTPReportRecords.h"
 #include "../report/CXTPReportRow.h"

@@ -8,6 +8,7 @@
 #include "../../framework/windows/WindowDpi.h"
 
 #include <algorithm>
+#include <new>
 
 // Windows 8.1 and 10 send these.
 #ifndef WM_DPICHANGED
@@ -181,6 +182,11 @@ void CXTPReportControl::OnRowsChanged(int nFirst, int nRemoved, int nInserted) {
             return nRow + nInserted - nRemoved;
         return std::min(nRow, nFirst);
     };
+    try {
+        m_impl->SplicePreviews(nFirst, nRemoved, nInserted);
+    } catch (const std::bad_alloc&) {
+        // The rows have the plain height until the next Populate.
+    }
     // A removed row hands the focus to the one that takes its place, so that the keyboard goes on from there.
     m_impl->focusedRow = std::min(moved(m_impl->focusedRow), m_impl->rows->GetCount() - 1);
     // Rows that come in at the top stand in view; those that come in above it move nothing.
@@ -191,6 +197,7 @@ void CXTPReportControl::OnRowsChanged(int nFirst, int nRemoved, int nInserted) {
 }
 
 void CXTPReportControl::OnRowsCleared() {
+    m_impl->previews.Clear();
     m_impl->focusedRow = -1;
     m_impl->topRow = m_impl->chosenTopRow = 0;
     m_impl->wantedRow = -1;

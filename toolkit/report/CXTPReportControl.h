@@ -54,9 +54,10 @@
 ///
 /// Drawing. Only damaged cells are drawn. Scrolling moves the pixels of the rows that stay; an item whose pixels were
 /// moved is drawn again before the mouse meets it, so that it may keep the rectangle of its last drawing. Rows have one
-/// height. `OnSelectionChanged` runs once per action of the user, and when the host focuses a row with its selection,
-/// not when the host changes `GetSelectedRows` or populates. Notifications (XTPReportDefines.h) are sent after what
-/// they tell of; the owner may change the content in them, and destroy the control.
+/// height, unless they show previews; scrolling goes by rows, whatever their heights. `OnSelectionChanged` runs once
+/// per action of the user, and when the host focuses a row with its selection, not when the host changes
+/// `GetSelectedRows` or populates. Notifications (XTPReportDefines.h) are sent after what they tell of; the owner may
+/// change the content in them, and destroy the control.
 ///
 /// Resolution. Fonts, heights, paddings and column widths are pixels at the resolution of the paint manager, which is
 /// that of the window's monitor. It follows what the system tells child windows; a parent on a system that tells only
@@ -119,8 +120,23 @@ public:
     /// this.
     virtual CString GetText(XTPReportText text) const;
 
+    // --- Previews -----------------------------------------------------------------------------------------------
+    /// Whether records show their preview text below their cells, see `CXTPReportRecord::SetPreviewItem`; FALSE at
+    /// first. Such a row is as high as its text needs in the width of the view, up to `GetMaxPreviewLines` lines of the
+    /// paint manager; a row without a text keeps the plain height. The texts are read at `Populate`: one that is
+    /// changed shows at the next redraw in the room that there is. In virtual mode there are no previews.
+    void EnablePreviewMode(BOOL bEnable);
+    BOOL IsPreviewMode() const; ///< see `EnablePreviewMode`
+    /// The width into which preview texts are wrapped, pixels: that of the view between the indent and a vertical
+    /// scroll bar. The room for the bar is kept free without one as well, so that its coming changes no row. 0 without
+    /// a window.
+    int GetPreviewWidth() const;
+
     // --- Places -------------------------------------------------------------------------------------------------
-    CRect GetReportRectangle() const;           ///< where rows are shown
+    CRect GetReportRectangle() const; ///< where rows are shown
+    /// Where the row stands, over the full width of the report area; may lie outside the visible part. Empty when there
+    /// is no such row.
+    CRect GetRowRect(int nRowIndex) const;
     CRect GetHeaderRect() const;                ///< where the header is shown
     CXTPReportRow* HitTest(CPoint pt) const;    ///< the row under the point; null if none
     XTPReportMouseMode GetMouseMode() const;    ///< xtpReportMouseNothing while no gesture is under way
@@ -155,7 +171,8 @@ public:
     /// Scrolls as little as needed; without a window, as soon as there is room for rows. Null and rows that were taken
     /// out change nothing.
     void EnsureVisible(CXTPReportRow* pRow);
-    int GetFullyVisibleRowCount() const; ///< whole rows that fit, at least 1
+    /// Whole rows that fit from the top row on, at least 1; room below the last row counts as rows of the plain height.
+    int GetFullyVisibleRowCount() const;
 
     // --- Drawing -----------------------------------------------------------------------------------------------------
     /// Asks for a redraw of everything; requests coalesce. From a cell that is being dragged, its row is redrawn with

@@ -21,7 +21,7 @@ bool IsOrStandsBelow(const CXTPReportRecord* record, const CXTPReportRecord* oth
 } // namespace
 
 CRect CellRect(const CXTPReportRow& row, const CXTPReportColumn& column) {
-    const CRect rcRow = row.GetRect(), rcColumn = column.GetRect();
+    const CRect rcRow = row.GetCellsRect(), rcColumn = column.GetRect();
     if (!row.GetControl() || !column.IsVisible())
         return CRect();
     const int right = std::max<int>(rcColumn.right - 1, rcColumn.left);

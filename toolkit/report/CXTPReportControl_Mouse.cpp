@@ -220,7 +220,7 @@ void CXTPReportControl::Impl::TrackRowSelection(CPoint point, bool isCaptured) {
 
 void CXTPReportControl::Impl::SelectDraggedRows(CPoint point) {
     const CRect rcReport = control.GetReportRectangle();
-    const gridgeometry::UniformRows grid = RowGrid();
+    const gridgeometry::StackedRows grid = RowGrid();
     // Rows outside the view are reached by scrolling.
     const int y = std::clamp<int>(point.y - rcReport.top, 0, std::max(rcReport.Height() - 1, 0));
     const int row = grid.NearestRow(topRow, y);

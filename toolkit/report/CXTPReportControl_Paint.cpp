@@ -120,7 +120,7 @@ bool CXTPReportControl::Impl::InvalidateRows(gridgeometry::IndexRange range) con
     if (!control.m_hWnd)
         return false;
     const CRect rcReport = control.GetReportRectangle();
-    const gridgeometry::UniformRows grid = RowGrid();
+    const gridgeometry::StackedRows grid = RowGrid();
     const gridgeometry::IndexRange visible = grid.VisibleRows(topRow);
     const int first = std::max(range.first, visible.first);
     const int last = std::min(range.last, visible.last);
@@ -128,7 +128,7 @@ bool CXTPReportControl::Impl::InvalidateRows(gridgeometry::IndexRange range) con
         return false;
     CRect rcRows(rcReport);
     rcRows.top = rcReport.top + grid.RowTop(topRow, first);
-    rcRows.bottom = rcReport.top + grid.RowTop(topRow, last) + grid.RowHeight();
+    rcRows.bottom = rcReport.top + grid.RowTop(topRow, last + 1);
     rcRows.IntersectRect(&rcRows, &rcReport);
     control.InvalidateRect(&rcRows, FALSE);
     return true;
@@ -210,12 +210,12 @@ void CXTPReportControl::Impl::DrawRows(CDC* dc, const CRect& rcDirty) {
     CRect rcDraw;
     if (!rcDraw.IntersectRect(&rcDirty, &rcReport))
         return;
-    const gridgeometry::UniformRows grid = RowGrid();
+    const gridgeometry::StackedRows grid = RowGrid();
     const gridgeometry::IndexRange dirty =
         grid.RowsInBand(topRow, rcDraw.top - rcReport.top, rcDraw.bottom - rcReport.top);
     for (int index = dirty.first; index <= dirty.last; ++index) {
         const int top = rcReport.top + grid.RowTop(topRow, index);
-        const CRect rcRow(rcReport.left, top, rcReport.right, top + grid.RowHeight());
+        const CRect rcRow(rcReport.left, top, rcReport.right, rcReport.top + grid.RowTop(topRow, index + 1));
         if (CXTPReportRow* row = rows->GetAt(index))
             row->Draw(dc, rcRow, rcDraw);
     }

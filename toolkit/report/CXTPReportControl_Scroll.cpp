@@ -39,9 +39,20 @@ CRect CXTPReportControl::GetReportRectangle() const {
     return CRect(0, top, rcClient.right, std::max<int>(rcClient.bottom, top));
 }
 
-gridgeometry::UniformRows CXTPReportControl::Impl::RowGrid() const {
-    return gridgeometry::UniformRows(rows->GetCount(), paintManager->GetRowHeight(),
-                                     control.GetReportRectangle().Height());
+gridgeometry::StackedRows CXTPReportControl::Impl::RowGrid() const {
+    const int viewHeight = control.GetReportRectangle().Height();
+    const bool isOneHeight = !previews.HasPreviews() || previews.Heights().Count() != rows->GetCount();
+    return isOneHeight ? gridgeometry::StackedRows(rows->GetCount(), paintManager->GetRowHeight(), viewHeight)
+                       : gridgeometry::StackedRows(previews.Heights(), viewHeight);
+}
+
+CRect CXTPReportControl::GetRowRect(int nRowIndex) const {
+    const gridgeometry::StackedRows grid = m_impl->RowGrid();
+    if (nRowIndex < 0 || nRowIndex >= grid.Count())
+        return CRect();
+    const CRect rcReport = GetReportRectangle();
+    return CRect(rcReport.left, rcReport.top + grid.RowTop(m_impl->topRow, nRowIndex), rcReport.right,
+                 rcReport.top + grid.RowTop(m_impl->topRow, nRowIndex + 1));
 }
 
 int CXTPReportControl::Impl::RowAt(CPoint point) const {
@@ -53,7 +64,7 @@ CXTPReportRow* CXTPReportControl::HitTest(CPoint pt) const { return m_impl->rows
 
 int CXTPReportControl::GetTopRowIndex() const { return m_impl->topRow; }
 int CXTPReportControl::GetLeftOffset() const { return m_impl->leftOffset; }
-int CXTPReportControl::GetFullyVisibleRowCount() const { return m_impl->RowGrid().FullyVisibleCount(); }
+int CXTPReportControl::GetFullyVisibleRowCount() const { return m_impl->RowGrid().FullyVisibleCount(m_impl->topRow); }
 
 // --- Layout ---------------------------------------------------------------------------------------------------------
 
@@ -71,6 +82,7 @@ void CXTPReportControl::Impl::LayOut() {
         bool& isLayingOut;
         ~End() { isLayingOut = false; }
     } end{isLayingOut};
+    WrapPreviews();
     FitBars();
     topRow = RowGrid().ClampTopRow(chosenTopRow);
     leftOffset = gridgeometry::ClampLeftOffset(chosenLeftOffset.At(paintManager->GetDpi()), header->GetTotalWidth(),
@@ -109,12 +121,13 @@ void CXTPReportControl::Impl::FitBars() {
 void CXTPReportControl::Impl::UpdateThumbs() {
     if (!control.m_hWnd)
         return;
-    const gridgeometry::UniformRows grid = RowGrid();
+    const gridgeometry::StackedRows grid = RowGrid();
     barScaleV = 0;
     while ((grid.Count() >> barScaleV) > MaxBarRange)
         ++barScaleV;
-    // With MaxTopRow as the largest position that the thumb can reach, whatever the scale.
-    const int page = std::max(grid.FullyVisibleCount() >> barScaleV, 1);
+    // With MaxTopRow as the largest position that the thumb can reach, whatever the scale. The page is the last one, so
+    // that the thumb keeps its size while rows of several heights pass.
+    const int page = std::max((grid.Count() - grid.MaxTopRow()) >> barScaleV, 1);
     UpdateBar(SB_VERT, barV, {barV.isShown, (grid.MaxTopRow() >> barScaleV) + page - 1, page, topRow >> barScaleV});
     const int viewWidth = ClientRect().Width();
     UpdateBar(SB_HORZ, barH, {barH.isShown, std::max(header->GetTotalWidth() - 1, 0), viewWidth, leftOffset});
@@ -185,7 +198,7 @@ void CXTPReportControl::Impl::ScrollRowsTo(std::int64_t top) {
 
 void CXTPReportControl::Impl::MoveRowPixels(int formerTop) {
     const CRect rcReport = control.GetReportRectangle();
-    const gridgeometry::UniformRows grid = RowGrid();
+    const gridgeometry::StackedRows grid = RowGrid();
     const gridgeometry::IndexRange before = grid.VisibleRows(formerTop);
     const gridgeometry::IndexRange now = grid.VisibleRows(topRow);
     const int first = std::max(before.first, now.first);
@@ -199,7 +212,7 @@ void CXTPReportControl::Impl::MoveRowPixels(int formerTop) {
             control.UpdateWindow();
         return;
     }
-    const int dy = (formerTop - topRow) * grid.RowHeight(); // less than a page, as some rows stay
+    const int dy = grid.RowTop(topRow, formerTop); // less than a page, as some rows stay
     control.ScrollWindowEx(0, dy, &rcReport, &rcReport, nullptr, nullptr, SW_INVALIDATE);
     movedRows.Add(first, last);
     // The row that has come under the pointer may be pressed next.
@@ -266,9 +279,10 @@ void CXTPReportControl::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBa
     }
     if (!m_impl->FinishEdit())
         return;
-    const gridgeometry::UniformRows grid = m_impl->RowGrid();
-    m_impl->ScrollRowsTo(
-        m_impl->ScrollTarget(SB_VERT, nSBCode, nPos, m_impl->topRow, 1, grid.FullyVisibleCount(), grid.MaxTopRow()));
+    const gridgeometry::StackedRows grid = m_impl->RowGrid();
+    const int top = m_impl->topRow;
+    const int page = nSBCode == SB_PAGEUP ? static_cast<int>(top - grid.PageAbove(top)) : grid.FullyVisibleCount(top);
+    m_impl->ScrollRowsTo(m_impl->ScrollTarget(SB_VERT, nSBCode, nPos, top, 1, page, grid.MaxTopRow()));
 }
 
 void CXTPReportControl::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar) {
@@ -293,12 +307,12 @@ BOOL CXTPReportControl::OnMouseWheel(UINT nFlags, short zDelta, CPoint pt) {
         m_impl->ScrollSidewaysTo(m_impl->leftOffset + m_impl->wheelH.Turn(zDelta, 1) * m_impl->SidewaysStep());
         return TRUE;
     }
-    const gridgeometry::UniformRows grid = m_impl->RowGrid();
+    const gridgeometry::StackedRows grid = m_impl->RowGrid();
     if (grid.MaxTopRow() == 0)
         return CWnd::OnMouseWheel(nFlags, zDelta, pt); // a parent may have something to scroll
     UINT lines = 3;
     ::SystemParametersInfo(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
-    const int perNotch = static_cast<int>(std::min<UINT>(lines, static_cast<UINT>(grid.FullyVisibleCount())));
+    const int perNotch = static_cast<int>(std::min<UINT>(lines, static_cast<UINT>(GetFullyVisibleRowCount())));
     m_impl->ScrollRowsTo(std::int64_t{m_impl->topRow} + m_impl->wheelV.Turn(zDelta, perNotch));
     return TRUE;
 }

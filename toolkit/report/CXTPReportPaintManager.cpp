@@ -4,7 +4,9 @@
 #include "CXTPReportControl.h"
 #include "CXTPReportRecordItem.h"
 #include "CXTPReportRow.h"
+#include "PreviewRows.h"
 #include "ReportLook.h"
+#include "TextWrap.h"
 
 #include "../../framework/gdi/SelectGuard.h"
 #include "../../framework/windows/WindowDpi.h"
@@ -31,6 +33,7 @@ constexpr ColorMember RoleMembers[] = {
     &CXTPReportPaintManager::m_clrFocusFrame,
     &CXTPReportPaintManager::m_clrGridLine,
     &CXTPReportPaintManager::m_clrHyperlink,
+    &CXTPReportPaintManager::m_clrPreviewText,
     &CXTPReportPaintManager::m_clrDropMark,
     &CXTPReportPaintManager::m_clrGroupRow,
     &CXTPReportPaintManager::m_clrGroupRowText,
@@ -59,6 +62,7 @@ static_assert(std::size(RoleMembers) == static_cast<std::size_t>(reportlook::Rol
 // Lengths at 96 DPI.
 constexpr int NoItemTextTop = 16;
 constexpr int FocusFrameWidth = 1;
+constexpr int PreviewIndent = 20;
 
 /// The user's font for message texts; 9 point Segoe UI when the system does not tell.
 LOGFONT SystemTextFont(int dpi) {
@@ -135,6 +139,14 @@ void CXTPReportPaintManager::MeasureFont() {
     m_nTextHeight = text.tmHeight;
     m_nTextAscent = text.tmAscent;
     m_nCellPadding = ScaleForDpi(metrics.cellPadding);
+    m_nPreviewSpacing = ScaleForDpi(metrics.rowSpacing);
+    m_charWidths = std::make_shared<textwrap::CharWidths>([this](int first, textwrap::CharWidths::Page& page) {
+        CClientDC screen(nullptr);
+        const SelectGuard selected(screen, m_fontText);
+        page.fill(m_nTextHeight / 2); // should the font not tell
+        ::GetCharWidth32(screen, static_cast<UINT>(first),
+                         static_cast<UINT>(first + textwrap::CharWidths::PageSize - 1), page.data());
+    });
     m_nTextRowHeight = m_nTextHeight + 2 * ScaleForDpi(metrics.rowSpacing) + 1;
     m_nHeaderHeight = m_nTextHeight + 2 * ScaleForDpi(metrics.headerSpacing) + 1;
 }
@@ -159,6 +171,16 @@ void CXTPReportPaintManager::SetRowHeight(int nHeight) { m_rowHeight = {std::max
 
 int CXTPReportPaintManager::GetHeaderHeight() const { return m_nHeaderHeight; }
 
+int CXTPReportPaintManager::GetPreviewHeight(int nLines) const {
+    return nLines > 0 ? nLines * m_nTextHeight + m_nPreviewSpacing : 0;
+}
+
+int CXTPReportPaintManager::GetPreviewIndent() const { return ScaleForDpi(PreviewIndent); }
+
+void CXTPReportPaintManager::SetMaxPreviewLines(int nLines) {
+    m_nPreviewLines = std::clamp(nLines, 1, MostPreviewLines);
+}
+
 void CXTPReportPaintManager::SetTextFont(const LOGFONT& lf) {
     m_lfHost = lf;
     m_nHostFontDpi = m_nDpi;
@@ -173,6 +195,7 @@ void CXTPReportPaintManager::TakeOver(const CXTPReportPaintManager& former) {
     m_gridHorizontal = former.m_gridHorizontal;
     m_bAlternateRows = former.m_bAlternateRows;
     m_strNoItems = former.m_strNoItems;
+    m_nPreviewLines = former.m_nPreviewLines;
     m_bHostFont = former.m_bHostFont;
     m_lfHost = former.m_lfHost;
     m_nHostFontDpi = former.m_nHostFontDpi;
@@ -347,6 +370,32 @@ void CXTPReportPaintManager::DrawLinkedText(CDC* pDC, const XTP_REPORTRECORDITEM
     for (int i = 0; i < pItem->GetHyperlinksCount(); ++i)
         pDC->ExcludeClipRect(pItem->GetHyperlinkAt(i)->m_rcHyperSpot);
     DrawTextLine(pDC, strText, rcText, nAlignment);
+}
+
+void CXTPReportPaintManager::DrawPreviewText(XTP_REPORTRECORDITEM_DRAWARGS* pDrawArgs,
+                                             XTP_REPORTRECORDITEM_METRICS* pMetrics) {
+    CDC* pDC = pDrawArgs->pDC;
+    const int most = std::min(m_nPreviewLines, pDrawArgs->rcItem.Height() / std::max(m_nTextHeight, 1));
+    const CString strText = pMetrics->strText.Left(static_cast<int>(PreviewRows::MostCharacters));
+    const std::wstring_view text(strText.GetString(), static_cast<std::size_t>(strText.GetLength()));
+    TextStateGuard state(*pDC);
+    state.UseFont(pMetrics->pFont);
+    pDC->SetBkMode(TRANSPARENT);
+    CRect rcLine(pDrawArgs->rcItem);
+    rcLine.bottom = rcLine.top + m_nTextHeight;
+    const std::vector<textwrap::Line> lines =
+        textwrap::Wrapper(*m_charWidths).Break(text, pDrawArgs->rcItem.Width(), most + 1);
+    for (int i = 0; i < std::min(static_cast<int>(lines.size()), most); ++i) {
+        const textwrap::Line& line = lines[static_cast<std::size_t>(i)];
+        const bool isCut = i == most - 1 && static_cast<int>(lines.size()) > most;
+        // The line that ends with an ellipsis goes on with what would stand below it.
+        CString strLine = isCut ? strText.Mid(line.first) : strText.Mid(line.first, line.length);
+        strLine.Replace(_T('\n'), _T(' '));
+        strLine.Replace(_T('\r'), _T(' '));
+        strLine.Replace(_T('\t'), _T(' '));
+        DrawTextLine(pDC, strLine, rcLine, pMetrics->nColumnAlignment);
+        rcLine.OffsetRect(0, m_nTextHeight);
+    }
 }
 
 void CXTPReportPaintManager::DrawFocusedRow(CDC* pDC, const CRect& rcRow) {

@@ -5,8 +5,13 @@
 #include "DpiLength.h"
 #include "XTPReportDefines.h"
 
+#include <memory>
+
 namespace reportlook {
 struct Look;
+}
+namespace textwrap {
+class CharWidths;
 }
 
 /// Draws the parts of a report control. It never changes how the control behaves. Derive and hand to
@@ -50,6 +55,16 @@ public:
     virtual int GetRowHeight() const;
     void SetRowHeight(int nHeight);      ///< pixels at the present resolution; 0: from the font
     virtual int GetHeaderHeight() const; ///< the line under the header included
+    /// What so many lines of preview text add to the height of a row, pixels; 0 for none.
+    virtual int GetPreviewHeight(int nLines) const;
+    int GetPreviewIndent() const;                              ///< from the left edge of the row to the preview text
+    int GetMaxPreviewLines() const { return m_nPreviewLines; } ///< 3 at first
+    /// Held within 1 to `MostPreviewLines`. Rows follow when the control lays itself out, as at `Populate`.
+    void SetMaxPreviewLines(int nLines);
+    static constexpr int MostPreviewLines = 50; ///< more than a view has room for
+    /// Of the text font; another object after the font has changed, of no use after the paint manager is deleted. For
+    /// the control, which wraps previews with it.
+    const std::shared_ptr<textwrap::CharWidths>& GetCharWidths() const { return m_charWidths; }
     /// Space between the edge of a cell or header column and its text.
     int GetCellPadding() const { return m_nCellPadding; }
     /// The width that the sort arrow takes from a caption, its distance to the text included.
@@ -109,6 +124,9 @@ public:
     /// One line of text in the colour that `pDC` has, vertically centred, with an ellipsis when it does not fit;
     /// stretches that are hyperlinks are marked as such and told where they stand.
     virtual void DrawItemText(XTP_REPORTRECORDITEM_DRAWARGS* pDrawArgs, XTP_REPORTRECORDITEM_METRICS* pMetrics);
+    /// Lines of text in the colour that `pDC` has, wrapped into the width of `rcItem` from its upper edge on, as many
+    /// as fit; an ellipsis ends the last one when there are more.
+    virtual void DrawPreviewText(XTP_REPORTRECORDITEM_DRAWARGS* pDrawArgs, XTP_REPORTRECORDITEM_METRICS* pMetrics);
     /// The frame of the focused row, drawn over its cells while the control has the keyboard. The grid line stays free.
     virtual void DrawFocusedRow(CDC* pDC, const CRect& rcRow);
     /// The mark of the cell that the keyboard acts on; `metrics` are those of its row.
@@ -130,6 +148,7 @@ public:
     CXTPPaintManagerColor m_clrDisabledWindow;        ///< background of a disabled control
     CXTPPaintManagerColor m_clrGridLine;              ///< lines between cells
     CXTPPaintManagerColor m_clrHyperlink;             ///< text and line of a hyperlink
+    CXTPPaintManagerColor m_clrPreviewText;           ///< text below the cells of a row
     CXTPPaintManagerColor m_clrDisabledText;          ///< every text of a disabled control, and the empty text
     CXTPPaintManagerColor m_clrDropMark;              ///< where a dragged column would land
     CXTPPaintManagerColor m_clrGroupRow;              ///< behind the caption of a group
@@ -190,6 +209,9 @@ private:
                          BOOL bPressed) const;
     void FillHeader(CDC* pDC, const CRect& rc, COLORREF clrLight, COLORREF clrDark) const;
 
+    std::shared_ptr<textwrap::CharWidths> m_charWidths; ///< of `m_fontText`
+    int m_nPreviewSpacing = 0;                          ///< pixels below the preview text of a row
+    int m_nPreviewLines = 3;
     bool m_bAlternateRows = false;
     bool m_bHighContrast = false;
     LOGFONT m_lfHost;         ///< the host's font, when it has set one

@@ -4,6 +4,7 @@
 #include "CXTPReportColumn.h"
 #include "CXTPReportColumns.h"
 #include "CXTPReportRecordItem.h"
+#include "CXTPReportRecordItemPreview.h"
 #include "CXTPReportRecordItemText.h"
 #include "CXTPReportRecords.h"
 #include "StoredClass.h"
@@ -14,18 +15,29 @@ IMPLEMENT_DYNCREATE(CXTPReportRecord, CCmdTarget)
 
 struct CXTPReportRecord::Extras {
     std::unique_ptr<CXTPReportRecords> pChilds; // null until somebody asks
+    CXTPReportRecordItemPreview* pPreview = nullptr;
     DWORD_PTR dwData = 0;
 };
 
 CXTPReportRecord::CXTPReportRecord() = default;
 
-CXTPReportRecord::~CXTPReportRecord() { ReleaseItems(); }
+CXTPReportRecord::~CXTPReportRecord() {
+    ReleaseItems();
+    if (m_pExtras)
+        Release(m_pExtras->pPreview);
+}
+
+/// Lets go of an item that others may hold; null is ignored.
+void CXTPReportRecord::Release(CXTPReportRecordItem* pItem) {
+    if (!pItem)
+        return;
+    pItem->m_pRecord = nullptr;
+    pItem->InternalRelease();
+}
 
 void CXTPReportRecord::ReleaseItems() {
-    for (CXTPReportRecordItem* const pItem : std::exchange(m_items, {})) {
-        pItem->m_pRecord = nullptr;
-        pItem->InternalRelease();
-    }
+    for (CXTPReportRecordItem* const pItem : std::exchange(m_items, {}))
+        Release(pItem);
 }
 
 void* CXTPReportRecord::operator new(size_t size) {
@@ -95,6 +107,30 @@ CXTPReportRecord* CXTPReportRecord::GetParentRecord() const {
     return m_pRecords ? m_pRecords->GetOwnerRecord() : nullptr;
 }
 
+// --- Preview ---------------------------------------------------------------------------------------------------------
+
+CXTPReportRecordItemPreview* CXTPReportRecord::GetItemPreview() const {
+    return m_pExtras ? m_pExtras->pPreview : nullptr;
+}
+
+CXTPReportRecordItemPreview* CXTPReportRecord::SetPreviewItem(CXTPReportRecordItemPreview* pItemPreview) {
+    if (pItemPreview == GetItemPreview())
+        return pItemPreview;
+    ASSERT(!pItemPreview || !pItemPreview->GetRecord());
+    try {
+        EnsureExtras();
+    } catch (...) {
+        pItemPreview->InternalRelease(); // it was taken over already; without one there are extras
+        throw;
+    }
+    Release(std::exchange(m_pExtras->pPreview, pItemPreview));
+    if (pItemPreview)
+        static_cast<CXTPReportRecordItem*>(pItemPreview)->m_pRecord = this;
+    return pItemPreview;
+}
+
+// --- Data ------------------------------------------------------------------------------------------------------------
+
 DWORD_PTR CXTPReportRecord::GetItemData() const { return m_pExtras ? m_pExtras->dwData : 0; }
 
 void CXTPReportRecord::SetItemData(DWORD_PTR dwData) { EnsureExtras().dwData = dwData; }
@@ -112,10 +148,33 @@ void CXTPReportRecord::DoPropExchange(CXTPPropExchange* pPX) {
         StoreItems(pPX);
     else
         LoadItems(pPX);
+    ExchangePreview(pPX);
     // Few records have children, and those that have none hold no collection for them.
     const CXTPPropExchangeEnumeratorPtr childs(pPX->GetEnumerator(_T("Record")));
     if (HasChildren() || (pPX->IsLoading() && childs->GetPosition()))
         GetChilds()->DoPropExchange(pPX);
+}
+
+/// A section of its own, which a record without a preview does not have.
+void CXTPReportRecord::ExchangePreview(CXTPPropExchange* pPX) {
+    const CXTPPropExchangeEnumeratorPtr previews(pPX->GetEnumerator(_T("Preview")));
+    if (pPX->IsStoring()) {
+        if (CXTPReportRecordItemPreview* const pPreview = GetItemPreview()) {
+            POSITION pos = previews->GetPosition(1);
+            const CXTPPropExchangeSection section(previews->GetNext(pos));
+            storedclass::Write(&section, *pPreview);
+            pPreview->DoPropExchange(&section);
+        }
+        return;
+    }
+    POSITION pos = previews->GetPosition();
+    if (!pos) {
+        SetPreviewItem(nullptr);
+        return;
+    }
+    const CXTPPropExchangeSection section(previews->GetNext(pos));
+    CXTPReportRecordItemPreview* const pRead = storedclass::Make<CXTPReportRecordItemPreview>(&section);
+    SetPreviewItem(pRead ? pRead : new CXTPReportRecordItemPreview)->DoPropExchange(&section);
 }
 
 void CXTPReportRecord::StoreItems(CXTPPropExchange* pPX) {

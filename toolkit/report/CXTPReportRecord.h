@@ -28,6 +28,10 @@ public:
     CXTPReportRecordItem* GetItem(int nItemIndex) const;                  ///< null when out of range
     /// The item that the column shows; null for a null column and when the record has too few items.
     CXTPReportRecordItem* GetItem(const CXTPReportColumn* pColumn) const;
+    /// Takes ownership of the text that stands below the cells in preview mode, and returns it; the former one is
+    /// released. Null takes it away. Rows follow at the next `Populate`.
+    CXTPReportRecordItemPreview* SetPreviewItem(CXTPReportRecordItemPreview* pItemPreview);
+    CXTPReportRecordItemPreview* GetItemPreview() const;  ///< null when there is none
     int IndexOf(const CXTPReportRecordItem* pItem) const; ///< −1 when the item is not in this record
 
     /// The records below this one, in their own order; made when they are first asked for, never null. They have rows
@@ -51,13 +55,13 @@ public:
 
     int GetIndex() const; ///< place in the collection, −1 when in none; −1 for the record of virtual mode
     CXTPReportRecords* GetRecords() const { return m_pRecords; } ///< null before the record is added
-    /// Removes the record, and its row and those below it, from its collection and deletes it. The items that handlers hold references to
-    /// live on without a record.
+    /// Removes the record, and its row and those below it, from its collection and deletes it. The items that handlers
+    /// hold references to live on without a record.
     void Delete();
 
-    /// Writes or reads the record: whether it is visible and expanded, its items and its child records. Reading replaces items and
-    /// children by new ones of the classes that were written; an item of a class that nobody can make becomes a text
-    /// item, such a record a plain one. What belongs to the host (item data) is not exchanged.
+    /// Writes or reads the record: whether it is visible and expanded, its items, its preview and its child records.
+    /// Reading replaces items and children by new ones of the classes that were written; an item of a class that nobody
+    /// can make becomes a text item, such a record a plain one. What belongs to the host (item data) is not exchanged.
     virtual void DoPropExchange(CXTPPropExchange* pPX);
 
     DWORD_PTR GetItemData() const;      ///< 0 at first
@@ -67,11 +71,13 @@ public:
     virtual void GetItemMetrics(XTP_REPORTRECORDITEM_DRAWARGS* pDrawArgs, XTP_REPORTRECORDITEM_METRICS* pMetrics);
 
 private:
-    struct Extras; ///< what few records have: child records, data
+    struct Extras; ///< what few records have: child records, a preview, data
     Extras& EnsureExtras();
     void StoreItems(CXTPPropExchange* pPX);
     void LoadItems(CXTPPropExchange* pPX);
+    void ExchangePreview(CXTPPropExchange* pPX);
     void ReleaseItems();
+    static void Release(CXTPReportRecordItem* pItem);
 
     friend class CXTPReportRecords;
     friend class CXTPReportRows;

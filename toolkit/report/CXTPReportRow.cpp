@@ -7,9 +7,9 @@
 #include "CXTPReportPaintManager.h"
 #include "CXTPReportRecord.h"
 #include "CXTPReportRecordItem.h"
+#include "CXTPReportRecordItemPreview.h"
 #include "CXTPReportRows.h"
 #include "CXTPReportSelectedRows.h"
-#include "GridGeometry.h"
 #include "RecordItemHeap.h"
 
 #include <algorithm>
@@ -105,13 +105,13 @@ CRect CXTPReportRow::GetExpandButtonRect() const {
     const CXTPReportColumns* columns = control->GetColumns();
     for (int i = 0; i < columns->GetCount(); ++i)
         if (columns->GetAt(i)->IsVisible() && columns->GetAt(i)->IsTreeColumn())
-            return ButtonPlace(GetRect(), columns->GetAt(i));
+            return ButtonPlace(GetCellsRect(), columns->GetAt(i));
     return CRect();
 }
 
 /// The last step of the indentation, as far as the cell goes.
-CRect CXTPReportRow::ButtonPlace(const CRect& rcRow, const CXTPReportColumn* pColumn) const {
-    CRect rcButton = InsideGridLines(WholeCell(rcRow, pColumn));
+CRect CXTPReportRow::ButtonPlace(const CRect& rcCells, const CXTPReportColumn* pColumn) const {
+    CRect rcButton = InsideGridLines(WholeCell(rcCells, pColumn));
     const int right = rcButton.left + GetTreeIndent(pColumn);
     const int left = right - GetControl()->GetPaintManager()->GetTreeIndent();
     rcButton.right = std::min<int>(right, rcButton.right);
@@ -123,14 +123,26 @@ CRect CXTPReportRow::ButtonPlace(const CRect& rcRow, const CXTPReportColumn* pCo
 
 CRect CXTPReportRow::GetRect() const {
     const CXTPReportControl* control = GetControl();
-    if (!control)
-        return CRect();
-    const CRect rcReport = control->GetReportRectangle();
-    const int height = control->GetPaintManager()->GetRowHeight();
-    const gridgeometry::UniformRows rows(control->GetRows()->GetCount(), height, rcReport.Height());
-    const int top = rcReport.top + rows.RowTop(control->GetTopRowIndex(), m_nIndex);
-    return CRect(rcReport.left, top, rcReport.right, top + height);
+    return control ? control->GetRowRect(m_nIndex) : CRect();
 }
+
+CRect CXTPReportRow::CellsOf(const CRect& rcRow) const {
+    const int height = GetControl()->GetPaintManager()->GetRowHeight();
+    return CRect(rcRow.left, rcRow.top, rcRow.right, std::min<int>(rcRow.top + height, rcRow.bottom));
+}
+
+/// Between the cells, whose lower grid line it covers, and the line under the row.
+CRect CXTPReportRow::PreviewOf(const CRect& rcRow) const {
+    const CXTPReportControl* control = GetControl();
+    const int left = rcRow.left + control->GetPaintManager()->GetPreviewIndent();
+    const CRect rcPreview(left, CellsOf(rcRow).bottom - 1, left + control->GetPreviewWidth(), rcRow.bottom - 1);
+    const bool isShown = m_pRecord && m_pRecord->GetItemPreview() && rcPreview.Width() > 0 && rcPreview.Height() > 0;
+    return isShown ? rcPreview : CRect();
+}
+
+CRect CXTPReportRow::GetCellsRect() const { return GetControl() ? CellsOf(GetRect()) : CRect(); }
+
+CRect CXTPReportRow::GetPreviewRect() const { return GetControl() ? PreviewOf(GetRect()) : CRect(); }
 
 CRect CXTPReportRow::GetItemRect(CXTPReportRecordItem* pItem) const {
     const CXTPReportControl* control = GetControl();
@@ -138,18 +150,18 @@ CRect CXTPReportRow::GetItemRect(CXTPReportRecordItem* pItem) const {
     const CXTPReportColumn* column = control && index >= 0 ? control->GetColumns()->Find(index) : nullptr;
     if (!column || !column->IsVisible())
         return CRect();
-    return ItemPlace(GetRect(), column);
+    return ItemPlace(GetCellsRect(), column);
 }
 
-CRect CXTPReportRow::ItemPlace(const CRect& rcRow, const CXTPReportColumn* pColumn) const {
-    CRect rcItem = InsideGridLines(WholeCell(rcRow, pColumn));
+CRect CXTPReportRow::ItemPlace(const CRect& rcCells, const CXTPReportColumn* pColumn) const {
+    CRect rcItem = InsideGridLines(WholeCell(rcCells, pColumn));
     rcItem.left = std::min<int>(rcItem.left + GetTreeIndent(pColumn), rcItem.right);
     return rcItem;
 }
 
 CXTPReportRecordItem* CXTPReportRow::HitTest(CPoint ptPoint, CRect* pRectItem, CXTPReportColumn** ppColumn) const {
     const CXTPReportControl* control = GetControl();
-    const CRect rcRow = GetRect();
+    const CRect rcRow = GetCellsRect();
     if (!control || !m_pRecord || ptPoint.y < rcRow.top || ptPoint.y >= rcRow.bottom)
         return nullptr;
     const CXTPReportColumns* columns = control->GetColumns();
@@ -182,26 +194,29 @@ void CXTPReportRow::Draw(CDC* pDC, const CRect& rcRow, const CRect& rcClip) {
     paintManager->FillRowMetrics(this, &metrics);
     pDC->FillSolidRect(&rcDirty, metrics.clrBackground);
 
+    const CRect rcCells = CellsOf(rcRow);
     int right = rcRow.left;
     const CXTPReportColumns* columns = control->GetColumns();
     for (int i = 0; i < columns->GetCount(); ++i) {
         CXTPReportColumn* column = columns->GetAt(i);
         if (!column->IsVisible())
             continue;
-        const CRect rcCell = WholeCell(rcRow, column);
+        const CRect rcCell = WholeCell(rcCells, column);
         right = std::max<int>(right, rcCell.right);
         if (rcCell.right <= rcClip.left || rcCell.left >= rcClip.right)
             continue;
-        DrawTree(pDC, column, rcRow, metrics);
-        DrawCell(pDC, column, rcRow);
+        DrawTree(pDC, column, rcCells, metrics);
+        DrawCell(pDC, column, rcCells);
         paintManager->DrawGridLines(pDC, rcCell);
     }
     // Beyond the last column only the line under the row goes on; its end lies outside, where nothing is drawn.
     if (right < rcDirty.right)
-        paintManager->DrawGridLines(pDC, CRect(right, rcRow.top, rcRow.right + 1, rcRow.bottom));
+        paintManager->DrawGridLines(pDC, CRect(right, rcCells.top, rcCells.right + 1, rcCells.bottom));
+    if (rcCells.bottom < rcRow.bottom)
+        DrawPreview(pDC, rcRow, rcClip, metrics.clrBackground);
     DrawFocus(pDC, rcRow);
     if (IsFocused() && control->HasFocus() && control->IsColumnFocusVisible())
-        paintManager->DrawFocusedCell(pDC, ItemPlace(rcRow, control->GetFocusedColumn()), metrics);
+        paintManager->DrawFocusedCell(pDC, ItemPlace(rcCells, control->GetFocusedColumn()), metrics);
 }
 
 void CXTPReportRow::DrawFocus(CDC* pDC, const CRect& rcRow) {
@@ -210,24 +225,24 @@ void CXTPReportRow::DrawFocus(CDC* pDC, const CRect& rcRow) {
         control->GetPaintManager()->DrawFocusedRow(pDC, rcRow);
 }
 
-void CXTPReportRow::DrawTree(CDC* pDC, const CXTPReportColumn* pColumn, const CRect& rcRow,
+void CXTPReportRow::DrawTree(CDC* pDC, const CXTPReportColumn* pColumn, const CRect& rcCells,
                              const XTP_REPORTRECORDITEM_METRICS& metrics) {
     const int indent = GetTreeIndent(pColumn);
     if (indent == 0)
         return;
     CXTPReportPaintManager* paintManager = GetControl()->GetPaintManager();
-    const CRect rcCell = WholeCell(rcRow, pColumn);
+    const CRect rcCell = WholeCell(rcCells, pColumn);
     paintManager->DrawTreeLines(pDC, this, CRect(rcCell.left, rcCell.top, rcCell.left + indent, rcCell.bottom),
                                 rcCell.right);
-    const CRect rcButton = ButtonPlace(rcRow, pColumn);
+    const CRect rcButton = ButtonPlace(rcCells, pColumn);
     if (HasChildren() && rcButton.Width() == paintManager->GetTreeIndent())
         paintManager->DrawExpandButton(pDC, rcButton, IsExpanded(), metrics);
 }
 
-void CXTPReportRow::DrawCell(CDC* pDC, CXTPReportColumn* pColumn, const CRect& rcRow) {
+void CXTPReportRow::DrawCell(CDC* pDC, CXTPReportColumn* pColumn, const CRect& rcCells) {
     CXTPReportRecordItem* item = m_pRecord ? m_pRecord->GetItem(pColumn) : nullptr;
     XTP_REPORTRECORDITEM_DRAWARGS args;
-    args.rcItem = ItemPlace(rcRow, pColumn);
+    args.rcItem = ItemPlace(rcCells, pColumn);
     if (!item || args.rcItem.IsRectEmpty())
         return;
     args.pDC = pDC;
@@ -237,4 +252,25 @@ void CXTPReportRow::DrawCell(CDC* pDC, CXTPReportColumn* pColumn, const CRect& r
     args.pItem = item;
     args.nTextAlign = pColumn->GetAlignment();
     item->Draw(&args);
+}
+
+void CXTPReportRow::DrawPreview(CDC* pDC, const CRect& rcRow, const CRect& rcClip, COLORREF clrBackground) {
+    CXTPReportControl* control = GetControl();
+    // The line under the cells gives way; the one under the row takes its place.
+    const CRect rcBelow(rcRow.left, CellsOf(rcRow).bottom - 1, rcRow.right, rcRow.bottom);
+    CRect rcFill;
+    if (!rcFill.IntersectRect(&rcBelow, &rcClip))
+        return;
+    pDC->FillSolidRect(&rcFill, clrBackground);
+    XTP_REPORTRECORDITEM_DRAWARGS args;
+    args.rcItem = PreviewOf(rcRow);
+    if (!args.rcItem.IsRectEmpty()) {
+        args.pDC = pDC;
+        args.pControl = control;
+        args.pRow = this;
+        args.pItem = m_pRecord->GetItemPreview();
+        args.pItem->Draw(&args);
+    }
+    // Its line at the right lies outside, where nothing is drawn.
+    control->GetPaintManager()->DrawGridLines(pDC, CRect(rcBelow.left, rcBelow.top, rcBelow.right + 1, rcBelow.bottom));
 }

@@ -44,6 +44,10 @@ public:
 
     /// The row in client coordinates, over the full width of the report area; may lie outside the visible part.
     CRect GetRect() const;
+    /// The upper part of the row, which its cells fill; all of it unless the record shows a preview text.
+    CRect GetCellsRect() const;
+    /// Where the preview text stands, client coordinates; empty when the row shows none.
+    CRect GetPreviewRect() const;
     /// The rectangle of the item in client coordinates; empty when its column is hidden. It is the cell without the
     /// grid lines, which are the last pixel column and the last pixel row of the cell, and without the indentation of a
     /// tree column: exactly what `HitTest` tells for the item, and what the item is given to draw in.
@@ -66,11 +70,14 @@ protected:
 
 private:
     friend class CXTPReportRows;
-    CRect ItemPlace(const CRect& rcRow, const CXTPReportColumn* pColumn) const;
-    CRect ButtonPlace(const CRect& rcRow, const CXTPReportColumn* pColumn) const;
-    void DrawTree(CDC* pDC, const CXTPReportColumn* pColumn, const CRect& rcRow,
+    CRect CellsOf(const CRect& rcRow) const;
+    CRect PreviewOf(const CRect& rcRow) const;
+    void DrawPreview(CDC* pDC, const CRect& rcRow, const CRect& rcClip, COLORREF clrBackground);
+    CRect ItemPlace(const CRect& rcCells, const CXTPReportColumn* pColumn) const;
+    CRect ButtonPlace(const CRect& rcCells, const CXTPReportColumn* pColumn) const;
+    void DrawTree(CDC* pDC, const CXTPReportColumn* pColumn, const CRect& rcCells,
                   const XTP_REPORTRECORDITEM_METRICS& metrics);
-    void DrawCell(CDC* pDC, CXTPReportColumn* pColumn, const CRect& rcRow);
+    void DrawCell(CDC* pDC, CXTPReportColumn* pColumn, const CRect& rcCells);
 
     // In this order the members leave no gaps: a host may look at millions of rows.
     int m_nIndex;

@@ -24,62 +24,94 @@ std::int64_t FloorDivide(std::int64_t value, std::int64_t divisor) {
 
 } // namespace
 
-UniformRows::UniformRows(int count, int rowHeight, int viewHeight)
+StackedRows::StackedRows(int count, int rowHeight, int viewHeight)
     : m_count(std::max(count, 0)), m_rowHeight(std::max(rowHeight, 1)), m_viewHeight(std::max(viewHeight, 0)) {}
 
-int UniformRows::FullyVisibleCount() const { return std::max(m_viewHeight / m_rowHeight, 1); }
+StackedRows::StackedRows(const RowHeights& heights, int viewHeight)
+    : m_heights(&heights), m_count(heights.Count()), m_rowHeight(m_count > 0 ? heights.HeightOfKind(0) : 1),
+      m_viewHeight(std::max(viewHeight, 0)) {}
 
-int UniformRows::MaxTopRow() const { return std::max(m_count - FullyVisibleCount(), 0); }
+// --- Places from the upper edge of the first row ---------------------------------------------------------------------
 
-int UniformRows::ClampTopRow(std::int64_t topRow) const {
+std::int64_t StackedRows::TopOf(std::int64_t row) const {
+    if (!m_heights || row <= 0)
+        return row * m_rowHeight;
+    const std::int64_t behind = std::max<std::int64_t>(row - m_count, 0);
+    return m_heights->TopOf(static_cast<int>(row - behind)) + behind * m_rowHeight;
+}
+
+/// Also beyond the rows, where those of the ordinary height would go on.
+std::int64_t StackedRows::RowOfPlace(std::int64_t place) const {
+    if (!m_heights || place < 0)
+        return FloorDivide(place, m_rowHeight);
+    const std::int64_t total = m_heights->TotalHeight();
+    return place < total ? m_heights->RowAt(place) : m_count + (place - total) / m_rowHeight;
+}
+
+/// The last row that is whole in a view that begins with `row`; at least `row` itself.
+std::int64_t StackedRows::LastWholeFrom(std::int64_t row) const {
+    return std::max(RowOfPlace(TopOf(row) + m_viewHeight) - 1, row);
+}
+
+/// The first row that is whole in a view that ends with `row`; at most `row` itself.
+std::int64_t StackedRows::FirstWholeUpTo(std::int64_t row) const {
+    const std::int64_t viewTop = TopOf(row + 1) - m_viewHeight;
+    return std::min(RowOfPlace(viewTop - 1) + 1, row);
+}
+
+// --- The view --------------------------------------------------------------------------------------------------------
+
+int StackedRows::FullyVisibleCount(int topRow) const { return static_cast<int>(LastWholeFrom(topRow) - topRow + 1); }
+
+int StackedRows::MaxTopRow() const {
+    return static_cast<int>(std::max<std::int64_t>(FirstWholeUpTo(std::int64_t{m_count} - 1), 0));
+}
+
+int StackedRows::ClampTopRow(std::int64_t topRow) const {
     return static_cast<int>(std::clamp<std::int64_t>(topRow, 0, MaxTopRow()));
 }
 
-int UniformRows::RowAt(int topRow, int y) const {
+std::int64_t StackedRows::PageAbove(int topRow) const { return FirstWholeUpTo(std::int64_t{topRow} - 1); }
+
+int StackedRows::RowAt(int topRow, int y) const {
     if (y < 0)
         return -1;
-    const std::int64_t row = static_cast<std::int64_t>(topRow) + y / m_rowHeight;
+    const std::int64_t row = RowOfPlace(TopOf(topRow) + y);
     return row >= 0 && row < m_count ? static_cast<int>(row) : -1;
 }
 
-int UniformRows::NearestRow(int topRow, int y) const {
+int StackedRows::NearestRow(int topRow, int y) const {
     if (m_count == 0)
         return -1;
-    const std::int64_t row = topRow + FloorDivide(y, m_rowHeight);
-    return static_cast<int>(std::clamp<std::int64_t>(row, 0, m_count - 1));
+    return static_cast<int>(std::clamp<std::int64_t>(RowOfPlace(TopOf(topRow) + y), 0, m_count - 1));
 }
 
-int UniformRows::RowTop(int topRow, int row) const {
-    return ToCoordinate((static_cast<std::int64_t>(row) - topRow) * m_rowHeight);
-}
+int StackedRows::RowTop(int topRow, int row) const { return ToCoordinate(TopOf(row) - TopOf(topRow)); }
 
-IndexRange UniformRows::RowsInBand(int topRow, int yBegin, int yEnd) const {
+IndexRange StackedRows::RowsInBand(int topRow, int yBegin, int yEnd) const {
     yBegin = std::max(yBegin, 0);
     yEnd = std::min(yEnd, m_viewHeight);
     if (yBegin >= yEnd || m_count == 0)
         return {};
-    const std::int64_t first = static_cast<std::int64_t>(topRow) + yBegin / m_rowHeight;
-    const std::int64_t last = static_cast<std::int64_t>(topRow) + (yEnd - 1) / m_rowHeight;
+    const std::int64_t top = TopOf(topRow);
+    const std::int64_t first = RowOfPlace(top + yBegin);
+    const std::int64_t last = RowOfPlace(top + yEnd - 1);
     if (first >= m_count || last < 0)
         return {};
     return {static_cast<int>(std::max<std::int64_t>(first, 0)),
             static_cast<int>(std::min<std::int64_t>(last, m_count - 1))};
 }
 
-int UniformRows::TopRowToShow(int topRow, int row) const {
+int StackedRows::TopRowToShow(int topRow, int row) const {
     if (row < 0 || row >= m_count)
         return ClampTopRow(topRow);
-    if (row < topRow)
-        return ClampTopRow(row);
-    const std::int64_t lastWhole = static_cast<std::int64_t>(topRow) + FullyVisibleCount() - 1;
-    return ClampTopRow(row > lastWhole ? row - FullyVisibleCount() + 1 : topRow);
+    return ClampTopRow(row < topRow ? row : std::max<std::int64_t>(topRow, FirstWholeUpTo(row)));
 }
 
-int UniformRows::NextRow(RowMove move, int focused, int topRow) const {
+int StackedRows::NextRow(RowMove move, int focused, int topRow) const {
     if (m_count == 0)
         return -1;
-    const std::int64_t page = FullyVisibleCount();
-    const std::int64_t pageEnd = topRow + page - 1;
+    const std::int64_t pageEnd = LastWholeFrom(topRow);
     std::int64_t row = focused;
     switch (move) {
     case RowMove::Up:
@@ -89,10 +121,10 @@ int UniformRows::NextRow(RowMove move, int focused, int topRow) const {
         row = row + 1;
         break;
     case RowMove::PageUp:
-        row = row > topRow ? topRow : row - std::max<std::int64_t>(page - 1, 1);
+        row = row > topRow ? topRow : std::min(FirstWholeUpTo(row), row - 1);
         break;
     case RowMove::PageDown:
-        row = row < pageEnd ? pageEnd : row + std::max<std::int64_t>(page - 1, 1);
+        row = row < pageEnd ? pageEnd : std::max(LastWholeFrom(row), row + 1);
         break;
     case RowMove::Home:
         row = 0;

@@ -1,6 +1,8 @@
 // Where rows and columns of a grid stand, and which one a point means. Arithmetic only, no window needed.
 #pragma once
 
+#include "RowHeights.h"
+
 #include <cstdint>
 #include <vector>
 
@@ -20,34 +22,41 @@ struct IndexRange {
 /// Which way the keyboard moves the focus among rows.
 enum class RowMove { Up, Down, PageUp, PageDown, Home, End };
 
-/// Rows of one height under each other, seen through a view that always begins at the top of a row. Every operation is
-/// O(1), for up to 2^31 - 1 rows; heights are pixels and `y` counts from the upper edge of the view.
-class UniformRows {
+/// Rows under each other, seen through a view that always begins at the top of a row. Rows of one height take no memory
+/// and every operation on them is O(1), for up to 2^31 - 1 rows; for rows of several heights it is logarithmic. Heights
+/// are pixels and `y` counts from the upper edge of the view.
+class StackedRows {
 public:
-    /// Negative counts and heights count as 0, a row height below 1 as 1.
-    UniformRows(int count, int rowHeight, int viewHeight);
+    /// Rows of one height. Negative counts and heights count as 0, a row height below 1 as 1.
+    StackedRows(int count, int rowHeight, int viewHeight);
+    /// Rows of the heights given, which must live as long as this. Room above the first and below the last row counts
+    /// as rows of kind 0.
+    StackedRows(const RowHeights& heights, int viewHeight);
 
     int Count() const { return m_count; }
-    int RowHeight() const { return m_rowHeight; }
-    std::int64_t TotalHeight() const { return static_cast<std::int64_t>(m_count) * m_rowHeight; }
+    std::int64_t TotalHeight() const { return TopOf(m_count); }
 
-    /// Whole rows that fit into the view, at least 1 so that paging always moves.
-    int FullyVisibleCount() const;
+    /// Whole rows that fit into the view below and with the top row, at least 1 so that paging always moves.
+    int FullyVisibleCount(int topRow) const;
     /// The largest top row: with it the last row stands whole at the lower end of the view.
     int MaxTopRow() const;
     int ClampTopRow(std::int64_t topRow) const;
+    /// The top row a page above: the present one would be the first below the view. May be negative.
+    std::int64_t PageAbove(int topRow) const;
 
     /// The row at `y`; -1 above the view and below the last row. Rows below the view's lower edge count as well.
     int RowAt(int topRow, int y) const;
     /// As `RowAt`, with the first or last row for points beyond them; -1 only when there are no rows.
     int NearestRow(int topRow, int y) const;
-    /// The upper edge of the row, in the view's pixels; held within what a 32-bit rectangle can carry.
+    /// The upper edge of the row, in the view's pixels; held within what a 32-bit rectangle can carry. The lower edge
+    /// is the upper one of the next row, also of the last.
     int RowTop(int topRow, int row) const;
     /// The rows that meet the view, the last one perhaps cut off.
     IndexRange VisibleRows(int topRow) const { return RowsInBand(topRow, 0, m_viewHeight); }
     /// The rows of the view that meet the pixels `yBegin` <= y < `yEnd`.
     IndexRange RowsInBand(int topRow, int yBegin, int yEnd) const;
-    /// The top row that shows `row` whole with the least scrolling; `topRow` when it is whole already.
+    /// The top row that shows `row` whole with the least scrolling; `topRow` when it is whole already. A row higher
+    /// than the view begins at its upper edge.
     int TopRowToShow(int topRow, int row) const;
 
     /// The row that gets the focus from `focused` (-1: none yet). Page keys go to the end of the visible page first and
@@ -55,6 +64,12 @@ public:
     int NextRow(RowMove move, int focused, int topRow) const;
 
 private:
+    std::int64_t TopOf(std::int64_t row) const;
+    std::int64_t RowOfPlace(std::int64_t place) const;
+    std::int64_t LastWholeFrom(std::int64_t row) const;
+    std::int64_t FirstWholeUpTo(std::int64_t row) const;
+
+    const RowHeights* m_heights = nullptr; ///< null: all rows are of `m_rowHeight`
     int m_count;
     int m_rowHeight;
     int m_viewHeight;

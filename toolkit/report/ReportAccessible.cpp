@@ -8,6 +8,7 @@
 #include "CXTPReportHeader.h"
 #include "CXTPReportRecord.h"
 #include "CXTPReportRecordItem.h"
+#include "CXTPReportRecordItemPreview.h"
 #include "CXTPReportRow.h"
 #include "CXTPReportRows.h"
 #include "CXTPReportSelectedRows.h"
@@ -119,7 +120,14 @@ CString NameOf(CXTPReportControl& control, const Element& element) {
     return name;
 }
 
-/// A row's cells with their columns, to be read in one go.
+/// What stands below the cells of the row.
+CString PreviewOf(const CXTPReportControl& control, const CXTPReportRow& row) {
+    const CXTPReportRecord* const record = row.GetRecord();
+    const bool isShown = control.IsPreviewMode() && record && record->GetItemPreview();
+    return isShown ? record->GetItemPreview()->GetPreviewText().Trim() : CString();
+}
+
+/// A row's cells with their columns and its preview, to be read in one go.
 CString DescriptionOf(CXTPReportControl& control, const Element& element) {
     CString description;
     if (!element.IsRow())
@@ -131,7 +139,8 @@ CString DescriptionOf(CXTPReportControl& control, const Element& element) {
                 (description.IsEmpty() ? CString() : CString(_T("; "))) + cell.column->GetCaption() + _T(": ") + text;
         return true;
     });
-    return description;
+    const CString preview = PreviewOf(control, *element.row);
+    return preview.IsEmpty() ? description : description + (description.IsEmpty() ? _T("") : _T("; ")) + preview;
 }
 
 LONG RoleOf(const CXTPReportControl& control, const Element& element) {
@@ -161,7 +170,7 @@ CRect RectOf(const CXTPReportControl& control, const Element& element) {
     } else if (element.IsHeader()) {
         rc = element.column->GetRect();
     } else {
-        rc = element.row->GetRect();
+        rc = element.column ? element.row->GetCellsRect() : element.row->GetRect();
         if (element.column) {
             const CRect rcColumn = element.column->GetRect();
             rc.left = rcColumn.left;

@@ -1,9 +1,9 @@
 // The inside of a report control: its parts and its state. Only the control's own sources include this.
 //
 // The operations stand in the source of their concern: CXTPReportControl_Paint, _Scroll, _Selection, _Mouse, _Keyboard,
-// _Outline, _Edit, _Tips and _Clipboard. Callbacks to items, to the owner and to overrides may do anything, even
-// destroy the control: whoever makes one holds a WindowGuard and returns at once when the window is gone, and finds
-// rows and items anew afterwards.
+// _Outline, _Preview, _Edit, _Tips and _Clipboard. Callbacks to items, to the owner and to overrides may do anything,
+// even destroy the control: whoever makes one holds a WindowGuard and returns at once when the window is gone, and
+// finds rows and items anew afterwards.
 #pragma once
 
 #include "CXTPReportColumns.h"
@@ -17,6 +17,7 @@
 #include "CXTPReportSelectedRows.h"
 #include "DpiLength.h"
 #include "GridGeometry.h"
+#include "PreviewRows.h"
 #include "ReportAccessible.h"
 #include "ReportSort.h"
 #include "RowSelection.h"
@@ -114,7 +115,7 @@ struct CXTPReportControl::Impl {
     CRect ClientRect() const; ///< empty without a window
     void TakePaintManager(std::unique_ptr<CXTPReportPaintManager> taken);
     void FollowDpi(int dpi);
-    gridgeometry::UniformRows RowGrid() const;
+    gridgeometry::StackedRows RowGrid() const;
     int RowAt(CPoint point) const;
     void LayOut();
     void FitBars();
@@ -127,6 +128,20 @@ struct CXTPReportControl::Impl {
     void ScrollSidewaysTo(int offset);
     int ScrollTarget(int bar, UINT code, UINT pos, int current, int line, int page, int maximum) const;
     int SidewaysStep() const;
+
+    // --- Previews ---------------------------------------------------------------------------------------------------
+    bool isPreviewMode = false;
+    PreviewRows previews;
+    std::weak_ptr<textwrap::CharWidths> previewWidths; ///< with which they were measured
+
+    /// Reads the texts of all rows. When it throws, the rows have the plain height.
+    void MeasurePreviews();
+    CString PreviewTextOf(int rowIndex) const; ///< empty when the row has none
+    /// Rows have come or gone, see `OnRowsChanged`: reads the texts of those that came. When it throws, the rows
+    /// have the plain height.
+    void SplicePreviews(int first, int removed, int inserted);
+    /// The rows get the heights that their texts need in the view as it is.
+    void WrapPreviews();
 
     // --- Drawing ----------------------------------------------------------------------------------------------------
     BackBuffer buffer;
@@ -276,10 +291,12 @@ template <class Change>
 void CXTPReportControl::Impl::RemakeRows(Change change) {
     reportsort::RowStateKeeper keeper(*rows, *selectedRows, focusedRow);
     change();
+    previews.Clear(); // they were those of other rows
     // Until the rows of before are found again, none of the new ones may be taken for them.
     focusedRow = -1;
     try {
         focusedRow = keeper.Restore();
+        MeasurePreviews();
     } catch (...) {
         selectedRows->SetRanges(RowSelection());
         control.AdjustLayout();

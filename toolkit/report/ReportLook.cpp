@@ -108,12 +108,13 @@ constexpr BodyColors ClassicBody = {
     Sys(COLOR_HIGHLIGHT),
     Sys(COLOR_HIGHLIGHTTEXT), // selection
     Between(COLOR_BTNFACE, COLOR_BTNSHADOW, 22),
-    Sys(COLOR_BTNTEXT),                         // selection without the focus
-    None,                                       // focus frame
-    Between(COLOR_WINDOW, COLOR_BTNSHADOW, 38), // grid lines
-    Sys(COLOR_HOTLIGHT),                        // hyperlink
-    Rgb(0xC00000),                              // drop mark
-    Sys(COLOR_BTNFACE),                         // group row
+    Sys(COLOR_BTNTEXT),                          // selection without the focus
+    None,                                        // focus frame
+    Between(COLOR_WINDOW, COLOR_BTNSHADOW, 38),  // grid lines
+    Sys(COLOR_HOTLIGHT),                         // hyperlink
+    Between(COLOR_WINDOWTEXT, COLOR_WINDOW, 35), // preview
+    Rgb(0xC00000),                               // drop mark
+    Sys(COLOR_BTNFACE),                          // group row
     Sys(COLOR_BTNTEXT),
     Sys(COLOR_BTNSHADOW), // line under it
     Sys(COLOR_BTNSHADOW), // tree lines
@@ -125,8 +126,9 @@ constexpr BodyColors ClassicBody = {
 constexpr BodyColors OfficeXPBody = {
     Sys(COLOR_WINDOW),  Sys(COLOR_WINDOWTEXT), Rgb(0xF1F5FB), Sys(COLOR_BTNFACE), Sys(COLOR_GRAYTEXT),
     Rgb(0xC1D2EE),      Rgb(0x000000),         Rgb(0xDCE0E8), Rgb(0x000000),      Rgb(0x316AC5),
-    Sys(COLOR_BTNFACE), Sys(COLOR_HOTLIGHT),   Rgb(0x316AC5), Rgb(0xE1E8F4),      Rgb(0x1F3A6E),
-    Rgb(0x9DB1D4),      Rgb(0xA9B7D1),         Rgb(0x7F93B9), Sys(COLOR_WINDOW),  Rgb(0x1F3A6E),
+    Sys(COLOR_BTNFACE), Sys(COLOR_HOTLIGHT),   Rgb(0x3F5580), Rgb(0x316AC5),      Rgb(0xE1E8F4),
+    Rgb(0x1F3A6E),      Rgb(0x9DB1D4),         Rgb(0xA9B7D1), Rgb(0x7F93B9),      Sys(COLOR_WINDOW),
+    Rgb(0x1F3A6E),
 };
 
 constexpr BodyColors Office2013Body = {
@@ -137,6 +139,7 @@ constexpr BodyColors Office2013Body = {
     Rgb(0x2A8DD4),                               //
     Rgb(0xE6E6E6),                               //
     Rgb(0x0072C6),                               //
+    Rgb(0x6A6A6A),                               //
     Rgb(0x0072C6),                               //
     Rgb(0xFFFFFF), Rgb(0x0072C6), Rgb(0xC6C6C6), // group row
     None,                                        //
@@ -151,6 +154,7 @@ constexpr BodyColors Windows7Body = {
     Rgb(0x7DA2CE),                               //
     Rgb(0xE9EDF2),                               //
     Rgb(0x0066CC),                               //
+    Rgb(0x5A6B80),                               //
     Rgb(0x3399FF),                               //
     Rgb(0xFFFFFF), Rgb(0x003399), Rgb(0xB9CCE4), // group row
     None,                                        //
@@ -165,6 +169,7 @@ constexpr BodyColors ResourceBody = {
     Rgb(0x4B7DB8),                               //
     Rgb(0xCEDAE9),                               //
     Rgb(0x1E5AA8),                               //
+    Rgb(0x3F5A7D),                               //
     Rgb(0xE08A00),                               //
     Rgb(0xDCE7F5), Rgb(0x15428B), Rgb(0x9DB8D6), // group row
     None,                                        //
@@ -179,10 +184,11 @@ constexpr BodyColors HighContrastBody = {
     Sys(COLOR_HIGHLIGHT), // the focus is told by its dotted rectangle
     Sys(COLOR_HIGHLIGHTTEXT), None,
     Sys(COLOR_BTNSHADOW),     Sys(COLOR_HOTLIGHT),
-    Sys(COLOR_HIGHLIGHT),     Sys(COLOR_WINDOW),
-    Sys(COLOR_WINDOWTEXT),    Sys(COLOR_WINDOWTEXT),
-    Sys(COLOR_WINDOWTEXT),    Sys(COLOR_WINDOWTEXT),
+    Sys(COLOR_WINDOWTEXT),    Sys(COLOR_HIGHLIGHT),
     Sys(COLOR_WINDOW),        Sys(COLOR_WINDOWTEXT),
+    Sys(COLOR_WINDOWTEXT),    Sys(COLOR_WINDOWTEXT),
+    Sys(COLOR_WINDOWTEXT),    Sys(COLOR_WINDOW),
+    Sys(COLOR_WINDOWTEXT),
 };
 
 constexpr ThemeLook ThemeLooks[] = {

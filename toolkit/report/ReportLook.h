@@ -24,6 +24,7 @@ enum class Role {
     FocusFrame, ///< around the focused row; none: the system's dotted rectangle
     GridLine,
     Hyperlink,
+    PreviewText, ///< below the cells of a row
     DropMark,
     GroupRow, ///< behind the caption of a group; none: that of the other rows
     GroupRowText,

@@ -18,6 +18,7 @@ class CXTPReportInplaceEdit;
 class CXTPReportPaintManager;
 class CXTPReportRecord;
 class CXTPReportRecordItem;
+class CXTPReportRecordItemPreview;
 class CXTPReportRecords;
 class CXTPReportRow;
 class CXTPReportRows;

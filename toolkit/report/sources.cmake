@@ -7,6 +7,7 @@ list(APPEND kytoolkit_report_SOURCES
     report/CXTPReportRecord.cpp
     report/CXTPReportRecordItem.cpp
     report/CXTPReportRecordItemNumber.cpp
+    report/CXTPReportRecordItemPreview.cpp
     report/CXTPReportRecordItemText.cpp
     report/CXTPReportRecords.cpp
     report/CXTPReportRows.cpp
@@ -28,6 +29,7 @@ list(APPEND kytoolkit_report_SOURCES
     report/CXTPReportControl_Mouse.cpp
     report/CXTPReportControl_Outline.cpp
     report/CXTPReportControl_Paint.cpp
+    report/CXTPReportControl_Preview.cpp
     report/CXTPReportControl_Scroll.cpp
     report/CXTPReportControl_Selection.cpp
     report/CXTPReportControl_Tips.cpp

@@ -86,9 +86,10 @@ BOOL ProfileGrid::CreateGrid(CWnd* parent, UINT id) {
     SetUpPaintManager();
     SetEmptyText(DefaultEmptyText());
     EnableShowHideColumns({kNameColumn});
-    AutoLoadReportState(kSection);
     return TRUE;
 }
+
+void ProfileGrid::RestoreLayout() { AutoLoadReportState(kSection); }
 
 void ProfileGrid::AddColumns() {
     struct Layout {

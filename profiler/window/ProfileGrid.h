@@ -43,8 +43,10 @@ public:
     /// Called on the user-interface thread with a sentence for the status bar.
     void SetStatusListener(std::function<void(const CString&)> listener) { m_status = std::move(listener); }
 
-    /// Creates the window and its columns, and restores the layout that the user left.
+    /// Creates the window and its columns.
     BOOL CreateGrid(CWnd* parent, UINT id);
+    /// Restores the layout that the user left; the window's end keeps the one that there is then.
+    void RestoreLayout();
 
     /// Called on the user-interface thread whenever other rows are shown, with the number of columns that have one.
     void SetRowsListener(std::function<void(std::size_t)> listener) { m_rowsShown = std::move(listener); }

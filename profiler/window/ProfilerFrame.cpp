@@ -117,6 +117,7 @@ int ProfilerFrame::OnCreate(LPCREATESTRUCT create) {
     if (!CreateStatusBar() || !m_grid.CreateGrid(this, AFX_IDW_PANE_FIRST) || !m_filter.Create(*this, m_grid) ||
         !m_messages.CreateFor(this))
         return -1;
+    m_grid.RestoreLayout();
     m_grid.SetRowsListener([this](std::size_t shown) {
         m_filter.ShowCount(shown, static_cast<std::size_t>(m_grid.GetRecords()->GetCount()));
     });

@@ -25,13 +25,16 @@ ReportLayout Profiler() {
             {}};
 }
 
-/// The same after its user has hidden columns, dragged some, and sorted.
+/// The same after its user has hidden columns, dragged some, sorted, grouped and frozen the first.
 ReportLayout RearrangedProfiler() {
     ReportLayout layout = Profiler();
     std::swap(layout.columns[1], layout.columns[7]);
     layout.columns[2].visible = layout.columns[3].visible = false;
     layout.columns[1].width = 731;
     layout.sortOrder = {{5, false}, {0, true}};
+    layout.groupsOrder = {{1, true}};
+    layout.dpi = 144;
+    layout.view = {1, true};
     return layout;
 }
 
@@ -44,7 +47,9 @@ ReportLayout Awkward() {
              {u"Gr\u00F6\u00DFe \xD83D\xDE00", 7, -1, true},
              {u"Name", 0, 0, true}},
             {{3, true}, {0, false}, {2, true}},
-            {{1, true}, {5, false}}};
+            {{1, true}, {5, false}},
+            96,
+            ReportLayout::View{0x7FFFFFFF, false}};
 }
 
 ReportLayout Wide() {

@@ -58,7 +58,8 @@ void OwnerWindow::OnContextMenu(CWnd*, CPoint) { ++contextMenus; }
 BOOL OwnerWindow::OnNotify(WPARAM, LPARAM lParam, LRESULT* pResult) {
     const auto* header = reinterpret_cast<const NMHDR*>(lParam);
     const bool isColumn =
-        header->code <= XTP_NM_REPORT_SORTORDERCHANGED && header->code >= XTP_NM_REPORT_COLUMNWIDTHCHANGED;
+        (header->code <= XTP_NM_REPORT_SORTORDERCHANGED && header->code >= XTP_NM_REPORT_COLUMNWIDTHCHANGED) ||
+        header->code == XTP_NM_REPORT_GROUPORDERCHANGED;
     if (isColumn) {
         const auto* notify = reinterpret_cast<const XTP_NM_REPORTCOLUMN*>(lParam);
         notifications.push_back({header->code, -1, nullptr, notify->pColumn});
@@ -254,6 +255,14 @@ std::unique_ptr<DibCanvas> GridTest::OnScreen() {
     CClientDC dc(&m_grid);
     canvas->Dc().BitBlt(0, 0, rc.Width(), rc.Height(), &dc, 0, 0, SRCCOPY);
     return canvas;
+}
+
+void GridTest::UsePlainLetters() {
+    LOGFONT font = {};
+    m_grid.GetPaintManager()->GetTextFont()->GetLogFont(&font);
+    font.lfQuality = NONANTIALIASED_QUALITY;
+    m_grid.GetPaintManager()->SetTextFont(font);
+    m_grid.AdjustLayout();
 }
 
 int GridTest::Difference(const DibCanvas& a, const DibCanvas& b) const {

@@ -126,6 +126,8 @@ protected:
     std::unique_ptr<DibCanvas> OnScreen();
     /// The number of pixels in which two pictures of the client area differ.
     int Difference(const DibCanvas& a, const DibCanvas& b) const;
+    /// Letters have one colour from now on, without smooth edges.
+    void UsePlainLetters();
     int RowHeight() const { return m_grid.GetPaintManager()->GetRowHeight(); }
     int HeaderHeight() const { return m_grid.GetPaintManager()->GetHeaderHeight(); }
 

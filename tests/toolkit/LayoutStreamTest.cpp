@@ -85,6 +85,32 @@ TEST(LayoutStream, RefusesAResolutionThatIsNone) {
     EXPECT_EQ(Decode(Patched(bytes, bytes.size() - 4, MaxDpi, 4)).status, Status::Ok);
 }
 
+TEST(LayoutStream, KeepsTheViewBehindTheSectionsThatOlderReadersKnow) {
+    ReportLayout layout = ThreeColumns();
+    layout.dpi = 96;
+    const auto without = Encode(layout);
+    EXPECT_EQ(Decode(without).layout.view, std::nullopt) << "a stream of before";
+    layout.view = {3, true};
+    const auto with = Encode(layout);
+    EXPECT_EQ(Decode(with).layout, layout);
+    const std::vector<std::uint8_t> section = {5, 0, 5, 0, 0, 0, 3, 0, 0, 0, 1};
+    ASSERT_EQ(with.size(), without.size() + section.size());
+    EXPECT_TRUE(std::equal(section.begin(), section.end(), with.end() - 11));
+    EXPECT_TRUE(std::equal(without.begin() + HeaderSize, without.end(), with.begin() + HeaderSize));
+    EXPECT_EQ(Decode(Patched(with, with.size() - 1, 0xFE, 1)).layout.view, (ReportLayout::View{3, false}))
+        << "bits that this version does not know";
+}
+
+TEST(LayoutStream, RefusesACountOfFrozenColumnsThatIsNone) {
+    ReportLayout layout = ThreeColumns();
+    layout.view = {0x7FFFFFFF, false};
+    const auto bytes = Encode(layout);
+    EXPECT_EQ(Decode(bytes).status, Status::Ok);
+    for (const int count : {-1, static_cast<int>(0x80000000)})
+        EXPECT_EQ(Decode(Patched(bytes, bytes.size() - 5, count, 4)).status, Status::Broken) << count;
+    EXPECT_EQ(Decode(Patched(bytes, bytes.size() - 9, 4, 4)).status, Status::Broken) << "without its flags";
+}
+
 TEST(LayoutStream, ScalesWidthsToTheResolutionOfTheGrid) {
     ReportLayout layout = ThreeColumns(); // 120, 80 and 60 pixels wide
     layout.dpi = 144;

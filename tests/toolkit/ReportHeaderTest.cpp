@@ -78,6 +78,106 @@ TEST_P(AddKeyTest, ShiftAndCtrlAddASortKey) {
 
 INSTANTIATE_TEST_SUITE_P(Keys, AddKeyTest, ::testing::Values(VK_SHIFT, VK_CONTROL));
 
+TEST_F(HeaderTest, RowsThatAreEqualInEveryKeyStayInTheRecordsOrder) {
+    for (int i = 0; i < 40; ++i) {
+        auto* record = new CXTPReportRecord;
+        CString text;
+        text.Format(_T("%c"), L'a' + i % 2);
+        record->AddItem(new ProbeItem(text));
+        text.Format(_T("%d"), i % 3);
+        record->AddItem(new ProbeItem(text));
+        text.Format(_T("%02d"), i);
+        record->AddItem(new ProbeItem(text));
+        m_grid.AddRecord(record);
+    }
+    m_header->Sort(m_columns[0], FALSE);
+    m_header->Sort(m_columns[1], TRUE);
+    m_header->Sort(m_columns[0], TRUE); // turns it round and keeps its rank
+    EXPECT_EQ(m_columns[0]->GetSortRank(), 1);
+    EXPECT_EQ(m_columns[1]->GetSortRank(), 2);
+    EXPECT_EQ(m_columns[2]->GetSortRank(), 0);
+    for (int i = 1; i < m_grid.GetRows()->GetCount(); ++i) {
+        const int first = Item(i - 1, 0)->GetValue().Compare(Item(i, 0)->GetValue());
+        const int second = Item(i - 1, 1)->GetValue().Compare(Item(i, 1)->GetValue());
+        ASSERT_GE(first, 0) << i;
+        ASSERT_TRUE(first > 0 || second <= 0) << i;
+        const bool isOlder = m_grid.GetRows()->GetAt(i - 1)->GetRecord()->GetIndex() <
+                             m_grid.GetRows()->GetAt(i)->GetRecord()->GetIndex();
+        ASSERT_TRUE(first > 0 || second < 0 || isOlder) << i;
+    }
+}
+
+class RankTest : public HeaderTest, public ::testing::WithParamInterface<int> {};
+
+TEST_P(RankTest, SeveralKeysShowTheirRank) {
+    CXTPReportPaintManager& look = *m_grid.GetPaintManager();
+    look.SetColumnStyle(static_cast<XTPReportColumnStyle>(GetParam()));
+    for (int i = 0; i < 2; ++i) {
+        m_columns[i]->SetCaption(_T(""));
+        m_columns[i]->SetWidth(90);
+    }
+    const COLORREF text = RGB(1, 2, 3);
+    look.m_clrHeaderText = text;
+    UsePlainLetters();
+    m_columns[2]->SetVisible(FALSE);
+    m_header->Sort(m_columns[0], FALSE);
+    EXPECT_EQ(Printed()->Count(text), 0) << "one key needs no rank";
+    EXPECT_EQ(look.GetSortMarkSpace(m_columns[0]), look.GetSortArrowSpace());
+    EXPECT_EQ(look.GetSortMarkSpace(m_columns[1]), 0);
+    m_header->Sort(m_columns[1], TRUE);
+    const auto picture = Printed();
+    const int right = 90 - look.GetCellPadding() - 1;
+    for (const int column : {0, 1}) {
+        int count = 0;
+        for (int y = 0; y < HeaderHeight(); ++y) {
+            for (int x = 90 * column; x < 90 * column + 90; ++x) {
+                if (picture->At(x, y) != text)
+                    continue;
+                ++count;
+                EXPECT_GE(x, 90 * column + right - look.GetSortMarkSpace(m_columns[column])) << column;
+                EXPECT_LT(x, 90 * column + right) << column;
+            }
+        }
+        EXPECT_GT(count, 3) << "a digit";
+    }
+    int different = 0;
+    for (int y = 0; y < HeaderHeight() - 3; ++y) {
+        for (int x = 3; x < 87; ++x)
+            different += (picture->At(x, y) == text) != (picture->At(x + 90, y) == text);
+    }
+    EXPECT_GT(different, 2) << "another digit";
+    m_columns[0]->SetCaption(_T("Caption"));
+    m_header->BestFit(m_columns[0]);
+    EXPECT_EQ(m_columns[0]->GetWidth(),
+              look.GetTextWidth(_T("Caption")) + look.GetSortMarkSpace(m_columns[0]) + 2 * look.GetCellPadding() + 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Styles, RankTest, ::testing::Range(0, 5));
+
+TEST_F(HeaderTest, TheTipTellsTheRank) {
+    const auto tip = [this](int column) {
+        TOOLINFO tool = {};
+        tool.cbSize = sizeof(tool);
+        if (m_grid.OnToolHitTest(HeaderOf(column), &tool) == -1)
+            return std::wstring(L"(none)");
+        const std::wstring text = tool.lpszText;
+        std::free(tool.lpszText);
+        return text;
+    };
+    m_header->Sort(m_columns[1], FALSE);
+    EXPECT_EQ(tip(1), L"(none)");
+    m_header->Sort(m_columns[0], TRUE);
+    EXPECT_EQ(tip(1), L"B\r\nSort order: 1 of 2");
+    EXPECT_EQ(tip(0), L"A\r\nSort order: 2 of 2");
+    EXPECT_EQ(tip(2), L"(none)");
+    m_columns[0]->SetTooltip(_T("the first"));
+    m_grid.GetPaintManager()->SetSortRankText(_T("%2: %1"));
+    EXPECT_EQ(tip(0), L"the first\r\n2: 2");
+    m_grid.GetPaintManager()->SetSortRankText(_T(""));
+    EXPECT_EQ(tip(0), L"the first");
+    EXPECT_EQ(tip(1), L"(none)");
+}
+
 TEST_F(HeaderTest, ColumnsThatAreNotSortableStay) {
     m_columns[0]->SetSortable(FALSE);
     Click(HeaderOf(0));

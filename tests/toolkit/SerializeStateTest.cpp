@@ -79,6 +79,32 @@ TEST_F(SerializeStateTest, RestoresIntoAnotherControl) {
     EXPECT_EQ(Describe(other), m_rearranged);
 }
 
+TEST_F(SerializeStateTest, RestoresFrozenColumnsAndTheGroupByBox) {
+    const Bytes plain = SaveLayout(m_control);
+    m_control.SetFreezeColumnsCount(2);
+    m_control.ShowGroupBy();
+    const Bytes frozen = SaveLayout(m_control);
+    EXPECT_EQ(LoadLayout(m_control, plain), CArchiveException::none);
+    EXPECT_EQ(m_control.GetFreezeColumnsCount(), 0);
+    EXPECT_FALSE(m_control.IsGroupByVisible());
+    EXPECT_EQ(LoadLayout(m_control, frozen), CArchiveException::none);
+    EXPECT_EQ(m_control.GetFreezeColumnsCount(), 2);
+    EXPECT_TRUE(m_control.IsGroupByVisible());
+    EXPECT_EQ(SaveLayout(m_control), frozen);
+}
+
+TEST_F(SerializeStateTest, ALayoutOfBeforeLeavesFrozenColumnsAndTheBoxAlone) {
+    Bytes bytes = SaveLayout(m_control);
+    constexpr std::size_t viewSection = 2 + 4 + 4 + 1;
+    bytes.resize(bytes.size() - viewSection);
+    bytes[6] = static_cast<BYTE>(bytes[6] - viewSection);
+    m_control.SetFreezeColumnsCount(1);
+    m_control.ShowGroupBy();
+    EXPECT_EQ(LoadLayout(m_control, bytes), CArchiveException::none);
+    EXPECT_EQ(m_control.GetFreezeColumnsCount(), 1);
+    EXPECT_TRUE(m_control.IsGroupByVisible());
+}
+
 TEST_F(SerializeStateTest, SortsTheRowsAsTheLayoutSays) {
     for (const wchar_t* text : {L"b", L"a", L"c"})
         AddTexts(m_control, {text});

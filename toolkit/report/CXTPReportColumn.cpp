@@ -3,6 +3,7 @@
 
 #include "CXTPReportColumns.h"
 #include "CXTPReportControl.h"
+#include "CXTPReportHeader.h"
 #include "CXTPReportPaintManager.h"
 #include "CXTPReportRecord.h"
 #include "CXTPReportRecordItem.h"
@@ -55,36 +56,77 @@ int CXTPReportColumn::GetDpi() const {
     return pControl ? pControl->GetPaintManager()->GetDpi() : 0;
 }
 
+int CXTPReportColumn::GetOwnWidth() const { return std::clamp(m_setWidth.At(GetDpi()), m_nMinWidth, m_nMaxWidth); }
+
+bool CXTPReportColumn::IsSizedWithView() const {
+    const CXTPReportControl* const pControl = GetControl();
+    return pControl && pControl->GetReportHeader()->IsAutoColumnSizing();
+}
+
 void CXTPReportColumn::SetWidth(int nWidth) {
     nWidth = std::clamp(nWidth, m_nMinWidth, m_nMaxWidth);
-    if (nWidth != m_nWidth)
-        m_setWidth = {nWidth, GetDpi()};
-    Set(m_nWidth, nWidth, Effect::Layout);
+    if (nWidth == GetOwnWidth())
+        return;
+    m_setWidth = {nWidth, GetDpi()};
+    m_nWidth = nWidth;
+    Changed(Effect::Layout);
 }
 
 void CXTPReportColumn::RestoreWidth(const DpiLength& width) {
+    const bool isSame = width == m_setWidth;
     m_setWidth = width;
-    Set(m_nWidth, std::clamp(width.At(GetDpi()), m_nMinWidth, m_nMaxWidth), Effect::Layout);
+    m_nWidth = GetOwnWidth();
+    if (!isSame)
+        Changed(Effect::Layout);
+}
+
+/// Lays out when a limit has moved the width that the column had, and where a limit moves those of others.
+void CXTPReportColumn::KeepLimits(int nOwnWidth) {
+    const int nWidth = std::clamp(nOwnWidth, m_nMinWidth, m_nMaxWidth);
+    if (nWidth != nOwnWidth)
+        m_setWidth = {nWidth, GetDpi()};
+    else if (!IsSizedWithView())
+        return;
+    m_nWidth = nWidth;
+    Changed(Effect::Layout);
 }
 
 void CXTPReportColumn::SetMinWidth(int nMinWidth) {
+    const int nOwnWidth = GetOwnWidth();
     m_nMinWidth = std::max(nMinWidth, 0);
     m_setMinWidth = {m_nMinWidth, GetDpi()};
     if (m_nMaxWidth < m_nMinWidth) {
         m_nMaxWidth = m_nMinWidth;
         m_setMaxWidth = m_setMinWidth;
     }
-    SetWidth(m_nWidth);
+    KeepLimits(nOwnWidth);
 }
 
 void CXTPReportColumn::SetMaxWidth(int nMaxWidth) {
+    const int nOwnWidth = GetOwnWidth();
     m_nMaxWidth = std::max(nMaxWidth, 0);
     m_setMaxWidth = {m_nMaxWidth, GetDpi()};
     if (m_nMinWidth > m_nMaxWidth) {
         m_nMinWidth = m_nMaxWidth;
         m_setMinWidth = m_setMaxWidth;
     }
-    SetWidth(m_nWidth);
+    KeepLimits(nOwnWidth);
+}
+
+void CXTPReportColumn::SetAutoSize(BOOL bAutoSize) {
+    if (!m_bAutoSize == !bAutoSize)
+        return;
+    m_bAutoSize = bAutoSize != FALSE;
+    if (IsSizedWithView())
+        Changed(Effect::Layout);
+}
+
+CRect CXTPReportColumn::GetUncoveredRect() const {
+    CRect rc(m_rcColumn);
+    const CXTPReportControl* const pControl = GetControl();
+    if (!m_bFrozen && pControl)
+        rc.left = std::max<int>(rc.left, pControl->GetReportHeader()->GetFreezeEdge());
+    return rc.left < rc.right ? rc : CRect();
 }
 
 void CXTPReportColumn::FollowDpi() {
@@ -96,7 +138,7 @@ void CXTPReportColumn::FollowDpi() {
     // Both limits are rounded alike, so that they stay in order.
     m_nMinWidth = m_setMinWidth.At(dpi);
     m_nMaxWidth = m_setMaxWidth.At(dpi);
-    m_nWidth = std::clamp(m_setWidth.At(dpi), m_nMinWidth, m_nMaxWidth);
+    m_nWidth = GetOwnWidth();
 }
 
 void CXTPReportColumn::SetAlignment(int nAlignment) { Set(m_nAlignment, nAlignment, Effect::Look); }
@@ -118,7 +160,9 @@ void CXTPReportColumn::SetVisible(BOOL bVisible) {
     Set(m_bVisible, static_cast<BOOL>(bVisible != FALSE), Effect::Layout);
 }
 
-BOOL CXTPReportColumn::IsSorted() const { return m_pColumns && m_pColumns->GetSortOrder()->IndexOf(this) >= 0; }
+BOOL CXTPReportColumn::IsSorted() const { return GetSortRank() > 0; }
+
+int CXTPReportColumn::GetSortRank() const { return m_pColumns ? m_pColumns->GetSortOrder()->IndexOf(this) + 1 : 0; }
 
 BOOL CXTPReportColumn::IsSortedIncreasing() const { return IsSorted() && m_bSortIncreasing; }
 

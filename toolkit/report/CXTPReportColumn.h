@@ -19,7 +19,7 @@ public:
     /// @param nItemIndex which item of a record the column shows
     /// @param strName    the caption, and the internal name as well
     /// @param nWidth     pixels; clamped to 10…32000, the limits at first
-    /// @param bAutoSize  kept for the host, see `IsAutoSize`
+    /// @param bAutoSize  whether the column gets wider and narrower with the view, see `IsAutoSize`
     /// @param nIconID    kept for the host, see `GetIconID`
     /// @param bSortable  whether a click on the header sorts by the column
     /// @param bVisible   whether the column is shown
@@ -43,7 +43,9 @@ public:
     void SetTooltip(LPCTSTR strTooltip) { m_strTooltip = strTooltip; } ///< shown while the pointer rests on the header
 
     /// Pixels. Setting clamps to the minimum and maximum width; so does moving a limit past the width. A minimum above
-    /// the maximum moves the maximum, and the other way round. At first 10 and 32000.
+    /// the maximum moves the maximum, and the other way round. At first 10 and 32000. While the column is sized with
+    /// the view (`CXTPReportHeader::SetAutoColumnSizing`), what is set is its share in proportion to those of the
+    /// others, and what is told the width that it has by it.
     int GetWidth() const { return m_nWidth; }
     void SetWidth(int nWidth);                      ///< pixels, clamped to the limits
     int GetMinWidth() const { return m_nMinWidth; } ///< pixels
@@ -86,9 +88,13 @@ public:
     /// The header draws no line between this column and the next one; FALSE at first.
     BOOL IsDividerHidden() const { return m_bDividerHidden; }
     void HideDivider(BOOL bHide); ///< resizing at the divider stays as it was
-    /// Kept for the host: the control itself never sizes columns by the width of its window.
+    /// Whether the column gets wider and narrower with the view, where `CXTPReportHeader::SetAutoColumnSizing` has
+    /// columns do so. TRUE at first; a column without it keeps its width.
     BOOL IsAutoSize() const { return m_bAutoSize; }
-    void SetAutoSize(BOOL bAutoSize) { m_bAutoSize = bAutoSize; } ///< see `IsAutoSize`
+    void SetAutoSize(BOOL bAutoSize); ///< see `IsAutoSize`
+    /// Whether the user may group rows by the column, in the group-by box or by its key; TRUE at first.
+    BOOL IsGroupable() const { return m_bGroupable; }
+    void SetGroupable(BOOL bGroupable) { m_bGroupable = bGroupable; } ///< does not take it out of the groups
     /// Kept for the host, −1 for none: headers draw no icons.
     int GetIconID() const { return m_nIconID; }
 
@@ -99,9 +105,16 @@ public:
     BOOL IsSortIncreasing() const { return m_bSortIncreasing; }
     void SetSortIncreasing(BOOL bIncreasing) { m_bSortIncreasing = bIncreasing; } ///< `Populate` sorts, this does not
 
-    /// The header cell in client coordinates, as laid out last; empty while hidden.
+    /// The header cell in client coordinates, as laid out last; empty while hidden. A part of it may lie outside the
+    /// view, or beneath columns that stay while it scrolls (`CXTPReportControl::SetFreezeColumnsCount`).
     CRect GetRect() const { return m_rcColumn; }
+    /// The part of `GetRect` that no frozen column covers; empty where all of it is covered.
+    CRect GetUncoveredRect() const;
+    /// Whether the column stays while others scroll beneath it, as laid out last.
+    BOOL IsFrozen() const { return m_bFrozen; }
     void SetRect(const CRect& rc) { m_rcColumn = rc; } ///< for the header as it lays out the columns
+    /// The place in the sort order, 1 for the first; 0 while the rows are not sorted by it.
+    int GetSortRank() const;
     /// The width at which caption and visible-page texts show without ellipsis, in pixels. A column with cells that
     /// draw something else than a text keeps at least the width it has. Answers within a twentieth of a second: where
     /// texts are slow to come by, those of the upper rows decide.
@@ -119,6 +132,11 @@ private:
     template <class T, class U>
     void Set(T& member, const U& value, Effect effect);
     int GetDpi() const;
+    /// As it was set, whatever the view has made of it.
+    int GetOwnWidth() const;
+    void KeepLimits(int nOwnWidth);
+    /// The view may give the column another width than its own.
+    bool IsSizedWithView() const;
     /// Takes the lengths that were set before the column had a control as lengths at the control's resolution, and
     /// works out the present ones; the control lays out afterwards.
     void FollowDpi();
@@ -128,7 +146,7 @@ private:
     int m_nItemIndex;
     DpiLength m_setMinWidth{10}, m_setMaxWidth{32000}, m_setWidth;
     int m_nMinWidth = 10, m_nMaxWidth = 32000; // in front of the width, which is clamped to them from the start
-    int m_nWidth;                              ///< the three as they are at the present resolution
+    int m_nWidth; ///< the three as they are at the present resolution; the width also as the view has made it
     int m_nAlignment = DT_LEFT;
     int m_nHeaderAlignment = -1;
     int m_nIconID;
@@ -136,6 +154,7 @@ private:
     BOOL m_bAllowRemove = TRUE, m_bAllowDragging = TRUE, m_bResizable = TRUE, m_bEditable = TRUE;
     BOOL m_bDividerHidden = FALSE;
     BOOL m_bFiltrable = TRUE, m_bTreeColumn = FALSE;
+    BOOL m_bGroupable = TRUE, m_bFrozen = FALSE;
     BOOL m_bSortIncreasing = TRUE;
     CRect m_rcColumn;
 };

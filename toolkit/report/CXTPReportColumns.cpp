@@ -12,12 +12,15 @@ CXTPReportColumn* CXTPReportColumnOrder::GetAt(int nIndex) const {
     return nIndex >= 0 && nIndex < GetCount() ? m_columns[nIndex] : nullptr;
 }
 
-int CXTPReportColumnOrder::Add(CXTPReportColumn* pColumn) {
+int CXTPReportColumnOrder::Add(CXTPReportColumn* pColumn) { return InsertAt(GetCount(), pColumn); }
+
+int CXTPReportColumnOrder::InsertAt(int nIndex, CXTPReportColumn* pColumn) {
     if (!pColumn)
         return -1;
     Remove(pColumn);
-    m_columns.push_back(pColumn);
-    return GetCount() - 1;
+    nIndex = std::clamp(nIndex, 0, GetCount());
+    m_columns.insert(m_columns.begin() + nIndex, pColumn);
+    return nIndex;
 }
 
 int CXTPReportColumnOrder::Add(CXTPReportColumn* pColumn, BOOL bSortIncreasing) {

@@ -18,6 +18,9 @@ public:
     int Add(CXTPReportColumn* pColumn);
     /// As above, and gives the column that direction.
     int Add(CXTPReportColumn* pColumn, BOOL bSortIncreasing);
+    /// Puts the column at that place, which is brought into the places there are; one that is there already leaves its
+    /// former place first. Returns its place, −1 for null.
+    int InsertAt(int nIndex, CXTPReportColumn* pColumn);
     int IndexOf(const CXTPReportColumn* pColumn) const; ///< −1 when absent
     void Remove(CXTPReportColumn* pColumn);             ///< from the order, not from the control
     void Clear() { m_columns.clear(); }                 ///< the rows keep their order until the next `Populate`

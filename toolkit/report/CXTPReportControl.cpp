@@ -251,6 +251,27 @@ void CXTPReportControl::Impl::TakePaintManager(std::unique_ptr<CXTPReportPaintMa
     control.AdjustLayout();
 }
 
+void CXTPReportControl::ShowGroupBy(BOOL bShow) {
+    if (m_impl->isGroupByShown == (bShow != FALSE))
+        return;
+    m_impl->CancelGesture();
+    m_impl->isGroupByShown = bShow != FALSE;
+    AdjustLayout();
+}
+
+BOOL CXTPReportControl::IsGroupByVisible() const { return m_impl->isGroupByShown; }
+
+void CXTPReportControl::SetFreezeColumnsCount(int nCount) {
+    nCount = std::max(nCount, 0);
+    if (m_impl->freezeCount == nCount)
+        return;
+    m_impl->CancelGesture();
+    m_impl->freezeCount = nCount;
+    AdjustLayout();
+}
+
+int CXTPReportControl::GetFreezeColumnsCount() const { return m_impl->freezeCount; }
+
 // --- Assistive programs ---------------------------------------------------------------------------------------------
 
 LRESULT CXTPReportControl::OnGetObject(WPARAM wParam, LPARAM lParam) {

@@ -39,9 +39,10 @@
 /// goes to the first row below, and left collapses or goes to the row above. The number pad's plus, minus and asterisk
 /// expand, collapse, and expand with all below, where a cell does not want them typed; F3 sorts by it, with shift in
 /// addition; alt+left and alt+right change its width, alt+plus fits it, ctrl+plus fits all; ctrl+shift+left and right
-/// move it; alt+down opens the menu of its header. Enter follows the link of the focused cell, else it edits it, else
-/// it sends NM_RETURN. The menu key sends NM_RCLICK for the focused cell; when the owner answers 0, the menu of the
-/// focused column's header opens. Ctrl+F1 shows the tool tip of the focused cell.
+/// move it; ctrl+G groups by it, or no longer, while the group-by box is shown, with shift it turns the order of its
+/// groups round; alt+down opens the menu of its header. Enter follows the link of the focused cell, else it edits it,
+/// else it sends NM_RETURN. The menu key sends NM_RCLICK for the focused cell; when the owner answers 0, the menu of
+/// the focused column's header opens. Ctrl+F1 shows the tool tip of the focused cell.
 ///
 /// Editing. Where `AllowEdit`, the column and the item allow it, F2, Enter, a double click and typing edit the focused
 /// cell, tab and shift+tab the next and the previous such cell. A session begins when the owner does not refuse
@@ -138,9 +139,22 @@ public:
     /// is no such row.
     CRect GetRowRect(int nRowIndex) const;
     CRect GetHeaderRect() const;                ///< where the header is shown
+    CRect GetGroupByRect() const;               ///< where the group-by box is shown; empty without one
     CXTPReportRow* HitTest(CPoint pt) const;    ///< the row under the point; null if none
     XTPReportMouseMode GetMouseMode() const;    ///< xtpReportMouseNothing while no gesture is under way
     void SetMouseMode(XTPReportMouseMode mode); ///< for the header: neither starts nor ends a gesture
+
+    // --- Columns ----------------------------------------------------------------------------------------------------
+    /// The box above the header into which headers are dragged to group by their columns; not shown at first. Hiding it
+    /// leaves the groups as they are. Kept in saved layouts.
+    void ShowGroupBy(BOOL bShow = TRUE);
+    BOOL IsGroupByVisible() const; ///< see `ShowGroupBy`
+    /// So many of the visible columns, from the left, stay while the others scroll sideways beneath them; 0 at first,
+    /// negative counts are 0. While they would take more than three quarters of a view that has to scroll, those from
+    /// the right that do scroll with the others, so that every part of each column can be reached. Kept in saved
+    /// layouts.
+    void SetFreezeColumnsCount(int nCount);
+    int GetFreezeColumnsCount() const; ///< as it was set; see `CXTPReportColumn::IsFrozen`
 
     // --- Selection and focus ----------------------------------------------------------------------------------------
     /// Without it a single row is selected at most: when several are, the focused one stays (else the topmost), which
@@ -186,7 +200,8 @@ public:
     virtual void DoDraw(CDC* pDC, const CRect& rcDirty);
 
     // --- Layout persistence ----------------------------------------------------------------------------------------
-    /// Writes or reads the layout: columns by identity with order, width and visibility, sort order and grouping.
+    /// Writes or reads the layout: columns by identity with order, width and visibility, sort order and grouping, the
+    /// number of frozen columns, and whether the group-by box is shown; layouts without these two leave them alone.
     /// Reading checks the whole stream first and throws CArchiveException* on anything broken, before it changes
     /// anything; unknown columns are dropped, columns the stream does not know keep their state and go to the end.
     /// Widths keep their proportions when they were written at another resolution.
@@ -276,7 +291,7 @@ protected:
     void OnLButtonDblClk(UINT nFlags, CPoint point);
     void OnRButtonDown(UINT nFlags, CPoint point); ///< focuses the row; one that is not selected is selected alone
     void OnRButtonUp(UINT nFlags, CPoint point);   ///< sends NM_RCLICK, then becomes WM_CONTEXTMENU
-    /// Over the header the header's affair, elsewhere the parent's.
+    /// Over the header and the group-by box the header's affair, elsewhere the parent's.
     void OnContextMenu(CWnd* pWnd, CPoint ptScreen);
     void OnMouseMove(UINT nFlags, CPoint point); ///< goes on with a gesture, else routes to the item under the point
     void OnMouseLeave();                         ///< no column of the header is hot any more

@@ -124,6 +124,10 @@ bool CXTPReportControl::Impl::ColumnByKey(UINT key) {
         SortByKey(ColumnForKeys(), isShift || isCtrl);
         return true;
     }
+    if (key == 'G' && isCtrl) {
+        GroupByKey(ColumnForKeys(), isShift);
+        return true;
+    }
     if ((key == VK_ADD || key == VK_OEM_PLUS) && isCtrl) {
         CancelGesture();
         BestFitAll();
@@ -142,8 +146,7 @@ bool CXTPReportControl::Impl::ColumnByAltKey(UINT key) {
         return true;
     case VK_PRIOR:
     case VK_NEXT: {
-        const int page = std::max<int>(ClientRect().Width(), 1);
-        ScrollSidewaysTo(leftOffset + (key == VK_PRIOR ? -page : page));
+        ScrollSidewaysTo(leftOffset + (key == VK_PRIOR ? -SidewaysPage() : SidewaysPage()));
         return true;
     }
     case VK_ADD:
@@ -166,7 +169,8 @@ void CXTPReportControl::Impl::MoveFocusSideways(int direction) {
         return;
     const bool isFirst = control.GetFocusedColumn() == nullptr;
     const CRect rcColumn = column->GetRect();
-    const int hidden = direction < 0 ? -static_cast<int>(rcColumn.left) : rcColumn.right - ClientRect().right;
+    const int left = column->IsFrozen() ? 0 : header->GetFreezeEdge();
+    const int hidden = direction < 0 ? left - static_cast<int>(rcColumn.left) : rcColumn.right - ClientRect().right;
     CXTPReportColumn* target = column;
     if (hidden <= 0 && !isFirst) {
         CXTPReportColumn* next = columns->GetVisibleAt(VisibleIndexOf(*columns, column) + direction);
@@ -183,12 +187,14 @@ void CXTPReportControl::Impl::MoveFocusSideways(int direction) {
 }
 
 void CXTPReportControl::Impl::ShowColumn(const CXTPReportColumn* column) {
-    if (!column)
+    if (!column || column->IsFrozen())
         return;
+    // The columns that scroll have a view of their own, beside the frozen ones.
     const CRect rc = column->GetRect();
-    const gridgeometry::ColumnExtent unscrolled = {static_cast<int>(rc.left) + leftOffset,
-                                                   static_cast<int>(rc.right) + leftOffset, true};
-    ScrollSidewaysTo(gridgeometry::LeftOffsetToShow(leftOffset, unscrolled, ClientRect().Width()));
+    const int unscrolled = leftOffset - header->GetFreezeEdge();
+    const gridgeometry::ColumnExtent extent = {static_cast<int>(rc.left) + unscrolled,
+                                               static_cast<int>(rc.right) + unscrolled, true};
+    ScrollSidewaysTo(gridgeometry::LeftOffsetToShow(leftOffset, extent, SidewaysPage()));
 }
 
 /// The column for keys is focused, marked and in view. False when there is none, or the owner has taken it away.
@@ -235,6 +241,21 @@ void CXTPReportControl::Impl::FitByKey(CXTPReportColumn* column) {
         return;
     header->BestFit(column);
     control.SendColumnNotify(XTP_NM_REPORT_COLUMNWIDTHCHANGED, column);
+}
+
+/// As the mouse in the group-by box, and as little without one.
+void CXTPReportControl::Impl::GroupByKey(CXTPReportColumn* column, bool turns) {
+    if (!isGroupByShown || !TakeColumn(column))
+        return;
+    const WindowGuard guard(control);
+    if (turns)
+        header->TurnGroup(column);
+    else if (columns->GetGroupsOrder()->IndexOf(column) >= 0)
+        header->Ungroup(column);
+    else
+        header->GroupBy(column);
+    if (!guard.IsGone() && focusedRow >= 0)
+        ShowRow(focusedRow);
 }
 
 void CXTPReportControl::Impl::OpenHeaderMenu(CXTPReportColumn* column) {

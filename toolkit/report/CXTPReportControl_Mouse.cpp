@@ -46,6 +46,10 @@ XTPReportMouseMode CXTPReportControl::GetMouseMode() const { return m_impl->mous
 
 void CXTPReportControl::SetMouseMode(XTPReportMouseMode mode) { m_impl->mouseMode = mode; }
 
+bool CXTPReportControl::Impl::IsOverHeader(CPoint point) const {
+    return control.GetHeaderRect().PtInRect(point) || control.GetGroupByRect().PtInRect(point);
+}
+
 bool CXTPReportControl::Impl::IsHeaderGesture() const {
     return mouseMode == xtpReportMousePrepareColumnDrag || mouseMode == xtpReportMouseColumnDrag ||
            mouseMode == xtpReportMouseColumnResize;
@@ -65,7 +69,7 @@ void CXTPReportControl::OnLButtonDown(UINT nFlags, CPoint point) {
         SetFocus();
     if (guard.IsGone())
         return;
-    if (GetHeaderRect().PtInRect(point))
+    if (m_impl->IsOverHeader(point))
         m_impl->header->OnLButtonDown(point);
     else
         m_impl->PressRow(nFlags, point);
@@ -169,7 +173,7 @@ void CXTPReportControl::Impl::Click(const CellHit& pressed, CPoint point) {
 void CXTPReportControl::OnLButtonDblClk(UINT nFlags, CPoint point) {
     const WindowGuard guard(*this);
     m_impl->toolTips.CancelToolTips();
-    if (GetHeaderRect().PtInRect(point)) {
+    if (m_impl->IsOverHeader(point)) {
         m_impl->header->OnLButtonDblClk(point);
         return;
     }
@@ -324,7 +328,7 @@ void CXTPReportControl::OnMouseMove(UINT nFlags, CPoint point) {
 }
 
 void CXTPReportControl::Impl::HoverHeader(UINT flags, CPoint point) {
-    if (control.GetHeaderRect().PtInRect(point) && mouseMode != xtpReportMouseSelectingRows)
+    if (IsOverHeader(point) && mouseMode != xtpReportMouseSelectingRows)
         header->OnMouseMove(flags, point);
     else
         header->OnMouseLeave();
@@ -417,7 +421,6 @@ void CXTPReportControl::OnContextMenu(CWnd* pWnd, CPoint ptScreen) {
     const WindowGuard guard(*this);
     m_impl->toolTips.CancelToolTips();
     m_impl->CancelGesture();
-    const CRect rcHeader = GetHeaderRect();
     CPoint point(ptScreen);
     if (ptScreen == CPoint(-1, -1)) {
         // From the keyboard: the owner's menu for the focused cell, and the header's where the owner has none.
@@ -431,7 +434,7 @@ void CXTPReportControl::OnContextMenu(CWnd* pWnd, CPoint ptScreen) {
         return;
     }
     ScreenToClient(&point);
-    if (!rcHeader.PtInRect(point)) {
+    if (!m_impl->IsOverHeader(point)) {
         CWnd::OnContextMenu(pWnd, ptScreen);
         return;
     }

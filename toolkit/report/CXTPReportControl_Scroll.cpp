@@ -30,12 +30,18 @@ CRect CXTPReportControl::Impl::ClientRect() const {
 
 CRect CXTPReportControl::GetHeaderRect() const {
     const CRect rcClient = m_impl->ClientRect();
-    return CRect(0, 0, rcClient.right, m_impl->paintManager->GetHeaderHeight());
+    const int top = GetGroupByRect().bottom;
+    return CRect(0, top, rcClient.right, top + m_impl->paintManager->GetHeaderHeight());
+}
+
+CRect CXTPReportControl::GetGroupByRect() const {
+    const int height = m_impl->isGroupByShown ? m_impl->paintManager->GetGroupByHeight() : 0;
+    return CRect(0, 0, m_impl->ClientRect().right, height);
 }
 
 CRect CXTPReportControl::GetReportRectangle() const {
     const CRect rcClient = m_impl->ClientRect();
-    const int top = m_impl->paintManager->GetHeaderHeight();
+    const int top = GetHeaderRect().bottom;
     return CRect(0, top, rcClient.right, std::max<int>(rcClient.bottom, top));
 }
 
@@ -84,6 +90,7 @@ void CXTPReportControl::Impl::LayOut() {
     } end{isLayingOut};
     WrapPreviews();
     FitBars();
+    header->FitColumns(ClientRect().Width());
     topRow = RowGrid().ClampTopRow(chosenTopRow);
     leftOffset = gridgeometry::ClampLeftOffset(chosenLeftOffset.At(paintManager->GetDpi()), header->GetTotalWidth(),
                                                ClientRect().Width());
@@ -105,9 +112,9 @@ void CXTPReportControl::Impl::FitBars() {
     CRect rcView = ClientRect();
     rcView.right += style & WS_VSCROLL ? barWidth : 0;
     rcView.bottom += style & WS_HSCROLL ? barHeight : 0;
-    const int viewHeight = std::max<int>(rcView.Height() - paintManager->GetHeaderHeight(), 0);
+    const int viewHeight = std::max<int>(rcView.Height() - control.GetHeaderRect().bottom, 0);
     const gridgeometry::ScrollBars bars = gridgeometry::FitScrollBars(
-        rcView.Width(), viewHeight, header->GetTotalWidth(), RowGrid().TotalHeight(), barWidth, barHeight);
+        rcView.Width(), viewHeight, header->GetLeastWidth(), RowGrid().TotalHeight(), barWidth, barHeight);
     barV.isShown = (style & WS_VSCROLL) != 0;
     barH.isShown = (style & WS_HSCROLL) != 0;
     if (bars.vertical != barV.isShown)
@@ -239,6 +246,10 @@ void CXTPReportControl::Impl::ScrollSidewaysTo(int offset) {
 
 int CXTPReportControl::Impl::SidewaysStep() const { return paintManager->ScaleForDpi(SidewaysStepAt96Dpi); }
 
+int CXTPReportControl::Impl::SidewaysPage() const {
+    return std::max<int>(control.GetHeaderRect().right - header->GetFreezeEdge(), 1);
+}
+
 // --- Scroll bars ----------------------------------------------------------------------------------------------------
 
 int CXTPReportControl::Impl::ScrollTarget(int bar, UINT code, UINT pos, int current, int line, int page,
@@ -295,7 +306,7 @@ void CXTPReportControl::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBa
     const int viewWidth = m_impl->ClientRect().Width();
     const int maximum = gridgeometry::MaxLeftOffset(m_impl->header->GetTotalWidth(), viewWidth);
     m_impl->ScrollSidewaysTo(m_impl->ScrollTarget(SB_HORZ, nSBCode, nPos, m_impl->leftOffset, m_impl->SidewaysStep(),
-                                                  std::max(viewWidth, 1), maximum));
+                                                  m_impl->SidewaysPage(), maximum));
 }
 
 // --- Wheel ----------------------------------------------------------------------------------------------------------

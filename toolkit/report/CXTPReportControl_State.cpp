@@ -1,4 +1,5 @@
-// The saved layout of a report control: its columns and their order, sorting and grouping.
+// The saved layout of a report control: its columns and their order, sorting and grouping, frozen columns, and the
+// group-by box.
 #include "CXTPReportControl.h"
 
 #include "CXTPReportColumn.h"
@@ -25,9 +26,11 @@ std::vector<Key> DescribeOrder(const CXTPReportColumnOrder& order) {
     return keys;
 }
 
-ReportLayout DescribeLayout(CXTPReportColumns& columns, int dpi) {
+ReportLayout DescribeLayout(const CXTPReportControl& control) {
+    CXTPReportColumns& columns = *control.GetColumns();
     ReportLayout layout;
-    layout.dpi = dpi;
+    layout.dpi = control.GetPaintManager()->GetDpi();
+    layout.view = {control.GetFreezeColumnsCount(), control.IsGroupByVisible() != FALSE};
     for (int i = 0; i < columns.GetCount(); ++i) {
         const CXTPReportColumn* const column = columns.GetAt(i);
         layout.columns.push_back({ToUtf16(column->GetInternalName()), column->GetItemIndex(), column->GetWidth(),
@@ -116,10 +119,8 @@ ReportLayout ReadLayout(CArchive& ar) {
 } // namespace
 
 void CXTPReportControl::SerializeState(CArchive& ar) {
-    CXTPReportColumns& columns = *GetColumns();
-    const int dpi = GetPaintManager()->GetDpi();
     if (ar.IsStoring()) {
-        const std::vector<std::uint8_t> bytes = Encode(DescribeLayout(columns, dpi));
+        const std::vector<std::uint8_t> bytes = Encode(DescribeLayout(*this));
         ar.Write(bytes.data(), static_cast<UINT>(bytes.size()));
         return;
     }
@@ -128,6 +129,11 @@ void CXTPReportControl::SerializeState(CArchive& ar) {
     EditItem(nullptr); // first, because its hooks may change the columns
     if (hWnd && !::IsWindow(hWnd))
         return;
-    ApplyPlan(ApplyLayout(layout, DescribeLiveColumns(columns), dpi), columns);
+    CXTPReportColumns& columns = *GetColumns();
+    ApplyPlan(ApplyLayout(layout, DescribeLiveColumns(columns), GetPaintManager()->GetDpi()), columns);
+    if (layout.view) {
+        SetFreezeColumnsCount(layout.view->frozenColumns);
+        ShowGroupBy(layout.view->isGroupByShown);
+    }
     Populate();
 }

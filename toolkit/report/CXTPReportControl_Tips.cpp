@@ -10,8 +10,9 @@
 
 namespace {
 
-/// Tool numbers of header columns; those of cells begin above.
+/// Tool numbers of header columns; those of buttons in the group-by box, and of cells, begin above.
 constexpr INT_PTR FirstHeaderTool = 1;
+constexpr INT_PTR FirstGroupTool = INT_PTR{1} << 23;
 constexpr INT_PTR FirstCellTool = INT_PTR{1} << 24;
 
 /// The text of a cell that does not fit into it; empty when there is nothing to add to what one sees.
@@ -21,21 +22,51 @@ CString CutOffText(CXTPReportControl& control, const CellHit& hit) {
     return CellTextWidth(metrics) > room ? metrics.strText : CString();
 }
 
+/// The rank of a column by which rows are sorted together with others; empty for all else.
+CString SortRankText(const CXTPReportColumn& column, const CXTPReportPaintManager& paintManager) {
+    const int count = column.GetColumns()->GetSortOrder()->GetCount();
+    if (!column.IsSorted() || count < 2)
+        return CString();
+    CString text = paintManager.GetSortRankText(), number;
+    number.Format(_T("%d"), column.GetSortRank());
+    text.Replace(_T("%1"), number);
+    number.Format(_T("%d"), count);
+    text.Replace(_T("%2"), number);
+    return text;
+}
+
+CString HeaderTip(const CXTPReportColumn& column, const CXTPReportPaintManager& paintManager) {
+    CString tip = column.GetTooltip();
+    const CString rank = SortRankText(column, paintManager);
+    const int room = column.GetWidth() - 2 * paintManager.GetCellPadding() - paintManager.GetSortMarkSpace(&column);
+    if (tip.IsEmpty() && (!rank.IsEmpty() || paintManager.GetTextWidth(column.GetCaption()) > room))
+        tip = column.GetCaption();
+    if (!tip.IsEmpty() && !rank.IsEmpty())
+        tip += _T("\r\n");
+    return tip + rank;
+}
+
 } // namespace
 
 INT_PTR CXTPReportControl::OnToolHitTest(CPoint point, TOOLINFO* pTI) const {
+    const CXTPReportPaintManager& paintManager = *GetPaintManager();
     if (const CXTPReportColumn* column = m_impl->header->HitTest(point)) {
-        CXTPReportPaintManager* paintManager = GetPaintManager();
-        CString text = column->GetTooltip();
-        const int room = column->GetWidth() - 2 * paintManager->GetCellPadding() -
-                         (column->IsSorted() ? paintManager->GetSortArrowSpace() : 0);
-        if (text.IsEmpty() && paintManager->GetTextWidth(column->GetCaption()) > room)
-            text = column->GetCaption();
+        const CString text = HeaderTip(*column, paintManager);
         if (text.IsEmpty())
             return -1;
         const INT_PTR headerId = FirstHeaderTool + column->GetIndex();
-        CXTPToolTipContext::FillInToolInfo(pTI, m_hWnd, column->GetRect(), headerId, text);
+        CXTPToolTipContext::FillInToolInfo(pTI, m_hWnd, column->GetUncoveredRect(), headerId, text);
         return headerId;
+    }
+    if (const CXTPReportColumn* column = m_impl->header->HitTestGroup(point)) {
+        const CRect rcButton = m_impl->header->GetGroupRect(column);
+        const bool isCutOff = rcButton.Width() < paintManager.GetGroupByButtonWidth(column);
+        const CString text = column->GetTooltip().IsEmpty() && isCutOff ? column->GetCaption() : column->GetTooltip();
+        if (text.IsEmpty())
+            return -1;
+        const INT_PTR groupId = FirstGroupTool + column->GetIndex();
+        CXTPToolTipContext::FillInToolInfo(pTI, m_hWnd, rcButton, groupId, text);
+        return groupId;
     }
     m_impl->RefreshMovedRow(m_impl->RowAt(point));
     const CellHit hit = m_impl->HitCell(point);

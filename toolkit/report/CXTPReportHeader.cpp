@@ -6,6 +6,7 @@
 #include "CXTPReportControl.h"
 #include "CXTPReportPaintManager.h"
 #include "CellText.h"
+#include "ColumnGeometry.h"
 #include "HeaderExtents.h"
 
 #include "../../framework/gdi/SelectGuard.h"
@@ -24,25 +25,41 @@ CXTPReportHeader::~CXTPReportHeader() = default;
 std::vector<gridgeometry::ColumnExtent> HeaderExtents(const CXTPReportHeader& header) {
     std::vector<gridgeometry::ColumnExtent> extents;
     const CXTPReportColumns* columns = header.GetColumns();
+    int frozen = 0, lastResizable = -1;
     for (int i = 0; i < columns->GetCount(); ++i) {
         const CXTPReportColumn* column = columns->GetAt(i);
         const CRect rc = column->GetRect();
-        if (column->IsVisible())
-            extents.push_back({rc.left, rc.right, header.IsAllowColumnResize() && column->IsResizable()});
+        if (!column->IsVisible())
+            continue;
+        const bool isResizable = header.IsAllowColumnResize() && column->IsResizable();
+        frozen += column->IsFrozen() ? 1 : 0;
+        lastResizable = isResizable ? static_cast<int>(extents.size()) : lastResizable;
+        extents.push_back({rc.left, rc.right, isResizable});
     }
-    return extents;
+    // Where columns fill the view, there is nobody behind the last one to give or take.
+    if (header.IsAutoColumnSizing() && lastResizable >= 0)
+        extents[lastResizable].resizable = false;
+    return gridgeometry::CutAtFrozen(std::move(extents), frozen);
 }
 
 void CXTPReportHeader::AdjustLayout(const CRect& rcHeader) {
-    int x = rcHeader.left - m_pControl->GetLeftOffset();
+    std::vector<CXTPReportColumn*> columns;
+    std::vector<int> widths;
     for (int i = 0; i < m_pColumns->GetCount(); ++i) {
         CXTPReportColumn* column = m_pColumns->GetAt(i);
-        if (!column->IsVisible()) {
-            column->SetRect(CRect());
+        column->m_bFrozen = FALSE;
+        column->SetRect(CRect());
+        if (!column->IsVisible())
             continue;
-        }
-        column->SetRect(CRect(x, rcHeader.top, x + column->GetWidth(), rcHeader.bottom));
-        x += column->GetWidth();
+        columns.push_back(column);
+        widths.push_back(column->GetWidth());
+    }
+    const int frozen = gridgeometry::FrozenCount(widths, m_pControl->GetFreezeColumnsCount(), rcHeader.Width());
+    const auto extents = gridgeometry::LayOutFrozenColumns(widths, frozen, rcHeader.left, m_pControl->GetLeftOffset());
+    m_nFreezeEdge = frozen > 0 ? extents[frozen - 1].right : rcHeader.left;
+    for (int i = 0; i < static_cast<int>(columns.size()); ++i) {
+        columns[i]->SetRect(CRect(extents[i].left, rcHeader.top, extents[i].right, rcHeader.bottom));
+        columns[i]->m_bFrozen = i < frozen;
     }
 }
 
@@ -83,9 +100,79 @@ CXTPReportColumn* CXTPReportHeader::GetNextVisibleColumn(int nColumnIndex, int n
     return nullptr;
 }
 
+// --- Widths ---------------------------------------------------------------------------------------------------------
+
+/// As the arithmetic has it. Called with the own width, or with the one that the view has made of it.
+gridgeometry::SharedColumn CXTPReportHeader::Describe(const CXTPReportColumn& column, int nWidth) const {
+    return {nWidth, column.GetMinWidth(), column.GetMaxWidth(), m_bAutoColumnSizing && column.IsAutoSize()};
+}
+
+std::vector<gridgeometry::SharedColumn> CXTPReportHeader::DescribeVisibleColumns() const {
+    std::vector<gridgeometry::SharedColumn> shared;
+    for (int i = 0; i < m_pColumns->GetCount(); ++i) {
+        const CXTPReportColumn* column = m_pColumns->GetAt(i);
+        if (column->IsVisible())
+            shared.push_back(Describe(*column, column->GetOwnWidth()));
+    }
+    return shared;
+}
+
+int CXTPReportHeader::GetLeastWidth() const { return gridgeometry::LeastWidth(DescribeVisibleColumns()); }
+
+void CXTPReportHeader::FitColumns(int nViewWidth) {
+    std::vector<int> widths;
+    if (m_bAutoColumnSizing && nViewWidth > 0)
+        widths = gridgeometry::ShareWidth(DescribeVisibleColumns(), nViewWidth);
+    auto width = widths.begin();
+    for (int i = 0; i < m_pColumns->GetCount(); ++i) {
+        CXTPReportColumn* column = m_pColumns->GetAt(i);
+        const bool isShared = column->IsVisible() && width != widths.end();
+        column->m_nWidth = isShared ? *width++ : column->GetOwnWidth();
+    }
+}
+
+void CXTPReportHeader::SetAutoColumnSizing(BOOL bAutoSizing) {
+    if (!m_bAutoColumnSizing == !bAutoSizing)
+        return;
+    OnCancelMode();
+    m_bAutoColumnSizing = bAutoSizing != FALSE;
+    m_pControl->AdjustLayout();
+}
+
+/// The column that gets or loses what the other loses or gets, where columns fill the view; null if there is none.
+CXTPReportColumn* CXTPReportHeader::GetResizePartner(const CXTPReportColumn* pColumn) const {
+    CXTPReportColumn* partner = GetNextVisibleColumn(pColumn->GetIndex());
+    while (partner && !partner->IsResizable())
+        partner = GetNextVisibleColumn(partner->GetIndex());
+    return partner;
+}
+
+void CXTPReportHeader::MoveDivider(CXTPReportColumn* pColumn, int nWidth) {
+    if (!m_bAutoColumnSizing) {
+        pColumn->SetWidth(nWidth);
+        return;
+    }
+    CXTPReportColumn* const partner = GetResizePartner(pColumn);
+    if (!partner || !pColumn->IsVisible())
+        return;
+    const int moved = gridgeometry::MovableBy(Describe(*pColumn, pColumn->GetWidth()),
+                                              Describe(*partner, partner->GetWidth()), nWidth - pColumn->GetWidth());
+    if (moved == 0)
+        return;
+    // What the others have now is their share from now on, so that they stay as they are.
+    const int dpi = m_pControl->GetPaintManager()->GetDpi();
+    for (int i = 0; i < m_pColumns->GetCount(); ++i) {
+        CXTPReportColumn* column = m_pColumns->GetAt(i);
+        const int width = column->GetWidth() + (column == pColumn ? moved : column == partner ? -moved : 0);
+        if (width != column->GetOwnWidth())
+            column->m_setWidth = {width, dpi};
+    }
+    m_pControl->AdjustLayout();
+}
+
 void CXTPReportHeader::BestFit(CXTPReportColumn* pColumn) {
     if (pColumn)
-        pColumn->SetWidth(pColumn->GetBestFitWidth());
+        MoveDivider(pColumn, pColumn->GetBestFitWidth());
 }
 
 void CXTPReportHeader::BestFitAll() {
@@ -104,61 +191,84 @@ void CXTPReportHeader::BestFitAll() {
 
 // --- Drawing --------------------------------------------------------------------------------------------------------
 
-void CXTPReportHeader::Draw(CDC* pDC, const CRect& rcHeader) {
+void CXTPReportHeader::DrawPart(CDC* pDC, const Part& part, const CRect& rc, BOOL bHot, BOOL bPressed) const {
     CXTPReportPaintManager* paintManager = m_pControl->GetPaintManager();
-    paintManager->DrawHeaderBackground(pDC, rcHeader);
+    if (part.isGroup) {
+        paintManager->DrawGroupByButton(pDC, part.pColumn, rc, bHot, bPressed);
+        return;
+    }
+    paintManager->DrawColumnBackground(pDC, part.pColumn, rc, bHot, bPressed);
+    CRect rcCaption(rc);
+    if (bPressed)
+        rcCaption.OffsetRect(paintManager->GetPressedOffset(), paintManager->GetPressedOffset());
+    paintManager->DrawColumnCaption(pDC, part.pColumn, rcCaption);
+}
+
+void CXTPReportHeader::Draw(CDC* pDC, const CRect& rcHeader) {
+    m_pControl->GetPaintManager()->DrawHeaderBackground(pDC, rcHeader);
     CRect rcClip;
     pDC->GetClipBox(&rcClip);
     const bool isFocusShown = m_pControl->IsColumnFocusVisible() && m_pControl->HasFocus();
     const CXTPReportColumn* const focused = isFocusShown ? m_pControl->GetFocusedColumn() : nullptr;
-    const bool isPressedShown = m_bPressedInside && m_pControl->GetMouseMode() == xtpReportMousePrepareColumnDrag;
     for (int i = 0; i < m_pColumns->GetCount(); ++i) {
         CXTPReportColumn* column = m_pColumns->GetAt(i);
-        const CRect rcColumn = column->GetRect();
-        if (!column->IsVisible() || rcColumn.right <= rcClip.left || rcColumn.left >= rcClip.right)
+        const CRect rcColumn = column->GetRect(), rcSeen = column->GetUncoveredRect();
+        if (!column->IsVisible() || rcSeen.right <= rcClip.left || rcSeen.left >= rcClip.right)
             continue;
-        const bool isPressed = isPressedShown && column == m_pPressedColumn;
-        paintManager->DrawColumnBackground(pDC, column, rcColumn, column == m_pHotColumn, isPressed);
-        CRect rcCaption(rcColumn);
-        if (isPressed)
-            rcCaption.OffsetRect(paintManager->GetPressedOffset(), paintManager->GetPressedOffset());
-        paintManager->DrawColumnCaption(pDC, column, rcCaption);
-        if (column == focused)
-            paintManager->DrawFocusedColumn(pDC, rcColumn);
+        if (rcSeen == rcColumn) {
+            DrawColumn(pDC, column, rcColumn, column == focused);
+        } else if (!rcSeen.IsRectEmpty()) {
+            const SaveDCGuard saved(*pDC);
+            pDC->IntersectClipRect(&rcSeen);
+            DrawColumn(pDC, column, rcColumn, column == focused);
+        }
     }
 }
 
+void CXTPReportHeader::DrawColumn(CDC* pDC, CXTPReportColumn* pColumn, const CRect& rcColumn, bool isFocused) const {
+    const Part part = {pColumn, false};
+    const bool isPressed =
+        m_bPressedInside && part == m_pressed && m_pControl->GetMouseMode() == xtpReportMousePrepareColumnDrag;
+    DrawPart(pDC, part, rcColumn, part == m_hot, isPressed);
+    if (isFocused)
+        m_pControl->GetPaintManager()->DrawFocusedColumn(pDC, rcColumn);
+}
+
 CRect CXTPReportHeader::GetDragRect() const {
-    if (m_pControl->GetMouseMode() != xtpReportMouseColumnDrag || !m_pPressedColumn)
+    if (m_pControl->GetMouseMode() != xtpReportMouseColumnDrag || !m_pressed.pColumn)
         return CRect();
-    CRect rcPicture = m_pPressedColumn->GetRect();
-    rcPicture.OffsetRect(m_ptDrag - m_ptPress);
-    CRect rcCovered;
-    rcCovered.UnionRect(&rcPicture, m_pControl->GetHeaderRect());
+    CRect rcCovered = RectOf(m_pressed);
+    rcCovered.OffsetRect(m_ptDrag - m_ptPress);
+    rcCovered.UnionRect(&rcCovered, m_pControl->GetHeaderRect());
+    rcCovered.UnionRect(&rcCovered, m_pControl->GetGroupByRect());
     return rcCovered;
 }
 
 void CXTPReportHeader::DrawDrag(CDC* pDC) {
-    if (m_pControl->GetMouseMode() != xtpReportMouseColumnDrag || !m_pPressedColumn)
+    if (m_pControl->GetMouseMode() != xtpReportMouseColumnDrag || !m_pressed.pColumn)
         return;
     CXTPReportPaintManager* paintManager = m_pControl->GetPaintManager();
-    const CRect rcColumn = m_pPressedColumn->GetRect();
-    const CSize offset = m_ptDrag - m_ptPress;
+    const CRect rcPart = RectOf(m_pressed);
+    const CSize size = rcPart.Size();
+    const CPoint place = rcPart.TopLeft() + (m_ptDrag - m_ptPress);
 
     CDC picture;
     CBitmap bitmap;
-    if (picture.CreateCompatibleDC(pDC) && bitmap.CreateCompatibleBitmap(pDC, rcColumn.Width(), rcColumn.Height())) {
+    if (!rcPart.IsRectEmpty() && picture.CreateCompatibleDC(pDC) &&
+        bitmap.CreateCompatibleBitmap(pDC, size.cx, size.cy)) {
         const SelectGuard select(picture, bitmap);
-        const CRect rcPicture(0, 0, rcColumn.Width(), rcColumn.Height());
-        paintManager->DrawColumnBackground(&picture, m_pPressedColumn, rcPicture, TRUE, FALSE);
-        paintManager->DrawColumnCaption(&picture, m_pPressedColumn, rcPicture);
+        DrawPart(&picture, m_pressed, CRect(CPoint(0, 0), size), TRUE, FALSE);
         constexpr BLENDFUNCTION Translucent = {AC_SRC_OVER, 0, 176, 0};
-        pDC->AlphaBlend(rcColumn.left + offset.cx, rcColumn.top + offset.cy, rcColumn.Width(), rcColumn.Height(),
-                        &picture, 0, 0, rcColumn.Width(), rcColumn.Height(), Translucent);
+        pDC->AlphaBlend(place.x, place.y, size.cx, size.cy, &picture, 0, 0, size.cx, size.cy, Translucent);
     }
-    const int visibleIndex = VisibleIndexOf(*m_pColumns, m_pPressedColumn);
-    if (m_nDropPos >= 0 && gridgeometry::DropMoves(visibleIndex, m_nDropPos)) {
-        const int x = gridgeometry::DropMarkX(HeaderExtents(*this), m_nDropPos);
+    const int visibleIndex = VisibleIndexOf(*m_pColumns, m_pressed.pColumn);
+    if (m_drop.column >= 0 && gridgeometry::DropMoves(visibleIndex, m_drop.column)) {
+        const int x = gridgeometry::DropMarkX(HeaderExtents(*this), m_drop.column);
         paintManager->DrawDropMarker(pDC, x, m_pControl->GetHeaderRect());
+    } else if (m_drop.group >= 0 && DropMovesGroup(m_pressed.pColumn, m_drop.group)) {
+        const CRect rcButtons = GetGroupButtonsRect();
+        const int x = gridgeometry::ButtonMarkX(GroupExtents(*this), m_drop.group, rcButtons.left,
+                                                paintManager->GetGroupByButtonGap());
+        paintManager->DrawDropMarker(pDC, x, rcButtons);
     }
 }

@@ -1,4 +1,4 @@
-// What the user does to the strip of column headers: sort, resize, move.
+// What the user does to the strip of column headers and the group-by box: sort, resize, move, group.
 //
 // A gesture is the control's mouse mode plus the column it concerns. It begins with a press, which captures the mouse,
 // and ends in EndGesture, whatever way it takes; losing the capture, Escape and a right click come in through
@@ -45,29 +45,34 @@ bool CXTPReportHeader::IsInGesture() const {
            mode == xtpReportMouseColumnResize;
 }
 
-void CXTPReportHeader::BeginGesture(CXTPReportColumn* pColumn, CPoint ptPoint, XTPReportMouseMode mode) {
-    m_pPressedColumn = pColumn;
+void CXTPReportHeader::BeginGesture(const Part& part, CPoint ptPoint, XTPReportMouseMode mode) {
+    m_pressed = part;
     m_bPressedInside = mode == xtpReportMousePrepareColumnDrag;
     m_ptPress = m_ptDrag = ptPoint;
-    m_resizeStart = pColumn->GetSetWidth();
-    m_nResizeStartWidth = pColumn->GetWidth();
-    m_nDropPos = -1;
+    m_nResizeStartWidth = part.pColumn->GetWidth();
+    m_widthsBefore.clear();
+    for (int i = 0; mode == xtpReportMouseColumnResize && i < m_pColumns->GetCount(); ++i) {
+        CXTPReportColumn* const column = m_pColumns->GetAt(i);
+        if (column == part.pColumn || m_bAutoColumnSizing)
+            m_widthsBefore.push_back({column, column->GetSetWidth()});
+    }
+    m_drop = DropPlace();
     m_pControl->SetMouseMode(mode);
     if (m_pControl->GetSafeHwnd())
         m_pControl->SetCapture();
-    RedrawColumn(pColumn);
+    Redraw(part);
 }
 
 void CXTPReportHeader::EndGesture() {
     if (!IsInGesture())
         return;
     const CRect rcDrag = GetDragRect();
-    RedrawColumn(m_pPressedColumn);
+    Redraw(m_pressed);
     // The mode goes first: releasing the capture sends WM_CAPTURECHANGED, which must find nothing left to cancel.
     m_pControl->SetMouseMode(xtpReportMouseNothing);
-    m_pPressedColumn = nullptr;
+    m_pressed = Part();
     m_bPressedInside = false;
-    m_nDropPos = -1;
+    m_drop = DropPlace();
     if (!m_pControl->GetSafeHwnd())
         return;
     if (::GetCapture() == m_pControl->m_hWnd)
@@ -76,15 +81,19 @@ void CXTPReportHeader::EndGesture() {
 }
 
 void CXTPReportHeader::OnCancelMode() {
-    if (m_pControl->GetMouseMode() == xtpReportMouseColumnResize && m_pPressedColumn)
-        m_pPressedColumn->RestoreWidth(m_resizeStart);
+    if (m_pControl->GetMouseMode() == xtpReportMouseColumnResize && m_pressed.pColumn) {
+        for (const WidthBefore& before : m_widthsBefore) {
+            if (m_pColumns->IndexOf(before.pColumn) >= 0)
+                before.pColumn->RestoreWidth(before.width);
+        }
+    }
     EndGesture();
 }
 
 void CXTPReportHeader::OnColumnRemoved(const CXTPReportColumn* pColumn) {
-    if (m_pHotColumn == pColumn)
-        m_pHotColumn = nullptr;
-    if (m_pPressedColumn == pColumn)
+    if (m_hot.pColumn == pColumn)
+        m_hot = Part();
+    if (m_pressed.pColumn == pColumn)
         EndGesture();
 }
 
@@ -94,26 +103,31 @@ void CXTPReportHeader::OnContextMenu(CPoint) { OnCancelMode(); }
 
 void CXTPReportHeader::OnLButtonDown(CPoint ptPoint) {
     OnCancelMode();
+    const Part part = PartAt(ptPoint);
     if (CXTPReportColumn* divided = HitTestDivider(ptPoint))
-        BeginGesture(divided, ptPoint, xtpReportMouseColumnResize);
-    else if (CXTPReportColumn* column = HitTest(ptPoint))
-        BeginGesture(column, ptPoint, xtpReportMousePrepareColumnDrag);
+        BeginGesture({divided, false}, ptPoint, xtpReportMouseColumnResize);
+    else if (part.pColumn)
+        BeginGesture(part, ptPoint, xtpReportMousePrepareColumnDrag);
 }
 
 void CXTPReportHeader::OnLButtonUp(CPoint ptPoint) {
-    if (!IsInGesture() || !m_pPressedColumn)
+    if (!IsInGesture() || !m_pressed.pColumn)
         return;
     const XTPReportMouseMode mode = m_pControl->GetMouseMode();
-    CXTPReportColumn* column = m_pPressedColumn;
-    const int dropPos = m_nDropPos;
-    const bool isResized = column->GetWidth() != m_nResizeStartWidth;
+    const Part pressed = m_pressed;
+    const DropPlace drop = m_drop;
+    const bool isResized = pressed.pColumn->GetWidth() != m_nResizeStartWidth;
     EndGesture();
-    if (mode == xtpReportMousePrepareColumnDrag && HitTest(ptPoint) == column)
-        Sort(column, IsKeyDown(VK_CONTROL) || IsKeyDown(VK_SHIFT));
-    else if (mode == xtpReportMouseColumnDrag)
-        DropColumn(column, dropPos);
-    else if (mode == xtpReportMouseColumnResize && isResized)
-        m_pControl->SendColumnNotify(XTP_NM_REPORT_COLUMNWIDTHCHANGED, column);
+    if (mode == xtpReportMouseColumnDrag) {
+        Drop(pressed, drop);
+    } else if (mode == xtpReportMouseColumnResize && isResized) {
+        m_pControl->SendColumnNotify(XTP_NM_REPORT_COLUMNWIDTHCHANGED, pressed.pColumn);
+    } else if (mode == xtpReportMousePrepareColumnDrag && PartAt(ptPoint) == pressed) {
+        if (pressed.isGroup)
+            TurnGroup(pressed.pColumn);
+        else
+            Sort(pressed.pColumn, IsKeyDown(VK_CONTROL) || IsKeyDown(VK_SHIFT));
+    }
 }
 
 void CXTPReportHeader::OnLButtonDblClk(CPoint ptPoint) {
@@ -139,6 +153,11 @@ void CXTPReportHeader::Sort(CXTPReportColumn* pColumn, BOOL bAddKey) {
         pColumn->SetSortIncreasing(increasing);
     else
         order->Add(pColumn, increasing);
+    RepopulateAndTell(XTP_NM_REPORT_SORTORDERCHANGED, pColumn);
+}
+
+/// What the user has changed about a column shows in the rows, and then the owner hears of it.
+void CXTPReportHeader::RepopulateAndTell(UINT nCode, CXTPReportColumn* pColumn) {
     const CWaitCursor wait; // millions of rows take a moment
     // What is being edited takes effect first, and its hooks may put another header in this one's place, or worse.
     CXTPReportControl* const control = m_pControl;
@@ -146,7 +165,16 @@ void CXTPReportHeader::Sort(CXTPReportColumn* pColumn, BOOL bAddKey) {
     const HWND hWnd = control->m_hWnd;
     control->Populate();
     if ((!hWnd || ::IsWindow(hWnd)) && pColumn->GetControl() == control)
-        control->SendColumnNotify(XTP_NM_REPORT_SORTORDERCHANGED, pColumn);
+        control->SendColumnNotify(nCode, pColumn);
+}
+
+void CXTPReportHeader::Drop(const Part& part, const DropPlace& place) {
+    if (place.group >= 0)
+        GroupBy(part.pColumn, place.group);
+    else if (part.isGroup)
+        Ungroup(part.pColumn);
+    else
+        DropColumn(part.pColumn, place.column);
 }
 
 void CXTPReportHeader::DropColumn(CXTPReportColumn* pColumn, int nDropPos) {
@@ -174,21 +202,30 @@ void CXTPReportHeader::ResizeColumn(CXTPReportColumn* pColumn, int nPixels) {
     if (!pColumn || !m_bAllowColumnResize || !pColumn->IsResizable())
         return;
     const int former = pColumn->GetWidth();
-    pColumn->SetWidth(former + nPixels);
+    MoveDivider(pColumn, former + nPixels);
     if (pColumn->GetWidth() != former)
         m_pControl->SendColumnNotify(XTP_NM_REPORT_COLUMNWIDTHCHANGED, pColumn);
 }
 
 // --- Moves ----------------------------------------------------------------------------------------------------------
 
+CXTPReportHeader::Part CXTPReportHeader::PartAt(CPoint ptPoint) const {
+    CXTPReportColumn* const grouped = HitTestGroup(ptPoint);
+    return grouped ? Part{grouped, true} : Part{HitTest(ptPoint), false};
+}
+
+CRect CXTPReportHeader::RectOf(const Part& part) const {
+    return part.isGroup ? GetGroupRect(part.pColumn) : part.pColumn->GetRect();
+}
+
 void CXTPReportHeader::OnMouseMove(UINT, CPoint ptPoint) {
-    if (!m_pPressedColumn) {
+    if (!m_pressed.pColumn) {
         TrackHover(ptPoint);
         return;
     }
     switch (m_pControl->GetMouseMode()) {
     case xtpReportMouseColumnResize:
-        m_pPressedColumn->SetWidth(m_nResizeStartWidth + ptPoint.x - m_ptPress.x);
+        MoveDivider(m_pressed.pColumn, m_nResizeStartWidth + ptPoint.x - m_ptPress.x);
         break;
     case xtpReportMousePrepareColumnDrag:
         TrackPress(ptPoint);
@@ -202,27 +239,51 @@ void CXTPReportHeader::OnMouseMove(UINT, CPoint ptPoint) {
     }
 }
 
+bool CXTPReportHeader::MayDrag(const Part& part) const {
+    const bool mayGroup = m_pControl->IsGroupByVisible() && part.pColumn->IsGroupable();
+    const bool mayMove = m_bAllowColumnReorder && part.pColumn->IsAllowDragging();
+    return mayGroup || (mayMove && !part.isGroup);
+}
+
 void CXTPReportHeader::TrackPress(CPoint ptPoint) {
-    if (m_bAllowColumnReorder && m_pPressedColumn->IsAllowDragging() && IsBeyondDragThreshold(m_ptPress, ptPoint)) {
+    if (MayDrag(m_pressed) && IsBeyondDragThreshold(m_ptPress, ptPoint)) {
         m_pControl->SetMouseMode(xtpReportMouseColumnDrag);
-        SetHotColumn(nullptr);
+        SetHot(Part());
         TrackDrag(ptPoint);
         return;
     }
-    const bool isInside = HitTest(ptPoint) == m_pPressedColumn;
+    const bool isInside = PartAt(ptPoint) == m_pressed;
     if (isInside != m_bPressedInside) {
         m_bPressedInside = isInside;
-        RedrawColumn(m_pPressedColumn);
+        Redraw(m_pressed);
     }
+}
+
+/// Where what is dragged would land. Dropping outside changes nothing; a margin of one header height forgives an
+/// unsteady hand.
+CXTPReportHeader::DropPlace CXTPReportHeader::DropPlaceAt(CPoint ptPoint) const {
+    DropPlace place;
+    CRect rcHeader = m_pControl->GetHeaderRect(), rcBox = m_pControl->GetGroupByRect();
+    if (!rcBox.IsRectEmpty()) {
+        rcBox.top -= rcHeader.Height();
+        if (rcBox.PtInRect(ptPoint)) {
+            if (m_pressed.pColumn->IsGroupable())
+                place.group = gridgeometry::DropPosition(GroupExtents(*this), ptPoint.x);
+            return place;
+        }
+    }
+    if (m_pressed.isGroup || !m_bAllowColumnReorder || !m_pressed.pColumn->IsAllowDragging())
+        return place;
+    rcHeader.InflateRect(0, rcHeader.Height());
+    if (rcHeader.PtInRect(ptPoint))
+        place.column = gridgeometry::DropPosition(HeaderExtents(*this), ptPoint.x);
+    return place;
 }
 
 void CXTPReportHeader::TrackDrag(CPoint ptPoint) {
     const CRect rcBefore = GetDragRect();
     m_ptDrag = ptPoint;
-    // Dropping outside changes nothing; a margin of one header height forgives an unsteady hand.
-    CRect rcTarget = m_pControl->GetHeaderRect();
-    rcTarget.InflateRect(0, rcTarget.Height());
-    m_nDropPos = rcTarget.PtInRect(ptPoint) ? gridgeometry::DropPosition(HeaderExtents(*this), ptPoint.x) : -1;
+    m_drop = DropPlaceAt(ptPoint);
     if (m_pControl->GetSafeHwnd()) {
         m_pControl->InvalidateRect(&rcBefore, FALSE);
         m_pControl->InvalidateRect(GetDragRect(), FALSE);
@@ -237,11 +298,11 @@ void CXTPReportHeader::TrackHover(CPoint ptPoint) {
         m_pControl->SetMouseMode(xtpReportMouseOverColumnDivide);
     else if (!isOverDivider && mode == xtpReportMouseOverColumnDivide)
         m_pControl->SetMouseMode(xtpReportMouseNothing);
-    SetHotColumn(isOverDivider ? nullptr : HitTest(ptPoint));
+    SetHot(isOverDivider ? Part() : PartAt(ptPoint));
 }
 
 void CXTPReportHeader::OnMouseLeave() {
-    SetHotColumn(nullptr);
+    SetHot(Part());
     if (m_pControl->GetMouseMode() == xtpReportMouseOverColumnDivide)
         m_pControl->SetMouseMode(xtpReportMouseNothing);
 }
@@ -250,7 +311,8 @@ BOOL CXTPReportHeader::OnSetCursor(CPoint ptPoint) {
     const XTPReportMouseMode mode = m_pControl->GetMouseMode();
     LPCTSTR cursor = nullptr;
     if (mode == xtpReportMouseColumnDrag)
-        cursor = m_nDropPos >= 0 ? IDC_ARROW : IDC_NO;
+        // A button that is dropped anywhere else leaves the groups.
+        cursor = m_drop.IsSomewhere() || m_pressed.isGroup ? IDC_ARROW : IDC_NO;
     else if (mode == xtpReportMouseColumnResize || (!IsInGesture() && HitTestDivider(ptPoint)))
         cursor = IDC_SIZEWE;
     if (!cursor)
@@ -259,15 +321,15 @@ BOOL CXTPReportHeader::OnSetCursor(CPoint ptPoint) {
     return TRUE;
 }
 
-void CXTPReportHeader::SetHotColumn(CXTPReportColumn* pColumn) {
-    if (pColumn == m_pHotColumn)
+void CXTPReportHeader::SetHot(const Part& part) {
+    if (part == m_hot)
         return;
-    RedrawColumn(m_pHotColumn);
-    m_pHotColumn = pColumn;
-    RedrawColumn(pColumn);
+    Redraw(m_hot);
+    m_hot = part;
+    Redraw(part);
 }
 
-void CXTPReportHeader::RedrawColumn(const CXTPReportColumn* pColumn) const {
-    if (pColumn && m_pControl->GetSafeHwnd())
-        m_pControl->InvalidateRect(pColumn->GetRect(), FALSE);
+void CXTPReportHeader::Redraw(const Part& part) const {
+    if (part.pColumn && m_pControl->GetSafeHwnd())
+        m_pControl->InvalidateRect(RectOf(part), FALSE);
 }

@@ -179,9 +179,12 @@ CRect CXTPReportInplaceEdit::PlaceInControl() const {
     else
         session.args.rcItem.OffsetRect(rcNow.TopLeft() - session.rcCell.TopLeft());
     session.rcCell = rcNow;
+    // Neither over the header nor over columns that stay while the cell's column scrolls beneath them.
+    CRect rcView = session.args.pControl->GetReportRectangle();
+    rcView.left = std::max(rcView.left, session.column->GetUncoveredRect().left);
     CRect rcShown;
     if (!rcNow.IsRectEmpty())
-        rcShown.IntersectRect(&session.args.rcItem, session.args.pControl->GetReportRectangle());
+        rcShown.IntersectRect(&session.args.rcItem, rcView);
     return rcShown;
 }
 

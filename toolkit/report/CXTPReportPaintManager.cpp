@@ -42,6 +42,9 @@ constexpr ColorMember RoleMembers[] = {
     &CXTPReportPaintManager::m_clrExpandButton,
     &CXTPReportPaintManager::m_clrExpandButtonFill,
     &CXTPReportPaintManager::m_clrExpandButtonSign,
+    &CXTPReportPaintManager::m_clrGroupBy,
+    &CXTPReportPaintManager::m_clrGroupByText,
+    &CXTPReportPaintManager::m_clrFreezeLine,
     &CXTPReportPaintManager::m_clrHeader,
     &CXTPReportPaintManager::m_clrHeaderLight,
     &CXTPReportPaintManager::m_clrHeaderSorted,
@@ -85,7 +88,9 @@ bool IsDisabled(const CXTPReportControl* control) {
 
 CXTPReportPaintManager::CXTPReportPaintManager(XTPReportPaintTheme theme)
     : m_theme(theme), m_columnStyle(reportlook::OwnColumnStyle(theme)), m_nDpi(windowdpi::OfSystem()),
-      m_strNoItems(_T("There are no items to show.")), m_lfHost{} {
+      m_strNoItems(_T("There are no items to show.")),
+      m_strNoGroupBy(_T("Drag a column header here to group by that column.")),
+      m_strSortRank(_T("Sort order: %1 of %2")), m_lfHost{} {
     CXTPReportPaintManager::RefreshMetrics();
 }
 
@@ -131,6 +136,10 @@ void CXTPReportPaintManager::MeasureFont() {
     font.lfWeight = FW_BOLD;
     m_fontBold.DeleteObject();
     m_fontBold.CreateFontIndirect(&font);
+    font.lfWeight = FW_NORMAL;
+    font.lfHeight = font.lfHeight * 3 / 4;
+    m_fontRank.DeleteObject();
+    m_fontRank.CreateFontIndirect(&font);
 
     TEXTMETRIC text = {};
     const SelectGuard select(dc, m_fontText);
@@ -196,6 +205,8 @@ void CXTPReportPaintManager::TakeOver(const CXTPReportPaintManager& former) {
     m_bAlternateRows = former.m_bAlternateRows;
     m_strNoItems = former.m_strNoItems;
     m_nPreviewLines = former.m_nPreviewLines;
+    m_strNoGroupBy = former.m_strNoGroupBy;
+    m_strSortRank = former.m_strSortRank;
     m_bHostFont = former.m_bHostFont;
     m_lfHost = former.m_lfHost;
     m_nHostFontDpi = former.m_nHostFontDpi;

@@ -69,12 +69,20 @@ public:
     int GetCellPadding() const { return m_nCellPadding; }
     /// The width that the sort arrow takes from a caption, its distance to the text included.
     int GetSortArrowSpace() const;
+    /// The width that the marks of a sorted column take: the arrow, and its rank where the rows are sorted by several
+    /// columns. 0 when they are not sorted by it.
+    int GetSortMarkSpace(const CXTPReportColumn* pColumn) const;
     /// How far a caption moves right and down while its column is pressed, pixels.
     int GetPressedOffset() const;
     /// How far a record is indented in a tree column from the one above it; the room of the expand button as well.
     int GetTreeIndent() const;
     /// Where a press expands or collapses the row of a group that stands at `rcRow`.
     CRect GetGroupButtonRect(const CXTPReportGroupRow* pRow, const CRect& rcRow) const;
+    virtual int GetGroupByHeight() const; ///< of the group-by box
+    int GetGroupByMargin() const;         ///< between the edges of the group-by box and its buttons
+    int GetGroupByButtonGap() const;      ///< between two buttons of the group-by box
+    /// The width at which the button of a column shows its whole caption and the arrow.
+    int GetGroupByButtonWidth(const CXTPReportColumn* pColumn) const;
     /// Pixels for a length given at 96 DPI.
     int ScaleForDpi(int nPixels) const;
     CFont* GetTextFont() { return &m_fontText; }     ///< owned here; the host's, else the system's for message texts
@@ -88,6 +96,13 @@ public:
     /// Shown in the middle of a grid without rows.
     CString GetNoItemText() const { return m_strNoItems; }
     void SetNoItemText(LPCTSTR strText) { m_strNoItems = strText; } ///< wraps; empty shows nothing
+    /// Shown in a group-by box without buttons.
+    CString GetNoGroupByText() const { return m_strNoGroupBy; }
+    void SetNoGroupByText(LPCTSTR strText) { m_strNoGroupBy = strText; } ///< one line; empty shows nothing
+    /// Told by the tip of a column when the rows are sorted by several ones: "%1" in it stands for the place in the
+    /// sort order, "%2" for the number of columns there.
+    CString GetSortRankText() const { return m_strSortRank; }
+    void SetSortRankText(LPCTSTR strText) { m_strSortRank = strText; } ///< empty tells nothing
     /// Takes what was set on another paint manager: resolution, fonts, row height, grid lines, alternate rows, texts;
     /// but no colours.
     void TakeOver(const CXTPReportPaintManager& former);
@@ -100,12 +115,24 @@ public:
     /// One column's part of the header with its edges, hot (under the pointer) and pressed as told.
     virtual void DrawColumnBackground(CDC* pDC, CXTPReportColumn* pColumn, const CRect& rcColumn, BOOL bHot,
                                       BOOL bPressed);
-    /// The caption and, when the rows are sorted by the column, the arrow.
+    /// The caption and, when the rows are sorted by the column, the arrow; beside it the column's rank in the sort
+    /// order when there are several.
     virtual void DrawColumnCaption(CDC* pDC, CXTPReportColumn* pColumn, const CRect& rcColumn);
     /// At the right end of `rcArrow`, centred in its height; points up when the smallest value stands first.
     virtual void DrawSortArrow(CDC* pDC, const CRect& rcArrow, BOOL bIncreasing);
     /// Where a dragged column would land: centred on `x`, over the height of the header.
     virtual void DrawDropMarker(CDC* pDC, int x, const CRect& rcHeader);
+    /// The group-by box without its buttons.
+    virtual void DrawGroupByBackground(CDC* pDC, const CRect& rcGroupBy);
+    /// The text of a box without buttons; `rcButtons` is where they would stand.
+    virtual void DrawNoGroupByText(CDC* pDC, const CRect& rcButtons);
+    /// One column's button in the group-by box, with its caption and the arrow of its groups' order.
+    virtual void DrawGroupByButton(CDC* pDC, CXTPReportColumn* pColumn, const CRect& rcButton, BOOL bHot,
+                                   BOOL bPressed);
+    /// The line from one button to the next, in the gap between them.
+    virtual void DrawGroupByConnector(CDC* pDC, const CRect& rcGap);
+    /// The line at the edge of the frozen columns, over header and body.
+    virtual void DrawFreezeLine(CDC* pDC, const CRect& rcLine);
     /// The part of the body without rows.
     virtual void FillBackground(CDC* pDC, const CRect& rc);
     /// The empty text, near the upper edge of the body.
@@ -158,6 +185,9 @@ public:
     CXTPPaintManagerColor m_clrExpandButton;          ///< frame of an expand button, or all of a triangle
     CXTPPaintManagerColor m_clrExpandButtonFill;      ///< inside of its frame
     CXTPPaintManagerColor m_clrExpandButtonSign;      ///< its plus or minus
+    CXTPPaintManagerColor m_clrGroupBy;               ///< background of the group-by box
+    CXTPPaintManagerColor m_clrGroupByText;           ///< text on it, and the lines between its buttons
+    CXTPPaintManagerColor m_clrFreezeLine;            ///< at the edge of frozen columns
     CXTPPaintManagerColor m_clrHeader;            ///< lower end of the header's gradient, which runs from light to dark
     CXTPPaintManagerColor m_clrHeaderLight;       ///< its upper end
     CXTPPaintManagerColor m_clrHeaderSorted;      ///< lower end of a sorted column
@@ -184,6 +214,7 @@ protected:
     XTPReportColumnStyle m_columnStyle;                     ///< which colours and edges the header has
     CFont m_fontText;                                       ///< of every text that is not bold
     CFont m_fontBold;                                       ///< the same with bold weight
+    CFont m_fontRank;                                       ///< smaller, for the ranks of sorted columns
     DpiLength m_rowHeight;                                  ///< as the host has set it; 0: as the font needs it
     int m_nTextRowHeight = 0;                               ///< pixels that a row needs for the font
     int m_nHeaderHeight = 0;                                ///< pixels
@@ -194,8 +225,18 @@ protected:
     XTPReportGridStyle m_gridVertical = xtpReportGridSolid; ///< of the lines between columns
     XTPReportGridStyle m_gridHorizontal = xtpReportGridSolid; ///< of the lines between rows
     CString m_strNoItems;                                     ///< shown when there are no rows
+    CString m_strNoGroupBy;                                   ///< shown when the rows are not grouped
+    CString m_strSortRank;                                    ///< with the places of two numbers
 
 private:
+    /// What stands beside a caption; rank 0: none.
+    struct SortMark {
+        bool isShown = false;
+        bool isIncreasing = true;
+        int rank = 0;
+    };
+    void DrawCaption(CDC* pDC, const CXTPReportColumn* pColumn, const CRect& rcColumn, const SortMark& mark);
+    int GetRankSpace(int nRank) const;
     reportlook::Look GetLook() const;
     LOGFONT MakeFont() const;
     COLORREF GetRowBackground(const CXTPReportRow* pRow, bool bDisabled) const;

@@ -1,10 +1,13 @@
-// The drawing of a report control's header: column backgrounds and edges, captions, sort arrows, the drop mark.
+// The drawing of a report control's header: column backgrounds and edges, captions, sort arrows, the drop mark, and the
+// group-by box.
 #include "CXTPReportPaintManager.h"
 
 #include "CXTPReportColumn.h"
+#include "CXTPReportColumns.h"
 #include "CXTPReportControl.h"
 #include "ReportLook.h"
 
+#include "../../framework/gdi/SelectGuard.h"
 #include "../common/TextStateGuard.h"
 
 #include <algorithm>
@@ -21,6 +24,10 @@ constexpr int ArrowGap = 5; // between caption and arrow
 constexpr int ArrowTop = 1; // above an arrow that stands over the caption
 constexpr int HotLine = 2;  // under a hot column
 constexpr int FocusBarHeight = 2;
+constexpr int RankGap = 1; // between arrow and rank
+constexpr int GroupByMargin = 8;
+constexpr int GroupButtonGap = 14;
+constexpr int LeastGroupButton = 40;
 constexpr int GlassEdge = 45; // where the upper part of a glass header ends, percent of its height
 
 void FillVertical(CDC* pDC, const CRect& rc, COLORREF top, COLORREF bottom) {
@@ -195,31 +202,64 @@ int CXTPReportPaintManager::GetSortArrowSpace() const {
     return GetArrowSize().cx + ScaleForDpi(ArrowGap);
 }
 
+int CXTPReportPaintManager::GetRankSpace(int nRank) const {
+    if (nRank == 0)
+        return 0;
+    CString rank;
+    rank.Format(_T("%d"), nRank);
+    CClientDC dc(nullptr);
+    const SelectGuard select(dc, m_fontRank);
+    // The arrow that stands above the caption leaves the right end to the rank alone.
+    const bool isAlone = GetLook().header->arrowPlace == ArrowPlace::AboveCaption;
+    return dc.GetTextExtent(rank).cx + ScaleForDpi(isAlone ? ArrowGap : RankGap);
+}
+
+int CXTPReportPaintManager::GetSortMarkSpace(const CXTPReportColumn* pColumn) const {
+    const int rank = pColumn->GetSortRank();
+    const bool isOneOfSeveral = rank > 0 && pColumn->GetColumns()->GetSortOrder()->GetCount() > 1;
+    return rank == 0 ? 0 : GetSortArrowSpace() + GetRankSpace(isOneOfSeveral ? rank : 0);
+}
+
 int CXTPReportPaintManager::GetPressedOffset() const { return ScaleForDpi(GetLook().header->pressedOffset); }
 
 void CXTPReportPaintManager::DrawColumnCaption(CDC* pDC, CXTPReportColumn* pColumn, const CRect& rcColumn) {
+    const int rank = pColumn->GetSortRank();
+    const bool isOneOfSeveral = rank > 0 && pColumn->GetColumns()->GetSortOrder()->GetCount() > 1;
+    DrawCaption(pDC, pColumn, rcColumn, {rank > 0, pColumn->IsSortIncreasing() != FALSE, isOneOfSeveral ? rank : 0});
+}
+
+void CXTPReportPaintManager::DrawCaption(CDC* pDC, const CXTPReportColumn* pColumn, const CRect& rcColumn,
+                                         const SortMark& mark) {
     CRect rcText(rcColumn);
     rcText.DeflateRect(m_nCellPadding, 0, m_nCellPadding + 1, 1);
-    if (pColumn->IsSorted()) {
-        const CSize arrow = GetArrowSize();
-        if (GetLook().header->arrowPlace == ArrowPlace::AboveCaption) {
-            const int top = rcColumn.top + ScaleForDpi(ArrowTop);
-            const int left = rcColumn.left + (rcColumn.Width() - arrow.cx) / 2;
-            if (rcText.Width() >= arrow.cx)
-                DrawSortArrow(pDC, CRect(CPoint(left, top), arrow), pColumn->IsSortedIncreasing());
-        } else if (rcText.Width() > GetSortArrowSpace()) {
-            // The arrow has its own room at the right, so that no caption runs into it.
-            DrawSortArrow(pDC, CRect(rcText.right - arrow.cx, rcText.top, rcText.right, rcText.bottom),
-                          pColumn->IsSortedIncreasing());
-            rcText.right -= GetSortArrowSpace();
-        }
-    }
-    TextStateGuard state(*pDC);
-    state.UseFont(&m_fontText);
-    pDC->SetBkMode(TRANSPARENT);
     const CXTPReportControl* control = pColumn->GetControl();
     const bool isEnabled = !control || !control->GetSafeHwnd() || control->IsWindowEnabled();
+    TextStateGuard state(*pDC);
+    pDC->SetBkMode(TRANSPARENT);
     pDC->SetTextColor(isEnabled ? m_clrHeaderText : m_clrDisabledText);
+    const bool isArrowAbove = GetLook().header->arrowPlace == ArrowPlace::AboveCaption;
+    const int markSpace = mark.isShown ? GetSortArrowSpace() + GetRankSpace(mark.rank) : 0;
+    // Arrow and rank have their own room at the right, so that no caption runs into them.
+    const bool hasRoom = mark.isShown && rcText.Width() > markSpace;
+    if (hasRoom && mark.rank > 0) {
+        CString rank;
+        rank.Format(_T("%d"), mark.rank);
+        state.UseFont(&m_fontRank);
+        DrawTextLine(pDC, rank, rcText, DT_RIGHT);
+    }
+    if (mark.isShown && isArrowAbove) {
+        const CSize arrow = GetArrowSize();
+        const int top = rcColumn.top + ScaleForDpi(ArrowTop);
+        const int left = rcColumn.left + (rcColumn.Width() - arrow.cx) / 2;
+        if (rcText.Width() >= arrow.cx)
+            DrawSortArrow(pDC, CRect(CPoint(left, top), arrow), mark.isIncreasing);
+    } else if (hasRoom) {
+        const int right = rcText.right - GetRankSpace(mark.rank);
+        DrawSortArrow(pDC, CRect(right - GetArrowSize().cx, rcText.top, right, rcText.bottom), mark.isIncreasing);
+    }
+    if (hasRoom)
+        rcText.right -= markSpace;
+    state.UseFont(&m_fontText);
     DrawTextLine(pDC, pColumn->GetCaption(), rcText, pColumn->GetHeaderAlignment());
 }
 
@@ -265,4 +305,66 @@ void CXTPReportPaintManager::DrawFocusedColumn(CDC* pDC, const CRect& rcColumn) 
                 rcColumn.bottom - 1);
     if (rcBar.Width() > 0)
         pDC->FillSolidRect(&rcBar, m_clrHeaderText);
+}
+
+// --- The group-by box, and the edge of frozen columns ---------------------------------------------------------------
+
+int CXTPReportPaintManager::GetGroupByMargin() const { return ScaleForDpi(GroupByMargin); }
+
+int CXTPReportPaintManager::GetGroupByButtonGap() const { return ScaleForDpi(GroupButtonGap); }
+
+int CXTPReportPaintManager::GetGroupByHeight() const { return GetHeaderHeight() + 2 * GetGroupByMargin(); }
+
+int CXTPReportPaintManager::GetGroupByButtonWidth(const CXTPReportColumn* pColumn) const {
+    const int width = GetTextWidth(pColumn->GetCaption()) + GetSortArrowSpace() + 2 * m_nCellPadding + 1;
+    return std::max(width, ScaleForDpi(LeastGroupButton));
+}
+
+void CXTPReportPaintManager::DrawGroupByBackground(CDC* pDC, const CRect& rcGroupBy) {
+    pDC->FillSolidRect(&rcGroupBy, m_clrGroupBy);
+    FillIfSet(pDC, rcGroupBy.left, rcGroupBy.bottom - 1, rcGroupBy.right, rcGroupBy.bottom, m_clrHeaderLine);
+}
+
+void CXTPReportPaintManager::DrawNoGroupByText(CDC* pDC, const CRect& rcButtons) {
+    TextStateGuard state(*pDC);
+    state.UseFont(&m_fontText);
+    pDC->SetBkMode(TRANSPARENT);
+    const bool isEnabled = !m_pControl || !m_pControl->GetSafeHwnd() || m_pControl->IsWindowEnabled();
+    pDC->SetTextColor(isEnabled ? m_clrGroupByText : m_clrDisabledText);
+    DrawTextLine(pDC, m_strNoGroupBy, rcButtons, DT_LEFT);
+}
+
+void CXTPReportPaintManager::DrawGroupByButton(CDC* pDC, CXTPReportColumn* pColumn, const CRect& rcButton, BOOL bHot,
+                                               BOOL bPressed) {
+    if (rcButton.Width() <= 0)
+        return;
+    CRect rcFill(rcButton);
+    rcFill.bottom -= 1;
+    if (bPressed)
+        FillHeader(pDC, rcFill, m_clrHeaderPressedLight, m_clrHeaderPressed);
+    else if (bHot)
+        FillHeader(pDC, rcFill, m_clrHeaderHotLight, m_clrHeaderHot);
+    else
+        FillHeader(pDC, rcFill, m_clrHeaderLight, m_clrHeader);
+    // A button stands alone, so it has an edge on every side, whatever the edges of columns are.
+    if (GetLook().header->edge == HeaderEdge::Raised) {
+        FillIfSet(pDC, rcButton.left, rcButton.bottom - 1, rcButton.right, rcButton.bottom, m_clrHeaderLine);
+        DrawColumnEdges(pDC, nullptr, rcButton, bHot, bPressed);
+    } else {
+        const bool isFramed = (bHot || bPressed) && COLORREF(m_clrHeaderFrame) != CXTPPaintManagerColor::Unset;
+        const COLORREF frame = isFramed ? m_clrHeaderFrame : m_clrHeaderLine;
+        pDC->Draw3dRect(&rcButton, frame, frame);
+    }
+    CRect rcCaption(rcButton);
+    if (bPressed)
+        rcCaption.OffsetRect(GetPressedOffset(), GetPressedOffset());
+    DrawCaption(pDC, pColumn, rcCaption, {true, pColumn->IsSortIncreasing() != FALSE, 0});
+}
+
+void CXTPReportPaintManager::DrawGroupByConnector(CDC* pDC, const CRect& rcGap) {
+    pDC->FillSolidRect(rcGap.left, rcGap.CenterPoint().y, rcGap.Width(), 1, m_clrGroupByText);
+}
+
+void CXTPReportPaintManager::DrawFreezeLine(CDC* pDC, const CRect& rcLine) {
+    FillIfSet(pDC, rcLine.left, rcLine.top, rcLine.right, rcLine.bottom, m_clrFreezeLine);
 }

@@ -12,6 +12,8 @@
 #include "CXTPReportSelectedRows.h"
 #include "RecordItemHeap.h"
 
+#include "../../framework/gdi/SelectGuard.h"
+
 #include <algorithm>
 
 namespace {
@@ -24,6 +26,19 @@ CRect InsideGridLines(const CRect& rcCell) {
 CRect WholeCell(const CRect& rcRow, const CXTPReportColumn* column) {
     const CRect rcColumn = column->GetRect();
     return CRect(rcColumn.left, rcRow.top, rcColumn.right, rcRow.bottom);
+}
+
+/// Draws a cell, but nothing of it over the columns that stay while its own scrolls beneath them.
+template <class Drawing>
+void DrawUncovered(CDC* pDC, const CXTPReportColumn* column, const CRect& rcCell, Drawing draw) {
+    const CRect rcSeen = column->GetUncoveredRect();
+    if (rcSeen.left <= rcCell.left && !rcSeen.IsRectEmpty()) {
+        draw();
+    } else if (!rcSeen.IsRectEmpty()) {
+        const SaveDCGuard saved(*pDC);
+        pDC->IntersectClipRect(rcSeen.left, rcCell.top, rcSeen.right, rcCell.bottom);
+        draw();
+    }
 }
 
 } // namespace
@@ -103,9 +118,15 @@ CRect CXTPReportRow::GetExpandButtonRect() const {
     if (!control || !m_pRecord || !HasChildren())
         return CRect();
     const CXTPReportColumns* columns = control->GetColumns();
-    for (int i = 0; i < columns->GetCount(); ++i)
-        if (columns->GetAt(i)->IsVisible() && columns->GetAt(i)->IsTreeColumn())
-            return ButtonPlace(GetCellsRect(), columns->GetAt(i));
+    for (int i = 0; i < columns->GetCount(); ++i) {
+        const CXTPReportColumn* column = columns->GetAt(i);
+        if (!column->IsVisible() || !column->IsTreeColumn())
+            continue;
+        // Nobody can press what frozen columns cover.
+        CRect rcButton = ButtonPlace(GetCellsRect(), column);
+        rcButton.left = std::max(rcButton.left, column->GetUncoveredRect().left);
+        return rcButton.left < rcButton.right ? rcButton : CRect();
+    }
     return CRect();
 }
 
@@ -205,9 +226,11 @@ void CXTPReportRow::Draw(CDC* pDC, const CRect& rcRow, const CRect& rcClip) {
         right = std::max<int>(right, rcCell.right);
         if (rcCell.right <= rcClip.left || rcCell.left >= rcClip.right)
             continue;
-        DrawTree(pDC, column, rcCells, metrics);
-        DrawCell(pDC, column, rcCells);
-        paintManager->DrawGridLines(pDC, rcCell);
+        DrawUncovered(pDC, column, rcCell, [&] {
+            DrawTree(pDC, column, rcCells, metrics);
+            DrawCell(pDC, column, rcCells);
+            paintManager->DrawGridLines(pDC, rcCell);
+        });
     }
     // Beyond the last column only the line under the row goes on; its end lies outside, where nothing is drawn.
     if (right < rcDirty.right)
@@ -215,8 +238,11 @@ void CXTPReportRow::Draw(CDC* pDC, const CRect& rcRow, const CRect& rcClip) {
     if (rcCells.bottom < rcRow.bottom)
         DrawPreview(pDC, rcRow, rcClip, metrics.clrBackground);
     DrawFocus(pDC, rcRow);
-    if (IsFocused() && control->HasFocus() && control->IsColumnFocusVisible())
-        paintManager->DrawFocusedCell(pDC, ItemPlace(rcCells, control->GetFocusedColumn()), metrics);
+    if (!IsFocused() || !control->HasFocus() || !control->IsColumnFocusVisible())
+        return;
+    const CXTPReportColumn* const focused = control->GetFocusedColumn();
+    const CRect rcFocused = ItemPlace(rcCells, focused);
+    DrawUncovered(pDC, focused, rcFocused, [&] { paintManager->DrawFocusedCell(pDC, rcFocused, metrics); });
 }
 
 void CXTPReportRow::DrawFocus(CDC* pDC, const CRect& rcRow) {

@@ -91,7 +91,7 @@ int CXTPReportColumn::BestFitWidthBefore(std::chrono::steady_clock::time_point d
         return m_nWidth;
     const CXTPReportPaintManager* paintManager = control->GetPaintManager();
     const int space = 2 * paintManager->GetCellPadding() + 1;
-    int width = paintManager->GetTextWidth(m_strCaption) + (IsSorted() ? paintManager->GetSortArrowSpace() : 0) + space;
+    int width = paintManager->GetTextWidth(m_strCaption) + paintManager->GetSortMarkSpace(this) + space;
     const CXTPReportRows* rows = control->GetRows();
     // The last row may be cut off; it is seen as well.
     const int end = std::min(control->GetTopRowIndex() + control->GetFullyVisibleRowCount() + 1, rows->GetCount());

@@ -13,10 +13,11 @@ namespace {
 
 constexpr std::array<std::uint8_t, 4> Magic = {'K', 'Y', 'R', 'L'};
 
-enum Tag : std::uint16_t { TagColumns = 1, TagSortOrder = 2, TagGroupsOrder = 3, TagDpi = 4 };
+enum Tag : std::uint16_t { TagColumns = 1, TagSortOrder = 2, TagGroupsOrder = 3, TagDpi = 4, TagView = 5 };
 
 constexpr std::uint8_t FlagVisible = 1;
 constexpr std::uint8_t FlagIncreasing = 1;
+constexpr std::uint8_t FlagGroupByShown = 1;
 
 // --- Writing ---------------------------------------------------------------------------------------------------------
 
@@ -236,6 +237,12 @@ std::vector<std::uint8_t> Encode(const ReportLayout& layout) {
         dpi.I32(layout.dpi);
         payload.Section(TagDpi, dpi);
     }
+    if (layout.view) {
+        Writer view;
+        view.I32(layout.view->frozenColumns);
+        view.U8(layout.view->isGroupByShown ? FlagGroupByShown : 0);
+        payload.Section(TagView, view);
+    }
 
     Writer stream;
     for (const std::uint8_t byte : Magic)
@@ -284,6 +291,13 @@ Decoded DecodePayload(std::span<const std::uint8_t> payload) {
             layout.dpi = section.I32();
             if (section.HasFailed() || layout.dpi < 1 || layout.dpi > MaxDpi)
                 return {Status::Broken, {}};
+        } else if (tag == TagView) {
+            ReportLayout::View view;
+            view.frozenColumns = section.I32();
+            view.isGroupByShown = (section.U8() & FlagGroupByShown) != 0;
+            if (section.HasFailed() || view.frozenColumns < 0)
+                return {Status::Broken, {}};
+            layout.view = view;
         }
     }
     if (!hasColumns || !KeysMeanColumns(layout.sortOrder, layout.columns.size()) ||

@@ -10,12 +10,15 @@
 //     section 1 and u8 direction (bit 0: increasing).
 //   Tag 4, resolution: u32 dots per inch for which the widths are given. Streams without it have widths for whatever
 //     resolution they are read at.
+//   Tag 5, view: u32 number of frozen columns, at most 2^31 - 1, u8 flags (bit 0: the group-by box is shown). Streams
+//     without it leave both as they are.
 #pragma once
 
 #include "DpiLength.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -48,6 +51,12 @@ struct ReportLayout {
     std::vector<Key> sortOrder;
     std::vector<Key> groupsOrder;
     int dpi = 0; ///< dots per inch, at most MaxDpi; 0: not known
+    struct View {
+        int frozenColumns = 0;
+        bool isGroupByShown = false;
+        bool operator==(const View&) const = default;
+    };
+    std::optional<View> view = std::nullopt; ///< none: the grid keeps what it has
     bool operator==(const ReportLayout&) const = default;
 };
 

@@ -181,7 +181,12 @@ CRect RectOf(const CXTPReportControl& control, const Element& element) {
 }
 
 bool IsSeen(const CXTPReportControl& control, const Element& element) {
-    const CRect rcView = element.row ? control.GetReportRectangle() : control.GetHeaderRect();
+    CRect rcView = element.row ? control.GetReportRectangle() : control.GetHeaderRect();
+    if (element.column) {
+        const CRect rcUncovered = element.column->GetUncoveredRect();
+        rcView.left = std::max(rcView.left, rcUncovered.left);
+        rcView.right = std::min(rcView.right, rcUncovered.right);
+    }
     CRect rcSeen;
     return element.IsGrid() || rcSeen.IntersectRect(RectOf(control, element), rcView);
 }

@@ -98,6 +98,8 @@ struct CXTPReportControl::Impl {
     CXTPToolTipContext toolTips;
 
     // --- Layout and scrolling ---------------------------------------------------------------------------------------
+    bool isGroupByShown = false;
+    int freezeCount = 0; ///< as it was asked for
     int topRow = 0;
     int leftOffset = 0;
     /// Where the user has scrolled to. A view that grows may show less of that for a while; when it shrinks again, as
@@ -128,6 +130,7 @@ struct CXTPReportControl::Impl {
     void ScrollSidewaysTo(int offset);
     int ScrollTarget(int bar, UINT code, UINT pos, int current, int line, int page, int maximum) const;
     int SidewaysStep() const;
+    int SidewaysPage() const; ///< the part of the view that scrolls
 
     // --- Previews ---------------------------------------------------------------------------------------------------
     bool isPreviewMode = false;
@@ -158,6 +161,7 @@ struct CXTPReportControl::Impl {
     void InvalidateFocusLook() const;
     void PaintRect(CDC& dc, const CRect& rc);
     void DrawRows(CDC* dc, const CRect& rcDirty);
+    void DrawFreezeLine(CDC* dc);
     /// Items may keep the place where they drew last and compare points with it. Scrolling moves the pixels of rows
     /// without asking the items to draw, so a row that was moved is drawn again before the mouse meets it.
     void RefreshMovedRow(int rowIndex);
@@ -226,6 +230,8 @@ struct CXTPReportControl::Impl {
 
     CellHit HitCell(CPoint point) const;
     XTP_REPORTRECORDITEM_CLICKARGS ClickArgs(const CellHit& hit, CPoint point) const;
+    /// Over the header or the group-by box.
+    bool IsOverHeader(CPoint point) const;
     bool IsHeaderGesture() const;
     bool HasCapture() const;
     void TrackLeave(); ///< not while the mouse is captured: its leaving would be told at once
@@ -281,6 +287,7 @@ struct CXTPReportControl::Impl {
     void ResizeByKey(int direction);
     void SortByKey(CXTPReportColumn* column, bool addsKey);
     void FitByKey(CXTPReportColumn* column);
+    void GroupByKey(CXTPReportColumn* column, bool turns);
     void OpenHeaderMenu(CXTPReportColumn* column);
     void BestFitAll();
     bool IsTyping() const;

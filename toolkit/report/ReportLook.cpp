@@ -121,14 +121,24 @@ constexpr BodyColors ClassicBody = {
     Sys(COLOR_BTNSHADOW), // expand button: frame, inside, sign
     Sys(COLOR_WINDOW),
     Sys(COLOR_WINDOWTEXT),
+    Between(COLOR_BTNFACE, COLOR_BTNSHADOW, 30),
+    Sys(COLOR_BTNTEXT),   // group-by box
+    Sys(COLOR_BTNSHADOW), // freeze line
 };
 
 constexpr BodyColors OfficeXPBody = {
-    Sys(COLOR_WINDOW),  Sys(COLOR_WINDOWTEXT), Rgb(0xF1F5FB), Sys(COLOR_BTNFACE), Sys(COLOR_GRAYTEXT),
-    Rgb(0xC1D2EE),      Rgb(0x000000),         Rgb(0xDCE0E8), Rgb(0x000000),      Rgb(0x316AC5),
-    Sys(COLOR_BTNFACE), Sys(COLOR_HOTLIGHT),   Rgb(0x3F5580), Rgb(0x316AC5),      Rgb(0xE1E8F4),
-    Rgb(0x1F3A6E),      Rgb(0x9DB1D4),         Rgb(0xA9B7D1), Rgb(0x7F93B9),      Sys(COLOR_WINDOW),
-    Rgb(0x1F3A6E),
+    Sys(COLOR_WINDOW),   Sys(COLOR_WINDOWTEXT),
+    Rgb(0xF1F5FB),       Sys(COLOR_BTNFACE),
+    Sys(COLOR_GRAYTEXT), Rgb(0xC1D2EE),
+    Rgb(0x000000),       Rgb(0xDCE0E8),
+    Rgb(0x000000),       Rgb(0x316AC5),
+    Sys(COLOR_BTNFACE),  Sys(COLOR_HOTLIGHT),
+    Rgb(0x3F5580),       Rgb(0x316AC5),
+    Rgb(0xE1E8F4),       Rgb(0x1F3A6E),
+    Rgb(0x9DB1D4),       Rgb(0xA9B7D1),
+    Rgb(0x7F93B9),       Sys(COLOR_WINDOW),
+    Rgb(0x1F3A6E),       Between(COLOR_BTNFACE, COLOR_BTNSHADOW, 30),
+    Sys(COLOR_BTNTEXT),  Rgb(0x7A9AC8),
 };
 
 constexpr BodyColors Office2013Body = {
@@ -144,6 +154,8 @@ constexpr BodyColors Office2013Body = {
     Rgb(0xFFFFFF), Rgb(0x0072C6), Rgb(0xC6C6C6), // group row
     None,                                        //
     Rgb(0x6A6A6A), None,          None,          // expand button
+    Rgb(0xF1F1F1), Rgb(0x5E5E5E),                //
+    Rgb(0xABABAB),                               //
 };
 
 constexpr BodyColors Windows7Body = {
@@ -159,6 +171,8 @@ constexpr BodyColors Windows7Body = {
     Rgb(0xFFFFFF), Rgb(0x003399), Rgb(0xB9CCE4), // group row
     None,                                        //
     Rgb(0x5A5A5A), None,          None,          // expand button
+    Rgb(0xEDF2F8), Rgb(0x44607C),                //
+    Rgb(0xA6B4C4),                               //
 };
 
 constexpr BodyColors ResourceBody = {
@@ -174,6 +188,8 @@ constexpr BodyColors ResourceBody = {
     Rgb(0xDCE7F5), Rgb(0x15428B), Rgb(0x9DB8D6), // group row
     None,                                        //
     Rgb(0x7B9AC2), Rgb(0xFFFFFF), Rgb(0x15428B), // expand button
+    Rgb(0xC9DAEE), Rgb(0x15428B),                //
+    Rgb(0x6E93C0),                               //
 };
 
 constexpr BodyColors HighContrastBody = {
@@ -188,7 +204,8 @@ constexpr BodyColors HighContrastBody = {
     Sys(COLOR_WINDOW),        Sys(COLOR_WINDOWTEXT),
     Sys(COLOR_WINDOWTEXT),    Sys(COLOR_WINDOWTEXT),
     Sys(COLOR_WINDOWTEXT),    Sys(COLOR_WINDOW),
-    Sys(COLOR_WINDOWTEXT),
+    Sys(COLOR_WINDOWTEXT),    Sys(COLOR_WINDOW),
+    Sys(COLOR_WINDOWTEXT),    Sys(COLOR_WINDOWTEXT),
 };
 
 constexpr ThemeLook ThemeLooks[] = {

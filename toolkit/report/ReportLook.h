@@ -33,6 +33,9 @@ enum class Role {
     ExpandButton,     ///< the frame of a box, or a whole triangle
     ExpandButtonFill, ///< inside of a box
     ExpandButtonSign, ///< plus and minus
+    GroupBy,          ///< background of the group-by box
+    GroupByText,      ///< on it, and the lines between its buttons
+    FreezeLine,       ///< at the edge of frozen columns
 
     Header, ///< the lower end of the header's gradient
     HeaderLight,

@@ -114,6 +114,8 @@ constexpr UINT XTP_NM_REPORT_EDITCANCELED = XTP_NM_REPORT_FIRST - 9;
 
 /// A row was expanded or collapsed, by the user or the host; no item. `CXTPReportRow::IsExpanded` tells which.
 constexpr UINT XTP_NM_REPORT_ROWEXPANDED = XTP_NM_REPORT_FIRST - 10;
+/// The user has changed by which columns rows are grouped, or the order of one column's groups; rows are in order.
+constexpr UINT XTP_NM_REPORT_GROUPORDERCHANGED = XTP_NM_REPORT_FIRST - 11;
 
 /// What a notification about a cell carries. The pointers are valid until the owner returns.
 struct XTP_NM_REPORTRECORDITEM {

@@ -36,6 +36,7 @@ list(APPEND kytoolkit_report_SOURCES
     report/CXTPReportFilterEditControl.cpp
     report/CXTPReportGroupRow.cpp
     report/CXTPReportHeader.cpp
+    report/CXTPReportHeader_Groups.cpp
     report/CXTPReportHeader_Mouse.cpp
     report/CXTPReportInplaceEdit.cpp
     report/CXTPReportPaintManager.cpp

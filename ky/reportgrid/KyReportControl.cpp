@@ -44,6 +44,9 @@ KyReportControl::KyReportControl() {
     tips->SetStyle(Themes::ToXTPToolTipStyle(Themes::GetProfileTheme()));
     tips->SetMaxTipWidth(maxTipWidth);
     SetReportHeader(new KyReportHeader(this, GetColumns()));
+    GetPaintManager()->SetNoGroupByText(Translate("Drag a column header here to group by that column."));
+    // Translators: %1 is the place of a column in the sort order, %2 the number of columns there.
+    GetPaintManager()->SetSortRankText(Translate("Sort order: %1 of %2"));
 }
 
 KyReportControl::~KyReportControl() {

@@ -1,9 +1,9 @@
 // Shows the looks of the report control: contact_sheet FOLDER writes one picture for each theme, column style and
 // resolution, theme-THEME-style-STYLE-DPI.bmp, with the states that a grid can be in side by side. With --golden it
 // writes those that are kept as golden pictures: every theme and style at 96 dots per inch, each theme's own style at
-// 144, with letters whose edges are not smoothed, so that the colours of a picture fit into a palette. Two pictures
-// more: editing-DPI.bmp shows open editors and the look of grids on dialogs, previews-DPI.bmp preview texts in every
-// theme.
+// 144, with letters whose edges are not smoothed, so that the colours of a picture fit into a palette. Pictures more:
+// editing-DPI.bmp shows open editors and the look of grids on dialogs, previews-DPI.bmp preview texts in every theme,
+// columns-DPI.bmp group-by boxes, a frozen column and two sort keys, dragging-DPI.bmp headers on the way into the box.
 //
 // Every picture is what real controls draw when real messages have brought them into these states.
 #include <XTToolkitPro.h>
@@ -229,6 +229,32 @@ void ShowPreviews(Panel& panel) {
     panel.Grid().SetFocusedRow(panel.Grid().GetRows()->GetAt(0));
 }
 
+/// Two groups, of which one is hot, two sort keys, and a frozen column from beneath which another one comes.
+void ShowGroups(Panel& panel) {
+    panel.AddRows();
+    CXTPReportColumns& columns = *panel.Grid().GetColumns();
+    columns.GetSortOrder()->Add(&panel.Column(1), FALSE);
+    columns.GetSortOrder()->Add(&panel.Column(0), TRUE);
+    columns.GetGroupsOrder()->Add(&panel.Column(2), TRUE);
+    columns.GetGroupsOrder()->Add(&panel.Column(0));
+    panel.Grid().Populate();
+    panel.Grid().SetFreezeColumnsCount(1);
+    panel.Grid().ShowGroupBy();
+    panel.Column(2).SetWidth(2 * panel.Column(2).GetWidth());
+    panel.Grid().SetLeftOffset(panel.Column(1).GetWidth() / 2);
+    panel.Mouse(WM_MOUSEMOVE, panel.Grid().GetReportHeader()->GetGroupRect(&panel.Column(0)).CenterPoint());
+}
+
+/// A header on its way into an empty box.
+void ShowEmptyBox(Panel& panel) {
+    panel.AddRows();
+    panel.Grid().ShowGroupBy();
+    const CPoint from = panel.HeaderOf(1);
+    panel.Mouse(WM_LBUTTONDOWN, from, MK_LBUTTON);
+    panel.Mouse(WM_MOUSEMOVE, from + CSize(0, -20), MK_LBUTTON);
+    panel.Mouse(WM_MOUSEMOVE, panel.Grid().GetGroupByRect().CenterPoint() + CSize(60, 0), MK_LBUTTON);
+}
+
 struct State {
     const wchar_t* name;
     void (*show)(Panel&);
@@ -255,8 +281,20 @@ constexpr ThemedState PreviewStates[] = {{L"previews, default", 0, ShowPreviews}
                                          {L"Office 2013", 2, ShowPreviews},
                                          {L"Windows 7", 3, ShowPreviews},
                                          {L"resource", 4, ShowPreviews}};
+constexpr ThemedState ColumnsStates[] = {{L"groups, default", 0, ShowGroups},
+                                         {L"Office XP", 1, ShowGroups},
+                                         {L"Office 2013", 2, ShowGroups},
+                                         {L"Windows 7", 3, ShowGroups},
+                                         {L"resource", 4, ShowGroups}};
+constexpr ThemedState DraggingStates[] = {{L"into an empty box", 0, ShowEmptyBox},
+                                          {L"Office XP", 1, ShowEmptyBox},
+                                          {L"Office 2013", 2, ShowEmptyBox},
+                                          {L"Windows 7", 3, ShowEmptyBox},
+                                          {L"resource", 4, ShowEmptyBox}};
 static_assert(std::size(EditingStates) == std::size(States)); // the same strip
 static_assert(std::size(PreviewStates) == std::size(States));
+static_assert(std::size(ColumnsStates) == std::size(States));
+static_assert(std::size(DraggingStates) == std::size(States));
 
 // --- Pictures -------------------------------------------------------------------------------------------------------
 
@@ -344,10 +382,12 @@ int main(int argc, char** argv) {
         }
     }
     for (const int dpi : Resolutions) {
+        isWhole = WriteThemedPicture(L"columns", ColumnsStates, dpi, folder) && isWhole;
         if (isGolden && dpi != 96)
             continue;
         isWhole = WriteThemedPicture(L"editing", EditingStates, dpi, folder) && isWhole;
         isWhole = WriteThemedPicture(L"previews", PreviewStates, dpi, folder) && isWhole;
+        isWhole = WriteThemedPicture(L"dragging", DraggingStates, dpi, folder) && isWhole;
     }
     return isWhole ? 0 : 1;
 }

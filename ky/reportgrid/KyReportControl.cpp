@@ -170,6 +170,37 @@ void KyReportControl::SelectAll() {
     OnSelectionChanged();
 }
 
+// --- Texts ----------------------------------------------------------------------------------------------------------
+
+CString KyReportControl::GetText(XTPReportText text) const {
+    switch (text) {
+    case xtpReportTextSort:
+        return Translate("Screen reader action", "Sort");
+    case xtpReportTextJump:
+        return Translate("Screen reader action", "Jump");
+    case xtpReportTextEdit:
+        return Translate("Screen reader action", "Edit");
+    case xtpReportTextOpen:
+        return Translate("Screen reader action", "Open");
+    case xtpReportTextExpand:
+        return Translate("Screen reader action", "Expand");
+    case xtpReportTextCollapse:
+        return Translate("Screen reader action", "Collapse");
+    case xtpReportTextNoValue:
+        return Translate("Group without a value", "(none)");
+    case xtpReportTextFilterCue:
+        return Translate("Filter cue", "Filter");
+    }
+    return CXTPReportControl::GetText(text);
+}
+
+CString KyReportControl::GetGroupCaption(const CXTPReportColumn* pColumn, const CString& strValue, int nRecords) const {
+    const CString caption = pColumn != nullptr ? pColumn->GetCaption() : CString();
+    const CString value = strValue.IsEmpty() ? GetText(xtpReportTextNoValue) : strValue;
+    // Translators: the row of a group; column caption, value, number of records
+    return TranslateFormat("Group", "%1%: %2% (%3%)", std::wstring(caption), std::wstring(value), nRecords);
+}
+
 // --- Theme ----------------------------------------------------------------------------------------------------------
 
 int KyReportControl::OnCreate(LPCREATESTRUCT lpCreateStruct) {

@@ -39,6 +39,12 @@ public:
     /// Selects every row and raises `OnSelectionChanged`, also in an empty grid.
     void SelectAll();
 
+    /** @{ */
+    /// The texts of the toolkit's grid in the user's language.
+    CString GetText(XTPReportText text) const override;
+    CString GetGroupCaption(const CXTPReportColumn* pColumn, const CString& strValue, int nRecords) const override;
+    /** @} */
+
 protected:
     /// Shows the column chooser for a right click at the point (client coordinates) and carries out what was chosen.
     /// Nothing shows unless the chooser is on, the point is on a column's header and no mouse gesture is under way.

@@ -121,7 +121,7 @@ protected:
     static std::vector<std::pair<DWORD, LONG>> Events(HWND window, Action act) {
         s_events.clear();
         s_window = window;
-        const HWINEVENTHOOK hook = ::SetWinEventHook(EVENT_OBJECT_REORDER, EVENT_OBJECT_SELECTIONWITHIN, nullptr, Hear,
+        const HWINEVENTHOOK hook = ::SetWinEventHook(EVENT_OBJECT_REORDER, EVENT_OBJECT_STATECHANGE, nullptr, Hear,
                                                      ::GetCurrentProcessId(), 0, WINEVENT_OUTOFCONTEXT);
         act();
         MSG msg;
@@ -515,6 +515,80 @@ TEST_F(AccessibleTest, AnOwnerMayDestroyTheControlInAnAnswer) {
     };
     EXPECT_EQ(row->accSelect(SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION, Child(CHILDID_SELF)), S_OK);
     EXPECT_EQ(row->accDoDefaultAction(Child(CHILDID_SELF)), CO_E_OBJNOTCONNECTED);
+}
+
+// --- Outlines -------------------------------------------------------------------------------------------------------
+
+class AccessibleOutlineTest : public AccessibleTest {
+protected:
+    AccessibleOutlineTest() {
+        AddRecords(2);
+        auto* child = new CXTPReportRecord;
+        for (const LPCTSTR text : {_T("child"), _T("B0"), _T("C0")})
+            child->AddItem(new ProbeItem(text));
+        m_grid.GetRecords()->GetAt(0)->GetChilds()->Add(child);
+        m_columns[0]->SetTreeColumn(TRUE);
+        m_grid.Populate();
+    }
+    void Group() {
+        m_grid.GetColumns()->GetGroupsOrder()->Add(m_columns[1]);
+        m_grid.Populate();
+    }
+};
+
+TEST_F(AccessibleOutlineTest, RowsTellTheirLevelAndWhetherTheyAreExpanded) {
+    EXPECT_EQ(Role(Row(0)), ROLE_SYSTEM_OUTLINEITEM);
+    EXPECT_EQ(Name(Row(0)), L"A0");
+    EXPECT_EQ(Value(Row(0)), L"0");
+    EXPECT_TRUE(State(Row(0)) & STATE_SYSTEM_COLLAPSED);
+    EXPECT_FALSE(State(Row(0)) & STATE_SYSTEM_EXPANDED);
+    EXPECT_FALSE(State(Row(1)) & (STATE_SYSTEM_COLLAPSED | STATE_SYSTEM_EXPANDED));
+    m_grid.ExpandAll();
+    EXPECT_TRUE(State(Row(0)) & STATE_SYSTEM_EXPANDED);
+    EXPECT_FALSE(State(Row(0)) & STATE_SYSTEM_COLLAPSED);
+    EXPECT_EQ(Name(Row(1)), L"child");
+    EXPECT_EQ(Value(Row(1)), L"1");
+    EXPECT_EQ(Value(Row(1), 1), L"child") << "cells have their texts";
+}
+
+TEST_F(AccessibleOutlineTest, ADefaultActionExpandsAndCollapses) {
+    EXPECT_EQ(DefaultAction(Row(0)), L"Expand");
+    EXPECT_EQ(DefaultAction(Row(1)), L"Open");
+    EXPECT_EQ(DefaultAction(Row(0), 1), L"Open") << "a cell does what enter does";
+    EXPECT_EQ(Row(0)->accDoDefaultAction(Child(CHILDID_SELF)), S_OK);
+    EXPECT_EQ(m_grid.GetRows()->GetCount(), 3);
+    EXPECT_EQ(DefaultAction(Row(0)), L"Collapse");
+    EXPECT_EQ(Row(0)->accDoDefaultAction(Child(CHILDID_SELF)), S_OK);
+    EXPECT_EQ(m_grid.GetRows()->GetCount(), 2);
+}
+
+TEST_F(AccessibleOutlineTest, AnExpansionIsTold) {
+    const auto events = Events(m_grid.m_hWnd, [this] { m_grid.GetRows()->GetAt(0)->SetExpanded(TRUE); });
+    EXPECT_THAT(events, ::testing::ElementsAre(std::pair<DWORD, LONG>(EVENT_OBJECT_REORDER, CHILDID_SELF),
+                                               std::pair<DWORD, LONG>(EVENT_OBJECT_STATECHANGE, Columns + 1)));
+}
+
+TEST_F(AccessibleOutlineTest, ARowOfAGroupHasItsCaptionAndEmptyCells) {
+    Group();
+    EXPECT_EQ(Name(Row(0)), L"B: B0 (2)");
+    EXPECT_EQ(Role(Row(0)), ROLE_SYSTEM_OUTLINEITEM);
+    EXPECT_EQ(Value(Row(0)), L"0");
+    EXPECT_TRUE(State(Row(0)) & STATE_SYSTEM_EXPANDED);
+    EXPECT_EQ(Value(Row(1)), L"1");
+    EXPECT_EQ(Value(Row(0), 2), L"(none)");
+    EXPECT_EQ(DefaultAction(Row(0), 2), L"(none)");
+    EXPECT_EQ(DefaultAction(Row(0)), L"Collapse");
+    EXPECT_EQ(Row(0)->accDoDefaultAction(Child(1)), DISP_E_MEMBERNOTFOUND);
+    EXPECT_EQ(Row(0)->accSelect(SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION, Child(CHILDID_SELF)), S_OK);
+    EXPECT_THAT(Selected(), ::testing::ElementsAre(0));
+    EXPECT_TRUE(State(Row(0)) & STATE_SYSTEM_SELECTED);
+}
+
+TEST_F(AccessibleOutlineTest, AGridWithoutAnOutlineHasRows) {
+    m_grid.ResetContent();
+    AddRecords(2);
+    EXPECT_EQ(Role(Row(0)), ROLE_SYSTEM_ROW);
+    EXPECT_EQ(Value(Row(0)), L"(none)");
 }
 
 } // namespace

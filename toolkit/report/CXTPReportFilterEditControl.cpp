@@ -5,10 +5,13 @@
 #include "CXTPReportRecords.h"
 #include "CXTPReportRows.h"
 
+#include "../../framework/gdi/SelectGuard.h"
+
 IMPLEMENT_DYNAMIC(CXTPReportFilterEditControl, CEdit)
 
 BEGIN_MESSAGE_MAP(CXTPReportFilterEditControl, CEdit)
     ON_CONTROL_REFLECT_EX(EN_CHANGE, &CXTPReportFilterEditControl::OnChange)
+    ON_WM_PAINT()
     ON_WM_KEYDOWN()
     ON_WM_TIMER()
 END_MESSAGE_MAP()
@@ -47,8 +50,30 @@ CString CXTPReportFilterEditControl::GetHint() const {
 }
 
 void CXTPReportFilterEditControl::ShowHint() {
-    if (m_hWnd)
-        SendMessage(EM_SETCUEBANNER, TRUE, reinterpret_cast<LPARAM>(GetHint().GetString()));
+    if (!m_hWnd)
+        return;
+    m_bSystemHint = SendMessage(EM_SETCUEBANNER, TRUE, reinterpret_cast<LPARAM>(GetHint().GetString())) != FALSE;
+    Invalidate();
+}
+
+/// Edit controls of programs without the newer common controls know no hints.
+void CXTPReportFilterEditControl::OnPaint() {
+    Default();
+    if (m_bSystemHint || GetWindowTextLength() > 0)
+        return;
+    CRect rcText;
+    GetRect(&rcText);
+    ::HideCaret(m_hWnd);
+    {
+        CClientDC dc(this);
+        const SaveDCGuard saved(dc);
+        if (CFont* const pFont = GetFont())
+            dc.SelectObject(pFont);
+        dc.SetBkMode(TRANSPARENT);
+        dc.SetTextColor(::GetSysColor(COLOR_GRAYTEXT));
+        dc.DrawText(GetHint(), &rcText, DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
+    }
+    ::ShowCaret(m_hWnd);
 }
 
 void CXTPReportFilterEditControl::Apply() {
@@ -63,6 +88,8 @@ void CXTPReportFilterEditControl::Apply() {
 }
 
 BOOL CXTPReportFilterEditControl::OnChange() {
+    if (!m_bSystemHint)
+        Invalidate(); // the hint comes or goes with the text
     const CXTPReportControl* const pControl = GetReportCtrl();
     if (pControl && pControl->GetRecords()->GetCount() > ManyRecords && SetTimer(PauseTimer, Pause))
         return FALSE;

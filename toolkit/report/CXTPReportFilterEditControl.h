@@ -25,6 +25,7 @@ public:
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
 protected:
+    void OnPaint();  ///< the hint, where the system has none for edit controls
     BOOL OnChange(); ///< filters, or waits for a pause; FALSE: the parent hears of it
     void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags); ///< Escape and Down
     void OnTimer(UINT_PTR nIDEvent);                       ///< the pause is over
@@ -38,5 +39,6 @@ private:
 
     HWND m_hReport = nullptr; ///< a window may go at any time
     CString m_strHint;
-    bool m_bOwnHint = false; ///< the host has set the hint
+    bool m_bOwnHint = false;    ///< the host has set the hint
+    bool m_bSystemHint = false; ///< the system draws it
 };

@@ -3,7 +3,8 @@
 // writes those that are kept as golden pictures: every theme and style at 96 dots per inch, each theme's own style at
 // 144, with letters whose edges are not smoothed, so that the colours of a picture fit into a palette. Pictures more:
 // editing-DPI.bmp shows open editors and the look of grids on dialogs, previews-DPI.bmp preview texts in every theme,
-// columns-DPI.bmp group-by boxes, a frozen column and two sort keys, dragging-DPI.bmp headers on the way into the box.
+// columns-DPI.bmp group-by boxes, a frozen column and two sort keys, dragging-DPI.bmp headers on the way into the box,
+// outline-DPI.bmp groups and trees.
 //
 // Every picture is what real controls draw when real messages have brought them into these states.
 #include <XTToolkitPro.h>
@@ -94,6 +95,29 @@ public:
             m_grid.AddRecord(record);
         }
         m_grid.GetRecords()->GetAt(4)->GetItem(0)->AddHyperlink(new CXTPReportHyperlink(0, 0));
+        m_grid.Populate();
+    }
+    /// Records in groups, with others below them.
+    void AddOutline() {
+        const auto add = [](CXTPReportRecords* records, const wchar_t* name, double value) {
+            CXTPReportRecord* const record = records->Add(new CXTPReportRecord);
+            record->AddItem(new CXTPReportRecordItemText(name));
+            record->AddItem(new CXTPReportRecordItemNumber(value, L"%.1f"));
+            record->AddItem(new CXTPReportRecordItemText(value < 5 ? L"low" : L"high"));
+            record->SetExpanded(TRUE);
+            return record;
+        };
+        CXTPReportRecord* const penguins = add(m_grid.GetRecords(), L"Biscoe", 1);
+        CXTPReportRecord* const first = add(penguins->GetChilds(), L"North", 2);
+        add(first->GetChilds(), L"Shore", 3);
+        first->SetExpanded(FALSE);
+        add(penguins->GetChilds(), L"South", 4);
+        CXTPReportRecord* const other = add(m_grid.GetRecords(), L"Dream", 4);
+        add(other->GetChilds(), L"East", 4.5);
+        other->SetExpanded(FALSE);
+        add(m_grid.GetRecords(), L"Gentoo", 9);
+        Column(0).SetTreeColumn(TRUE);
+        m_grid.GetColumns()->GetGroupsOrder()->Add(&Column(2), FALSE);
         m_grid.Populate();
     }
     void SortByName(BOOL increasing) {
@@ -197,6 +221,12 @@ void ShowEditor(Panel& panel) {
     panel.EditValue(1);
 }
 
+void ShowOutline(Panel& panel) {
+    panel.AddOutline();
+    panel.Grid().GetRows()->GetAt(5)->SetExpanded(FALSE);
+    panel.SelectRows(true);
+}
+
 void ShowDialogTheme(Panel& panel) {
     panel.UseDialogTheme();
     panel.AddRows();
@@ -295,6 +325,12 @@ static_assert(std::size(EditingStates) == std::size(States)); // the same strip
 static_assert(std::size(PreviewStates) == std::size(States));
 static_assert(std::size(ColumnsStates) == std::size(States));
 static_assert(std::size(DraggingStates) == std::size(States));
+constexpr ThemedState OutlineStates[] = {{L"groups and a tree, default", 0, ShowOutline},
+                                         {L"Office XP", 1, ShowOutline},
+                                         {L"Office 2013", 2, ShowOutline},
+                                         {L"Windows 7", 3, ShowOutline},
+                                         {L"resource", 4, ShowOutline}};
+static_assert(std::size(OutlineStates) == std::size(States));
 
 // --- Pictures -------------------------------------------------------------------------------------------------------
 
@@ -383,6 +419,7 @@ int main(int argc, char** argv) {
     }
     for (const int dpi : Resolutions) {
         isWhole = WriteThemedPicture(L"columns", ColumnsStates, dpi, folder) && isWhole;
+        isWhole = WriteThemedPicture(L"outline", OutlineStates, dpi, folder) && isWhole;
         if (isGolden && dpi != 96)
             continue;
         isWhole = WriteThemedPicture(L"editing", EditingStates, dpi, folder) && isWhole;

@@ -115,12 +115,26 @@ TEST_F(FrozenTest, NothingIsDrawnOverThem) {
                                                     : Blue;
             ASSERT_EQ(picture->At(x, Y(1)), expected) << x << " at " << offset;
         }
-        EXPECT_EQ(picture->BoxOf(line), CRect(99, 0, 100, m_grid.GetReportRectangle().bottom));
+        EXPECT_EQ(picture->BoxOf(line), CRect(99, 0, 100, HeaderHeight() + 4 * RowHeight()));
         EXPECT_EQ(ScreenDifference(), 0) << offset;
     }
     EXPECT_EQ(Pixels(1, 1)->rect.left, 70) << "a cell that is covered is not drawn any more";
     m_grid.SetFreezeColumnsCount(0);
     EXPECT_EQ(OnScreen()->Count(line), 0);
+}
+
+TEST_F(FrozenTest, TheLineLeavesOutWhatGoesOverTheWholeRow) {
+    const COLORREF line = RGB(1, 2, 3);
+    m_grid.GetPaintManager()->m_clrFreezeLine = line;
+    m_grid.GetColumns()->GetGroupsOrder()->Add(m_columns[0]);
+    m_grid.Populate();
+    m_grid.SetLeftOffset(30);
+    const auto picture = OnScreen();
+    ASSERT_TRUE(m_grid.GetRows()->GetAt(0)->IsGroupRow());
+    EXPECT_EQ(picture->At(99, HeaderHeight() / 2), line);
+    EXPECT_NE(picture->At(99, Y(0)), line) << "the row of a group";
+    EXPECT_EQ(picture->At(99, Y(1)), line);
+    EXPECT_EQ(ScreenDifference(), 0);
 }
 
 TEST_F(FrozenTest, HeadersAreCutOffAsWell) {

@@ -205,15 +205,7 @@ void CXTPReportControl::DoDraw(CDC* pDC, const CRect& rcDirty) {
     const CRect rcGroupBy = GetGroupByRect();
     if (rcGroupBy.top < rcDraw.bottom && rcGroupBy.bottom > rcDraw.top)
         m_impl->header->DrawGroupBy(pDC, rcGroupBy);
-    m_impl->DrawFreezeLine(pDC);
     m_impl->header->DrawDrag(pDC);
-}
-
-void CXTPReportControl::Impl::DrawFreezeLine(CDC* dc) {
-    const CRect rcHeader = control.GetHeaderRect();
-    const int edge = header->GetFreezeEdge();
-    if (edge > rcHeader.left)
-        paintManager->DrawFreezeLine(dc, CRect(edge - 1, rcHeader.top, edge, control.GetReportRectangle().bottom));
 }
 
 void CXTPReportControl::Impl::DrawRows(CDC* dc, const CRect& rcDirty) {

@@ -223,6 +223,9 @@ void CXTPReportHeader::Draw(CDC* pDC, const CRect& rcHeader) {
             DrawColumn(pDC, column, rcColumn, column == focused);
         }
     }
+    if (m_nFreezeEdge > rcHeader.left)
+        m_pControl->GetPaintManager()->DrawFreezeLine(
+            pDC, CRect(m_nFreezeEdge - 1, rcHeader.top, m_nFreezeEdge, rcHeader.bottom));
 }
 
 void CXTPReportHeader::DrawColumn(CDC* pDC, CXTPReportColumn* pColumn, const CRect& rcColumn, bool isFocused) const {

@@ -131,7 +131,7 @@ public:
                                    BOOL bPressed);
     /// The line from one button to the next, in the gap between them.
     virtual void DrawGroupByConnector(CDC* pDC, const CRect& rcGap);
-    /// The line at the edge of the frozen columns, over header and body.
+    /// The part of the line at the edge of the frozen columns that belongs to the header, or to the cells of a row.
     virtual void DrawFreezeLine(CDC* pDC, const CRect& rcLine);
     /// The part of the body without rows.
     virtual void FillBackground(CDC* pDC, const CRect& rc);

@@ -4,6 +4,7 @@
 #include "CXTPReportColumn.h"
 #include "CXTPReportColumns.h"
 #include "CXTPReportControl.h"
+#include "CXTPReportHeader.h"
 #include "CXTPReportPaintManager.h"
 #include "CXTPReportRecord.h"
 #include "CXTPReportRecordItem.h"
@@ -235,6 +236,10 @@ void CXTPReportRow::Draw(CDC* pDC, const CRect& rcRow, const CRect& rcClip) {
     // Beyond the last column only the line under the row goes on; its end lies outside, where nothing is drawn.
     if (right < rcDirty.right)
         paintManager->DrawGridLines(pDC, CRect(right, rcCells.top, rcCells.right + 1, rcCells.bottom));
+    // Cells have an edge where they are frozen; what goes over the whole row has none.
+    const int edge = control->GetReportHeader()->GetFreezeEdge();
+    if (edge > rcCells.left)
+        paintManager->DrawFreezeLine(pDC, CRect(edge - 1, rcCells.top, edge, rcCells.bottom));
     if (rcCells.bottom < rcRow.bottom)
         DrawPreview(pDC, rcRow, rcClip, metrics.clrBackground);
     DrawFocus(pDC, rcRow);

@@ -161,7 +161,6 @@ struct CXTPReportControl::Impl {
     void InvalidateFocusLook() const;
     void PaintRect(CDC& dc, const CRect& rc);
     void DrawRows(CDC* dc, const CRect& rcDirty);
-    void DrawFreezeLine(CDC* dc);
     /// Items may keep the place where they drew last and compare points with it. Scrolling moves the pixels of rows
     /// without asking the items to draw, so a row that was moved is drawn again before the mouse meets it.
     void RefreshMovedRow(int rowIndex);

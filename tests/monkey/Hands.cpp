@@ -130,9 +130,11 @@ CPoint Hands::Aim(CXTPReportControl& grid) {
     const CXTPReportRow* row =
         grid.GetRows()->GetAt(grid.GetTopRowIndex() + m_dice.Below(grid.GetFullyVisibleRowCount() + 1));
     const CRect rcRow = row ? row->GetRect() : client;
-    switch (m_dice.Below(10)) {
+    switch (m_dice.Below(11)) {
     case 0:
         return rcColumn.CenterPoint();
+    case 10: // the group-by box and its buttons
+        return CPoint(m_dice.Below(client.right), grid.GetGroupByRect().CenterPoint().y);
     case 1: // the divider and what is near
         return CPoint(rcColumn.right + m_dice.Between(-6, 6), header.CenterPoint().y);
     case 2:

@@ -36,13 +36,15 @@ void CheckRows(CXTPReportControl& grid) {
     Expect(top == 0 ||
                grid.GetRowRect(rows - 1).bottom > grid.GetReportRectangle().bottom - grid.GetRowRect(top - 1).Height(),
            "the top row is in range");
-    Expect(grid.IsVirtualMode() || rows <= grid.GetRecords()->GetCount(), "rows have records");
+    const bool isGrouped = grid.GetColumns()->GetGroupsOrder()->GetCount() > 0; // groups have rows of their own
+    Expect(grid.IsVirtualMode() || isGrouped || rows <= grid.GetRecords()->GetCount(), "rows have records");
 }
 
 void CheckColumns(CXTPReportControl& grid) {
     const CXTPReportColumns& columns = *grid.GetColumns();
     const CRect header = grid.GetHeaderRect();
-    int x = header.left - grid.GetLeftOffset(), total = 0;
+    const int edge = grid.GetReportHeader()->GetFreezeEdge();
+    int x = header.left, total = 0, frozen = 0;
     for (int i = 0; i < columns.GetCount(); ++i) {
         const CXTPReportColumn* column = columns.GetAt(i);
         Expect(column->GetControl() == &grid, "a column belongs to its grid");
@@ -50,16 +52,36 @@ void CheckColumns(CXTPReportControl& grid) {
                "a column's width is within its limits");
         if (!column->IsVisible())
             continue;
-        Expect(column->GetRect().left == x && column->GetRect().Width() == column->GetWidth(),
+        const int scrolled = column->IsFrozen() ? 0 : grid.GetLeftOffset();
+        Expect(column->GetRect().left == x - scrolled && column->GetRect().Width() == column->GetWidth(),
                "columns stand side by side");
+        Expect(!column->IsFrozen() || (x < edge || column->GetWidth() == 0),
+               "frozen columns stand in front of the edge");
+        Expect(column->GetUncoveredRect().IsRectEmpty() || column->IsFrozen() ||
+                   column->GetUncoveredRect().left >= edge,
+               "the others are seen behind it");
+        frozen += column->IsFrozen() ? 1 : 0;
         x += column->GetWidth();
         total += column->GetWidth();
     }
+    Expect(frozen <= grid.GetFreezeColumnsCount(), "no more columns are frozen than were asked for");
+    Expect(total <= header.Width() || edge - header.left <= header.Width() - header.Width() / 4,
+           "frozen columns leave room for the others");
+    const CXTPReportHeader& strip = *grid.GetReportHeader();
+    Expect(!strip.IsAutoColumnSizing() || header.Width() == 0 ||
+               total <= std::max<int>(header.Width(), strip.GetLeastWidth()),
+           "columns that fill the view are no wider than it");
     const int offset = grid.GetLeftOffset();
     Expect(offset >= 0 && offset <= std::max(total - header.Width(), 0), "the sideways offset is in range");
     const CXTPReportColumnOrder& order = *grid.GetColumns()->GetSortOrder();
     for (int i = 0; i < order.GetCount(); ++i)
         Expect(columns.IndexOf(order.GetAt(i)) >= 0, "the grid is sorted by columns that it has");
+    const CXTPReportColumnOrder& groups = *grid.GetColumns()->GetGroupsOrder();
+    for (int i = 0; i < groups.GetCount(); ++i) {
+        Expect(columns.IndexOf(groups.GetAt(i)) >= 0, "the grid is grouped by columns that it has");
+        Expect(strip.GetGroupRect(groups.GetAt(i)).IsRectEmpty() || grid.IsGroupByVisible(),
+               "groups have buttons in the box alone");
+    }
     if (const CXTPReportColumn* focused = grid.GetFocusedColumn())
         Expect(focused->IsVisible() && columns.IndexOf(focused) >= 0, "the focused column is visible");
     const CXTPReportColumn* fixed = columns.Find(CString(L"Name"));

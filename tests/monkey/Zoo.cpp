@@ -137,6 +137,9 @@ void Yard::CreateGrid(int index) {
     }
     grid.AllowEdit(index != 0 || m_dice.OneIn(2));
     grid.EnablePreviewMode(index != 2 && m_dice.OneIn(2));
+    grid.ShowGroupBy(m_dice.OneIn(2));
+    grid.SetFreezeColumnsCount(m_dice.Below(3));
+    grid.GetReportHeader()->SetAutoColumnSizing(m_dice.OneIn(3));
     if (index == 2)
         grid.SetInplaceEdit(new KyInPlaceEdit);
     if (auto* chooser = dynamic_cast<KyReportControl*>(&grid))
@@ -230,7 +233,7 @@ void Yard::DoMischief(int index) {
     m_isInMischief = true;
     ++m_heard.mischief;
     CXTPReportControl& grid = *m_grids[index];
-    switch (m_dice.Below(15)) {
+    switch (m_dice.Below(18)) {
     case 0:
         m_grids[index].reset();
         break;
@@ -274,6 +277,15 @@ void Yard::DoMischief(int index) {
         break;
     case 13:
         grid.EnablePreviewMode(!grid.IsPreviewMode());
+        break;
+    case 14:
+        grid.ShowGroupBy(!grid.IsGroupByVisible());
+        break;
+    case 15:
+        grid.SetFreezeColumnsCount(m_dice.Below(4));
+        break;
+    case 16:
+        grid.GetReportHeader()->SetAutoColumnSizing(m_dice.OneIn(2));
         break;
     default:
         ::MessageBox(m_hWnd, _T("mischief"), _T("Yard"), MB_OK);

@@ -123,6 +123,21 @@ TEST_F(EditLifeTest, DeletingTheColumnTakesTheText) {
     EXPECT_EQ(Item(2, 1)->GetValue(), _T("more"));
 }
 
+TEST_F(EditLifeTest, AColumnThatIsDeletedWhenTheOwnerHearsOfTheFocusIsNeitherFocusedNorEdited) {
+    const CXTPReportColumn* const gone = m_columns[1];
+    m_owner.onNotify = [this, gone](UINT code) {
+        CXTPReportColumns& columns = *m_grid.GetColumns();
+        if (code == XTP_NM_REPORT_FOCUSCHANGED && columns.IndexOf(gone) >= 0)
+            columns.Remove(m_columns[1]);
+    };
+    Edit(4, 1);
+    EXPECT_EQ(m_grid.GetColumns()->GetCount(), 2);
+    EXPECT_FALSE(IsEditing());
+    EXPECT_NE(m_grid.GetFocusedColumn(), gone);
+    Key(VK_RIGHT);
+    m_grid.UpdateWindow();
+}
+
 TEST_F(EditLifeTest, MovingAndResizingTheColumnMovesTheEditor) {
     m_grid.GetColumns()->ChangeColumnOrder(2, 0);
     ASSERT_TRUE(IsEditing());

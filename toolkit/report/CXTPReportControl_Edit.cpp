@@ -110,8 +110,8 @@ bool CXTPReportControl::Impl::EditCell(int rowIndex, CXTPReportColumn* column) {
         MoveFocusTo(rowIndex, false, false);
     else
         ShowRow(rowIndex);
-    if (guard.IsGone())
-        return false;
+    if (guard.IsGone() || column->GetControl() != &control)
+        return false; // the owner has heard of the focus
     FocusColumn(column, isColumnFocusShown);
     if (guard.IsGone())
         return false;

@@ -284,6 +284,8 @@ TEST_F(GroupByTest, AButtonDraggedWithinTheBoxChangesTheOrder) {
     EXPECT_EQ(Changes(), 2) << "dropped where it was";
     Drop(ButtonOf(0), CPoint(ButtonOf(0).x + 10, -HeaderHeight() + 1));
     EXPECT_EQ(Changes(), 2) << "a hand may be unsteady";
+    Drop(ButtonOf(1), InBox(Button(2).left + 2));
+    EXPECT_THAT(GroupNames(), ElementsAre(L"A", L"B", L"C")) << "in front of the last one, from the front";
 }
 
 TEST_F(GroupByTest, AClickTurnsTheOrderRound) {

@@ -284,6 +284,72 @@ TEST_F(ReportClipboard, CutRecordsGoToTheClipboard) {
     EXPECT_EQ(grid.GetRecords()->GetCount(), 3);
 }
 
+TEST_F(ReportClipboard, RowsCutHereAndThereLeaveTheOthersAsTheyAre) {
+    for (int i = 0; i < 30; ++i) {
+        CString text;
+        text.Format(_T("a%d"), i);
+        Add({text});
+    }
+    grid.Populate();
+    std::vector<CXTPReportRow*> others;
+    for (const int row : {0, 1, 4, 6, 8, 29})
+        others.push_back(grid.GetRows()->GetAt(row));
+    grid.SetFocusedRow(grid.GetRows()->GetAt(7));
+    grid.SetTopRow(7);
+    const int top = grid.GetTopRowIndex();
+    Select({2, 3, 5, 7});
+    grid.Cut();
+    EXPECT_EQ(grid.GetRecords()->GetCount(), 26);
+    ASSERT_EQ(grid.GetRows()->GetCount(), 26);
+    std::vector<int> places;
+    for (const CXTPReportRow* const row : others) {
+        ASSERT_EQ(row->GetControl(), &grid) << "the objects of the other rows stay";
+        EXPECT_EQ(grid.GetRows()->GetAt(row->GetIndex()), row);
+        places.push_back(row->GetIndex());
+    }
+    EXPECT_THAT(places, ElementsAre(0, 1, 2, 3, 4, 25));
+    EXPECT_EQ(grid.GetFocusedRow(), grid.GetRows()->GetAt(4)) << "the one that takes its place";
+    EXPECT_EQ(grid.GetTopRowIndex(), top - 3);
+    EXPECT_THAT(Selected(), IsEmpty());
+    for (int i = 0; i < 26; ++i) {
+        EXPECT_EQ(grid.GetRows()->GetAt(i)->GetRecord(), grid.GetRecords()->GetAt(i)) << i;
+        EXPECT_EQ(grid.GetRecords()->GetAt(i)->GetIndex(), i);
+    }
+    grid.Paste();
+    EXPECT_THAT(Selected(), ElementsAre(4, 5, 6, 7)) << "in front of the focused row";
+    EXPECT_EQ(grid.GetRecords()->GetCount(), 30);
+}
+
+TEST_F(ReportClipboard, RemovingSeveralRecordsLeavesThoseOfOtherCollections) {
+    AddThree();
+    CXTPReportRecords other(nullptr);
+    auto* const record = other.Add(new CXTPReportRecord);
+    CXTPReportRecord* const second = grid.GetRecords()->GetAt(1);
+    grid.GetRecords()->RemoveRecords({second, record, nullptr, second});
+    EXPECT_EQ(grid.GetRecords()->GetCount(), 2);
+    EXPECT_EQ(other.GetCount(), 1);
+    EXPECT_EQ(grid.GetRows()->GetCount(), 2);
+    grid.GetRecords()->RemoveRecords({});
+    EXPECT_EQ(grid.GetRecords()->GetCount(), 2);
+}
+
+TEST_F(ReportClipboard, WhatIsBeingTypedIsCopied) {
+    AddThree();
+    grid.AllowEdit(TRUE);
+    Select({1});
+    XTP_REPORTRECORDITEM_ARGS args;
+    args.pRow = grid.GetRows()->GetAt(1);
+    args.pColumn = grid.GetColumns()->GetAt(0);
+    grid.EditItem(&args);
+    ASSERT_NE(grid.GetActiveItem(), nullptr);
+    for (const wchar_t character : std::wstring(L"typed"))
+        grid.GetInplaceEdit()->SendMessage(WM_CHAR, character, 1);
+    grid.Copy();
+    EXPECT_EQ(grid.GetActiveItem(), nullptr);
+    EXPECT_EQ(grid.GetRecords()->GetAt(1)->GetItem(0)->GetCaption(nullptr), _T("typed"));
+    EXPECT_EQ(ClipboardContent::Text(), L"typed\tb1\tc1\r\n");
+}
+
 TEST_F(ReportClipboard, WhatCannotBeCopiedIsNotCut) {
     AddThree();
     Select({0});

@@ -185,6 +185,35 @@ TEST_F(PreviewTest, TheRowsOfVirtualModeHaveNone) {
     EXPECT_TRUE(Row(0)->GetPreviewRect().IsRectEmpty());
 }
 
+TEST_F(PreviewTest, RowsThatComeAndGoByExpandingBringTheirPreviews) {
+    AddPreviews({OneLine, nullptr, TwoLines});
+    m_columns[0]->SetTreeColumn(TRUE);
+    CXTPReportRecord* const parent = m_grid.GetRecords()->GetAt(1);
+    for (const LPCTSTR preview : {OneLine, FiveLines}) {
+        auto* const child = new CXTPReportRecord;
+        child->AddItem(new ProbeItem(_T("child")));
+        child->SetPreviewItem(new CXTPReportRecordItemPreview(preview));
+        parent->GetChilds()->Add(child);
+    }
+    m_grid.Populate();
+    ASSERT_EQ(m_grid.GetRows()->GetCount(), 3);
+    const auto heights = [this] {
+        std::vector<int> all;
+        for (int i = 0; i < m_grid.GetRows()->GetCount(); ++i)
+            all.push_back(Height(i));
+        return all;
+    };
+    Row(1)->SetExpanded(TRUE);
+    EXPECT_EQ(heights(), (std::vector<int>{HeightWith(1), HeightWith(0), HeightWith(1), HeightWith(3), HeightWith(2)}));
+    EXPECT_LE(Row(1)->GetExpandButtonRect().bottom, Row(1)->GetCellsRect().bottom);
+    parent->GetChilds()->RemoveAt(0);
+    EXPECT_EQ(heights(), (std::vector<int>{HeightWith(1), HeightWith(0), HeightWith(3), HeightWith(2)}));
+    Row(1)->SetExpanded(FALSE);
+    EXPECT_EQ(heights(), (std::vector<int>{HeightWith(1), HeightWith(0), HeightWith(2)}));
+    m_grid.ExpandAll();
+    EXPECT_EQ(heights(), (std::vector<int>{HeightWith(1), HeightWith(0), HeightWith(3), HeightWith(2)}));
+}
+
 // --- Cells and previews
 // -----------------------------------------------------------------------------------------------
 

@@ -115,7 +115,7 @@ public:
     void Step(std::mt19937& random) {
         const int a = Row(random);
         const int b = a + std::uniform_int_distribution<int>(-2, 12)(random);
-        switch (std::uniform_int_distribution<int>(0, 5)(random)) {
+        switch (std::uniform_int_distribution<int>(0, 6)(random)) {
         case 0:
         case 1:
             m_selection.Add(a, b);
@@ -137,6 +137,23 @@ public:
             const int removed = few(random), inserted = few(random);
             m_selection.Splice(a, removed, inserted);
             SpliceSet(a, removed, inserted);
+            break;
+        }
+        case 5: {
+            RowSelection gone;
+            std::set<int> goneRows;
+            for (int i = 0; i < 4; ++i)
+                for (int row = Row(random), end = row + i; row < end; ++row) {
+                    gone.Add(row, row);
+                    goneRows.insert(row);
+                }
+            m_selection.TakeOut(gone);
+            std::set<int> kept;
+            for (const int row : m_set)
+                if (goneRows.count(row) == 0)
+                    kept.insert(row - gone.CountAbove(row));
+            m_set = kept;
+            ASSERT_EQ(gone.CountAbove(a), std::distance(goneRows.begin(), goneRows.lower_bound(a)));
             break;
         }
         default:

@@ -196,6 +196,19 @@ void CXTPReportControl::OnRowsChanged(int nFirst, int nRemoved, int nInserted) {
     AdjustLayout();
 }
 
+void CXTPReportControl::OnRowsTakenOut(const RowSelection& gone) {
+    try {
+        m_impl->MeasurePreviews();
+    } catch (const std::bad_alloc&) {
+        // The rows have the plain height until the next Populate.
+    }
+    int& focused = m_impl->focusedRow;
+    focused = std::min(focused - gone.CountAbove(focused), m_impl->rows->GetCount() - 1);
+    m_impl->topRow -= gone.CountAbove(m_impl->topRow);
+    m_impl->chosenTopRow = m_impl->topRow;
+    AdjustLayout();
+}
+
 void CXTPReportControl::OnRowsCleared() {
     m_impl->previews.Clear();
     m_impl->focusedRow = -1;

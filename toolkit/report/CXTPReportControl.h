@@ -8,6 +8,8 @@
 
 #include <memory>
 
+class RowSelection;
+
 /// A grid. The host adds columns and records and calls `Populate`; rows are the sorted, visible records, those below
 /// expanded records, and the heads of groups. All points and
 /// rectangles are in client coordinates. Changes through setters redraw by themselves; changes of item values are shown
@@ -228,10 +230,11 @@ public:
     virtual BOOL CanCut();   ///< FALSE here: the control does not cut unless an override lets it
     virtual BOOL CanCopy();  ///< whether rows are selected
     virtual BOOL CanPaste(); ///< FALSE here: the control does not paste unless an override lets it
-    /// Puts the selected rows on the clipboard: as Unicode text (visible columns from left to right, parted by tabs, as
-    /// spreadsheets take it), and as records with everything that `DoPropExchange` writes, which only `Paste` reads.
-    /// Very many records (more than some ten thousand) and the rows of virtual mode go as text alone. The clipboard
-    /// stays as it was when there is nothing to copy or another program holds it.
+    /// Ends an editing under way, which takes effect, and puts the selected rows on the clipboard: as Unicode text
+    /// (visible columns from left to right, parted by tabs, as spreadsheets take it), and as records with everything
+    /// that `DoPropExchange` writes, which only `Paste` reads. Very many records (more than some ten thousand) and the
+    /// rows of virtual mode go as text alone. The clipboard stays as it was when there is nothing to copy or another
+    /// program holds it.
     virtual void Copy();
     /// `Copy`, and then removes the records; those that could not be copied stay. Nothing unless `CanCut` lets it; in
     /// virtual mode nothing either.
@@ -264,6 +267,8 @@ public:
     /// being deleted, or a row was expanded or collapsed: focus, top row and scroll bars follow. The selection has done
     /// so already. The rows below have moved along.
     void OnRowsChanged(int nFirst, int nRemoved, int nInserted);
+    /// The same for rows that were taken out here and there.
+    void OnRowsTakenOut(const RowSelection& gone);
     /// All rows were taken out: nothing has the focus any more.
     void OnRowsCleared();
     /// The column is about to be deleted: the header forgets it, and a drag or resize of it ends without effect.

@@ -12,6 +12,7 @@
 #include "../common/CXTPPropExchangeXMLNode.h"
 
 #include <algorithm>
+#include <functional>
 #include <string_view>
 
 namespace {
@@ -205,7 +206,7 @@ CString CXTPReportControl::Impl::SelectedRecords() const {
 }
 
 void CXTPReportControl::Copy() {
-    if (!m_hWnd || !CanCopy())
+    if (!m_hWnd || !m_impl->FinishEdit() || !CanCopy())
         return;
     // Everything is ready before the clipboard loses what it holds.
     GlobalText text(m_impl->SelectedText());
@@ -233,8 +234,21 @@ void CXTPReportControl::Cut() {
         return;
     m_impl->CancelGesture();
     m_impl->ChangeSelection([this] {
-        const std::vector<CXTPReportRecord*> selected = m_impl->SelectedRecordList();
-        std::for_each(selected.rbegin(), selected.rend(), [](CXTPReportRecord* record) { record->Delete(); });
+        std::vector<CXTPReportRecord*> selected = m_impl->SelectedRecordList();
+        // Those of one collection go together. The hooks of the host may delete others, so all are held meanwhile.
+        const std::vector<boost::intrusive_ptr<CXTPReportRecord>> alive(selected.begin(), selected.end());
+        std::stable_sort(selected.begin(), selected.end(), [](const CXTPReportRecord* a, const CXTPReportRecord* b) {
+            return std::less<>()(a->GetRecords(), b->GetRecords());
+        });
+        for (auto begin = selected.begin(); begin != selected.end();) {
+            CXTPReportRecords* const collection = (*begin)->GetRecords();
+            const auto end = std::find_if(begin, selected.end(), [collection](const CXTPReportRecord* record) {
+                return record->GetRecords() != collection;
+            });
+            if (collection)
+                collection->RemoveRecords({begin, end});
+            begin = end;
+        }
     });
 }
 
@@ -260,19 +274,22 @@ void CXTPReportControl::Impl::InsertRecords(CXTPReportRecords& pasted) {
     CancelGesture();
     const CXTPReportRecord* const below = rows->GetRecordAt(focusedRow);
     CXTPReportRecords* const target = below ? below->GetRecords() : records.get();
-    int place = below ? below->GetIndex() : records->GetCount();
+    const int place = below ? below->GetIndex() : records->GetCount();
     const std::vector<CXTPReportRecord*> inserted = TakeAll(pasted);
-    for (CXTPReportRecord* const record : inserted)
-        target->InsertAt(place++, record);
+    target->InsertAt(place, inserted);
 
     const WindowGuard guard(control);
     control.Populate();
     if (guard.IsGone())
         return;
-    RowSelection places;
+    std::vector<int> shown;
     for (const CXTPReportRecord* const record : inserted)
         if (const int row = rows->IndexOf(record); row >= 0)
-            places.Add(row, row);
+            shown.push_back(row);
+    std::sort(shown.begin(), shown.end());
+    RowSelection places;
+    for (const int row : shown)
+        places.Add(row, row);
     const int first = places.RowAt(0);
     if (first < 0)
         return; // none of them is visible

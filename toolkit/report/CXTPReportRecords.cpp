@@ -61,6 +61,44 @@ void CXTPReportRecords::InsertAt(int nIndex, CXTPReportRecord* pRecord) {
     }
 }
 
+void CXTPReportRecords::InsertAt(int nIndex, const std::vector<CXTPReportRecord*>& records) {
+    for (CXTPReportRecord* const pRecord : records) {
+        ASSERT(!pRecord->m_pRecords);
+        pRecord->m_pRecords = this;
+    }
+    try {
+        m_records.Insert(std::clamp(nIndex, 0, GetCount()), records);
+    } catch (...) {
+        std::for_each(records.begin(), records.end(), [this](CXTPReportRecord* pRecord) { Release(pRecord); });
+        throw;
+    }
+}
+
+void CXTPReportRecords::RemoveRecords(const std::vector<CXTPReportRecord*>& records) {
+    if (CXTPReportControl* const pControl = GetControl())
+        for (const CXTPReportRecord* const pRecord : records)
+            if (IndexOf(pRecord) >= 0 && !pControl->OnRecordLeaving(pRecord))
+                return;
+    // The hooks of the host may have changed the collection.
+    std::vector<int> places;
+    for (const CXTPReportRecord* const pRecord : records)
+        if (const int nIndex = IndexOf(pRecord); nIndex >= 0)
+            places.push_back(nIndex);
+    std::sort(places.begin(), places.end());
+    RowSelection gone;
+    std::vector<CXTPReportRecord*> removed;
+    for (const int nIndex : places) {
+        if (gone.Contains(nIndex))
+            continue; // named twice
+        gone.Add(nIndex, nIndex);
+        removed.push_back(GetAt(nIndex));
+    }
+    m_records.Erase(gone);
+    if (CXTPReportRows* const pRows = GetRows())
+        pRows->RecordsRemoved(removed);
+    std::for_each(removed.begin(), removed.end(), [this](CXTPReportRecord* pRecord) { Release(pRecord); });
+}
+
 BOOL CXTPReportRecords::RemoveRecord(CXTPReportRecord* pRecord) {
     CXTPReportControl* const pControl = GetControl();
     if (pControl && pRecord && !pControl->OnRecordLeaving(pRecord))

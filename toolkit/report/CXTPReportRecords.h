@@ -24,9 +24,15 @@ public:
     /// Takes ownership and returns the record; null is not added.
     CXTPReportRecord* Add(CXTPReportRecord* pRecord);
     void InsertAt(int nIndex, CXTPReportRecord* pRecord); ///< clamped to 0…count
-    /// Deletes the record; its row goes with it at once, and those below it, so that no row ever shows a dead record. FALSE when the record
-    /// is not in this collection.
+    /// The same for several records, none of them null, which stand in that order then: linear in the records that are
+    /// there and those that come.
+    void InsertAt(int nIndex, const std::vector<CXTPReportRecord*>& records);
+    /// Deletes the record; its row goes with it at once, and those below it, so that no row ever shows a dead record.
+    /// FALSE when the record is not in this collection.
     BOOL RemoveRecord(CXTPReportRecord* pRecord);
+    /// Deletes these records; those that are not in this collection stay. Linear in the records that are there, unless
+    /// the rows are an outline.
+    void RemoveRecords(const std::vector<CXTPReportRecord*>& records);
     void RemoveAt(int nIndex); ///< nothing happens when out of range
     /// Deletes all records with their rows; virtual mode ends.
     void RemoveAll();

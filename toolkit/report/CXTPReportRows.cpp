@@ -171,6 +171,37 @@ void CXTPReportRows::SpliceRowObjects(const RowSplice& splice) try {
     DetachRowObjects();
 }
 
+/// Lets go of the row objects of these rows; those below move up. Want of memory costs all of them.
+void CXTPReportRows::TakeOutRowObjects(const RowSelection& gone) try {
+    std::vector<CXTPReportRow*> objects;
+    for (const auto& [nBlock, rows] : m_rowObjects)
+        std::copy_if(rows.begin(), rows.end(), std::back_inserter(objects),
+                     [&gone](const CXTPReportRow* pRow) { return pRow && pRow->m_nIndex >= gone.RowAt(0); });
+    std::sort(objects.begin(), objects.end(),
+              [](const CXTPReportRow* a, const CXTPReportRow* b) { return a->m_nIndex < b->m_nIndex; });
+    std::vector<int> places; // where each goes, −1 for one that has gone
+    auto range = gone.Ranges().begin();
+    int nAbove = 0;
+    for (const CXTPReportRow* const pRow : objects) {
+        for (; range != gone.Ranges().end() && range->last < pRow->m_nIndex; ++range)
+            nAbove += range->last - range->first + 1;
+        const bool bGone = range != gone.Ranges().end() && range->first <= pRow->m_nIndex;
+        places.push_back(bGone ? -1 : pRow->m_nIndex - nAbove);
+        if (!bGone)
+            RowObject(places.back()); // room is made before anything moves
+    }
+    // From the top down an object moves to a place that is free by then.
+    for (std::size_t i = 0; i < objects.size(); ++i) {
+        RowObject(objects[i]->m_nIndex) = nullptr;
+        if (places[i] < 0)
+            Detach(objects[i]);
+        else
+            RowObject(objects[i]->m_nIndex = places[i]) = objects[i];
+    }
+} catch (const std::bad_alloc&) {
+    DetachRowObjects();
+}
+
 /// The rows have changed: what goes by their indices follows.
 void CXTPReportRows::Splice(const RowSplice& splice) {
     if (splice.IsNothing())
@@ -251,6 +282,29 @@ void CXTPReportRows::RecordRemoved(CXTPReportRecord* pRecord) {
     }
     m_records.Erase(nPlace);
     Splice({nPlace, 1, 0});
+}
+
+void CXTPReportRows::RecordsRemoved(const std::vector<CXTPReportRecord*>& records) {
+    if (m_pOutline || records.size() == 1) {
+        std::for_each(records.begin(), records.end(), [this](CXTPReportRecord* pRecord) { RecordRemoved(pRecord); });
+        return;
+    }
+    std::vector<int> places;
+    for (const CXTPReportRecord* const pRecord : records)
+        if (const int nPlace = m_records.IndexOf(pRecord); nPlace >= 0)
+            places.push_back(nPlace);
+    if (places.empty())
+        return;
+    std::sort(places.begin(), places.end());
+    RowSelection gone;
+    for (const int nPlace : places)
+        gone.Add(nPlace, nPlace);
+    m_records.Erase(gone);
+    TakeOutRowObjects(gone);
+    if (!m_pControl)
+        return;
+    m_pControl->GetSelectedRows()->RowsTakenOut(gone);
+    m_pControl->OnRowsTakenOut(gone);
 }
 
 void CXTPReportRows::ChildrenRemoved(const CXTPReportRecord* pRecord) {

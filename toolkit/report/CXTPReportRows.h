@@ -71,6 +71,8 @@ public:
     /// Takes out the row of a record that is about to be deleted, with those below it and groups that have become
     /// empty, out of the selection as well, and tells the control.
     void RecordRemoved(CXTPReportRecord* pRecord);
+    /// The same for several records, without one another below them.
+    void RecordsRemoved(const std::vector<CXTPReportRecord*>& records);
     /// The same for all records below one.
     void ChildrenRemoved(const CXTPReportRecord* pRecord);
     /// Detaches every row object; selection, focus and top row of the control go as well.
@@ -79,6 +81,7 @@ public:
 private:
     CXTPReportRow*& RowObject(int nIndex) const;
     void DetachRowObjects();
+    void TakeOutRowObjects(const RowSelection& gone);
     void SpliceRowObjects(const RowSplice& splice);
     void Splice(const RowSplice& splice);
     void TakeOut(int nFirstNode, int nEndNode);

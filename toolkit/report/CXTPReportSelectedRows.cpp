@@ -89,6 +89,16 @@ void CXTPReportSelectedRows::SetRanges(const RowSelection& ranges) {
     Assign(std::move(kept));
 }
 
+void CXTPReportSelectedRows::RowsTakenOut(const RowSelection& gone) {
+    try {
+        m_ranges.TakeOut(gone);
+    } catch (const std::bad_alloc&) {
+        m_ranges.Clear(); // better no selection than other rows
+    }
+    if (m_nAnchor >= 0)
+        m_nAnchor = std::min(m_nAnchor - gone.CountAbove(m_nAnchor), GetRowCount() - 1);
+}
+
 void CXTPReportSelectedRows::RowsChanged(int nFirst, int nRemoved, int nInserted) {
     try {
         m_ranges.Splice(nFirst, nRemoved, nInserted);

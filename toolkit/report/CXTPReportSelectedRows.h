@@ -41,6 +41,8 @@ public:
     void SetRanges(const RowSelection& ranges); ///< replaces the selection
     /// From `nFirst` on, `nRemoved` rows were taken out, which leave the selection, and `nInserted` came in their
     /// place, which are not selected; those below have moved along.
+    /// These rows have gone, see `CXTPReportControl::OnRowsTakenOut`.
+    void RowsTakenOut(const RowSelection& gone);
     void RowsChanged(int nFirst, int nRemoved, int nInserted);
 
 private:

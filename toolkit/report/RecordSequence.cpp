@@ -39,6 +39,19 @@ void RecordSequence::Insert(int index, CXTPReportRecord* record) {
     Renumber();
 }
 
+void RecordSequence::Insert(int index, const std::vector<CXTPReportRecord*>& records) {
+    m_records.insert(m_records.begin() + index, records.begin(), records.end());
+    Renumber();
+}
+
+void RecordSequence::Erase(const RowSelection& places) {
+    for (const RowSelection::Range& range : places.Ranges())
+        for (int index = range.first; index <= range.last; ++index)
+            std::exchange(m_records[index], nullptr)->*m_place = -1;
+    std::erase(m_records, nullptr);
+    Renumber();
+}
+
 void RecordSequence::Erase(int index) {
     m_records[index]->*m_place = -1;
     m_records.erase(m_records.begin() + index);

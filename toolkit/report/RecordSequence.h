@@ -2,6 +2,8 @@
 /// Records in an order, each of which knows its place.
 #pragma once
 
+#include "RowSelection.h"
+
 #include <vector>
 
 class CXTPReportRecord;
@@ -24,7 +26,11 @@ public:
 
     void Append(CXTPReportRecord* record);            ///< never null, and in no sequence that uses the same member
     void Insert(int index, CXTPReportRecord* record); ///< 0 <= index <= count
-    void Erase(int index);                            ///< 0 <= index < count
+    /// Several at once: linear in the records that are there and those that come.
+    void Insert(int index, const std::vector<CXTPReportRecord*>& records);
+    void Erase(int index); ///< 0 <= index < count
+    /// Takes out the records at these places, all of them there. Linear in the records that are there.
+    void Erase(const RowSelection& places);
     /// Takes the record out and leaves its place empty; nothing moves. Not to be mixed with `Erase`.
     void Vacate(int index);
     /// Replaces all records. Those that were in the sequence are looked at once more, so they must still live.

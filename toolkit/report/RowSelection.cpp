@@ -127,3 +127,35 @@ void RowSelection::Truncate(int count) {
     if (!m_ranges.empty() && m_ranges.back().last >= count)
         m_ranges.back().last = count - 1;
 }
+
+void RowSelection::TakeOut(const RowSelection& gone) {
+    std::vector<Range> kept;
+    auto next = gone.m_ranges.begin();
+    std::int64_t moved = 0; // rows gone above `row`
+    for (const Range& range : m_ranges) {
+        for (std::int64_t row = range.first; row <= range.last;) {
+            for (; next != gone.m_ranges.end() && next->last < row; ++next)
+                moved += std::int64_t{next->last} - next->first + 1;
+            const bool isGone = next != gone.m_ranges.end() && next->first <= row;
+            if (isGone) {
+                row = std::int64_t{next->last} + 1;
+                continue;
+            }
+            const std::int64_t last =
+                next == gone.m_ranges.end() ? range.last : std::min<std::int64_t>(range.last, next->first - 1);
+            const int first = static_cast<int>(row - moved);
+            if (kept.empty() || kept.back().last + 1 < first)
+                kept.push_back({first, first});
+            kept.back().last = static_cast<int>(last - moved);
+            row = last + 1;
+        }
+    }
+    m_ranges = std::move(kept);
+}
+
+int RowSelection::CountAbove(int row) const {
+    std::int64_t count = 0;
+    for (auto range = m_ranges.begin(); range != m_ranges.end() && range->first < row; ++range)
+        count += std::min<std::int64_t>(row, std::int64_t{range->last} + 1) - range->first;
+    return static_cast<int>(count);
+}

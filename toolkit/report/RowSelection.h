@@ -33,6 +33,10 @@ public:
     /// From `first` on, `removed` rows go away and leave the set, and `inserted` others, which are not in it, come in
     /// their place; all rows below move along.
     void Splice(int first, int removed, int inserted);
+    /// The rows of the other set go away and leave this one; those below them move up. Linear in the ranges of both.
+    void TakeOut(const RowSelection& gone);
+    /// How many rows of the set stand above the row.
+    int CountAbove(int row) const;
     /// Drops everything from `count` on.
     void Truncate(int count);
 

@@ -723,6 +723,50 @@ private:
 
 TEST(FailingCalls, EditingCells) { Try<EditCells>(); }
 
+// --- Previews --------------------------------------------------------------------------------------------------------
+
+/// Texts below the cells are measured, and wrapped for another width and back.
+class ShowPreviews : public Scenario {
+public:
+    ShowPreviews() : Scenario("previews") {
+        for (int i = 0; i < Grid().GetRecords()->GetCount(); i += 2)
+            Grid().GetRecords()->GetAt(i)->SetPreviewItem(new CXTPReportRecordItemPreview(
+                _T("words that are wrapped in as many lines as they need, or in three")));
+        Grid().EnablePreviewMode(TRUE);
+        m_rig.Paint();
+        m_expected = Tops();
+    }
+    void Act() override {
+        Grid().Populate();
+        CRect rc;
+        Grid().GetClientRect(&rc);
+        Grid().SetWindowPos(nullptr, 0, 0, rc.Width() / 2, rc.Height(), SWP_NOMOVE | SWP_NOZORDER);
+        m_rig.Paint();
+        Grid().SetWindowPos(nullptr, 0, 0, rc.Width(), rc.Height(), SWP_NOMOVE | SWP_NOZORDER);
+        m_rig.Paint();
+    }
+    std::string Broken() override {
+        for (int i = 1; i < Grid().GetRows()->GetCount(); ++i)
+            if (Grid().GetRowRect(i).top != Grid().GetRowRect(i - 1).bottom)
+                return "rows do not stand under each other";
+        return Grid().GetRows()->GetCount() == Grid().GetRecords()->GetCount() ? "" : "rows came or went";
+    }
+    std::string Wrong() override { return Tops() == m_expected ? "" : "other heights"; }
+
+private:
+    CXTPReportControl& Grid() { return *m_rig.grid; }
+    std::vector<int> Tops() {
+        std::vector<int> tops;
+        for (int i = 0; i < Grid().GetRows()->GetCount(); ++i)
+            tops.push_back(Grid().GetRowRect(i).top);
+        return tops;
+    }
+    GridRig m_rig;
+    std::vector<int> m_expected;
+};
+
+TEST(FailingCalls, Previews) { Try<ShowPreviews>(); }
+
 TEST(FailingCalls, LifeOfAGrid) { Try<Life>(); }
 
 } // namespace

@@ -739,7 +739,7 @@ public:
     void Act() override {
         Grid().Populate();
         CRect rc;
-        Grid().GetClientRect(&rc);
+        Grid().GetWindowRect(&rc);
         Grid().SetWindowPos(nullptr, 0, 0, rc.Width() / 2, rc.Height(), SWP_NOMOVE | SWP_NOZORDER);
         m_rig.Paint();
         Grid().SetWindowPos(nullptr, 0, 0, rc.Width(), rc.Height(), SWP_NOMOVE | SWP_NOZORDER);

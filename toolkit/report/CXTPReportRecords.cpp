@@ -94,9 +94,17 @@ void CXTPReportRecords::RemoveRecords(const std::vector<CXTPReportRecord*>& reco
         removed.push_back(GetAt(nIndex));
     }
     m_records.Erase(gone);
-    if (CXTPReportRows* const pRows = GetRows())
-        pRows->RecordsRemoved(removed);
-    std::for_each(removed.begin(), removed.end(), [this](CXTPReportRecord* pRecord) { Release(pRecord); });
+    const auto release = [&] {
+        std::for_each(removed.begin(), removed.end(), [this](CXTPReportRecord* pRecord) { Release(pRecord); });
+    };
+    try {
+        if (CXTPReportRows* const pRows = GetRows())
+            pRows->RecordsRemoved(removed);
+    } catch (...) {
+        release(); // their rows have gone
+        throw;
+    }
+    release();
 }
 
 BOOL CXTPReportRecords::RemoveRecord(CXTPReportRecord* pRecord) {
@@ -111,8 +119,13 @@ BOOL CXTPReportRecords::RemoveRecord(CXTPReportRecord* pRecord) {
     if (nIndex < 0)
         return FALSE;
     m_records.Erase(nIndex);
-    if (CXTPReportRows* const pRows = GetRows())
-        pRows->RecordRemoved(pRecord);
+    try {
+        if (CXTPReportRows* const pRows = GetRows())
+            pRows->RecordRemoved(pRecord);
+    } catch (...) {
+        Release(pRecord); // its row has gone
+        throw;
+    }
     Release(pRecord);
     return TRUE;
 }

@@ -10,6 +10,7 @@
 #include "RowOutline.h"
 
 #include <algorithm>
+#include <exception>
 #include <new>
 #include <utility>
 
@@ -284,21 +285,38 @@ void CXTPReportRows::RecordRemoved(CXTPReportRecord* pRecord) {
     Splice({nPlace, 1, 0});
 }
 
-void CXTPReportRows::RecordsRemoved(const std::vector<CXTPReportRecord*>& records) {
-    if (m_pOutline || records.size() == 1) {
-        std::for_each(records.begin(), records.end(), [this](CXTPReportRecord* pRecord) { RecordRemoved(pRecord); });
-        return;
-    }
+/// The rows of these records; none when there is no memory for so many.
+RowSelection CXTPReportRows::PlacesOf(const std::vector<CXTPReportRecord*>& records) const try {
     std::vector<int> places;
     for (const CXTPReportRecord* const pRecord : records)
         if (const int nPlace = m_records.IndexOf(pRecord); nPlace >= 0)
             places.push_back(nPlace);
-    if (places.empty())
-        return;
     std::sort(places.begin(), places.end());
-    RowSelection gone;
+    RowSelection rows;
     for (const int nPlace : places)
-        gone.Add(nPlace, nPlace);
+        rows.Add(nPlace, nPlace);
+    return rows;
+} catch (const std::bad_alloc&) {
+    return RowSelection();
+}
+
+void CXTPReportRows::RecordsRemoved(const std::vector<CXTPReportRecord*>& records) {
+    const bool bSingly = m_pOutline || records.size() == 1;
+    const RowSelection gone = bSingly ? RowSelection() : PlacesOf(records);
+    if (gone.IsEmpty()) {
+        // All rows go, also when there is no memory to lay out what is left.
+        std::exception_ptr failure;
+        for (CXTPReportRecord* const pRecord : records) {
+            try {
+                RecordRemoved(pRecord);
+            } catch (...) {
+                failure = std::current_exception();
+            }
+        }
+        if (failure)
+            std::rethrow_exception(failure);
+        return;
+    }
     m_records.Erase(gone);
     TakeOutRowObjects(gone);
     if (!m_pControl)

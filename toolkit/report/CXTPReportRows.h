@@ -81,6 +81,7 @@ public:
 private:
     CXTPReportRow*& RowObject(int nIndex) const;
     void DetachRowObjects();
+    RowSelection PlacesOf(const std::vector<CXTPReportRecord*>& records) const;
     void TakeOutRowObjects(const RowSelection& gone);
     void SpliceRowObjects(const RowSplice& splice);
     void Splice(const RowSplice& splice);

@@ -4,6 +4,7 @@
 #include <common/Translation.h>
 #include <plotcells/KyBarChartRecordItem.h>
 #include <plotcells/KyHistogramRecordItem.h>
+#include <reportgrid/KyReportControl.h>
 
 #include <gtest/gtest.h>
 
@@ -158,6 +159,25 @@ TEST_F(TranslationTest, TheShippedGermanCatalogueHasTheLibrarysTexts) {
     ::GlobalFree(histogram.CreateDIB(control, 402, 22));
     histogram.OnMouseMove(0, CPoint(201, 10), &control);
     EXPECT_EQ(histogram.GetInfoTip(), CString(L"Wert: 5, Anzahl: 7."));
+}
+
+TEST_F(TranslationTest, TheGridTellsItsOwnTextsInTheLanguage) {
+    KyReportControl grid;
+    const CXTPReportControl plain;
+    auto* const column = new CXTPReportColumn(0, _T("Art"), 50);
+    grid.AddColumn(column);
+    EXPECT_EQ(grid.GetGroupCaption(column, _T("100 %1%"), 3), CString(L"Art: 100 %1% (3)"));
+    EXPECT_EQ(grid.GetGroupCaption(column, _T(""), 1), CString(L"Art: (none) (1)"));
+    for (const XTPReportText text :
+         {xtpReportTextSort, xtpReportTextJump, xtpReportTextEdit, xtpReportTextOpen, xtpReportTextExpand,
+          xtpReportTextCollapse, xtpReportTextNoValue, xtpReportTextFilterCue})
+        EXPECT_EQ(grid.GetText(text), plain.GetText(text));
+    wchar_t program[MAX_PATH];
+    ::GetModuleFileNameW(nullptr, program, MAX_PATH);
+    const fs::path catalogues = fs::path(program).parent_path() / L"locale";
+    ASSERT_TRUE(SetLanguage(L"de", catalogues.c_str()));
+    EXPECT_EQ(grid.GetGroupCaption(column, _T(""), 1), CString(L"Art: (ohne) (1)"));
+    EXPECT_EQ(grid.GetText(xtpReportTextExpand), CString(L"Aufklappen"));
 }
 
 TEST(ParseDouble, ReadsFrameworkStrings) {

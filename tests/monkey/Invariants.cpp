@@ -19,6 +19,21 @@ void Expect(bool holds, const char* what) {
         sentinel::Fail(std::string("broken: ") + what);
 }
 
+void CheckOutline(const CXTPReportRows& rows) {
+    for (int i = 0; i < rows.GetCount(); ++i) {
+        const CXTPReportRecord* const record = rows.GetRecordAt(i);
+        Expect(!record || rows.IndexOf(record) == i, "a record knows its row");
+        Expect((record != nullptr) != (rows.GetGroupAt(i) != nullptr), "a row has a record or is a group");
+        const int parent = rows.GetParentIndex(i);
+        Expect(parent < i && (parent >= 0) == (rows.GetTreeDepth(i) + rows.GetGroupLevel(i) > 0),
+               "a row stands below its parent");
+        Expect(parent < 0 || (rows.IsExpanded(parent) && rows.GetBranchEnd(parent) > i), "its parent is expanded");
+        const CXTPReportRecord* const above = parent >= 0 ? rows.GetRecordAt(parent) : nullptr;
+        Expect(!record || record->GetParentRecord() == above, "a record stands below the one that owns it");
+        Expect(!rows.IsExpanded(i) || rows.HasChildren(i), "only what has others below it is expanded");
+    }
+}
+
 void CheckRows(CXTPReportControl& grid) {
     const int rows = grid.GetRows()->GetCount();
     const RowSelection& selection = grid.GetSelectedRows()->GetRanges();
@@ -36,8 +51,10 @@ void CheckRows(CXTPReportControl& grid) {
     Expect(top == 0 ||
                grid.GetRowRect(rows - 1).bottom > grid.GetReportRectangle().bottom - grid.GetRowRect(top - 1).Height(),
            "the top row is in range");
-    const bool isGrouped = grid.GetColumns()->GetGroupsOrder()->GetCount() > 0; // groups have rows of their own
-    Expect(grid.IsVirtualMode() || isGrouped || rows <= grid.GetRecords()->GetCount(), "rows have records");
+    const bool isOutline = grid.GetRows()->IsOutline() != FALSE;
+    Expect(grid.IsVirtualMode() || isOutline || rows <= grid.GetRecords()->GetCount(), "rows have records");
+    if (isOutline)
+        CheckOutline(*grid.GetRows());
 }
 
 void CheckColumns(CXTPReportControl& grid) {

@@ -19,9 +19,11 @@
 namespace {
 
 enum YardId { FirstGridId = 100, EditId = 200, ButtonId, ComboId, ListId, BarId, TextId };
-constexpr int GridCount = 3;
+constexpr int GridCount = 5;
 constexpr int VirtualRows = 1000000;
-CRect PlaceOf(int grid) { return CRect(10, 10 + 180 * grid, 580, 180 + 180 * grid); }
+/// The last two show an outline: records below records, and groups.
+constexpr int TreeGrid = 3, GroupGrid = 4;
+CRect PlaceOf(int grid) { return CRect(10, 10 + 110 * grid, 580, 115 + 110 * grid); }
 
 constexpr DWORD ChildStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP;
 
@@ -64,7 +66,9 @@ protected:
 private:
     void CreateGrid(int index);
     void Fill(CXTPReportControl& grid, int index);
+    void AddRecord(CXTPReportControl& grid, int index, int number);
     CXTPReportRecord* MakeRecord(int index, int number);
+    void ChangeOutline(CXTPReportControl& grid);
     void DoMischief(int index);
     void EditSomething(CXTPReportControl& grid);
 
@@ -120,8 +124,8 @@ void Yard::Tidy() {
 
 void Yard::CreateGrid(int index) {
     static constexpr CRuntimeClass* (*Classes[GridCount])() = {
-        [] { return RUNTIME_CLASS(CXTPReportControl); },
-        [] { return RUNTIME_CLASS(KyReportControl); },
+        [] { return RUNTIME_CLASS(CXTPReportControl); },         [] { return RUNTIME_CLASS(KyReportControl); },
+        [] { return RUNTIME_CLASS(KyPlotRecordReportControl); }, [] { return RUNTIME_CLASS(CXTPReportControl); },
         [] { return RUNTIME_CLASS(KyPlotRecordReportControl); },
     };
     m_grids[index].reset();
@@ -135,7 +139,13 @@ void Yard::CreateGrid(int index) {
         column->SetMinWidth(10 * i);
         grid.AddColumn(column);
     }
-    grid.AllowEdit(index != 0 || m_dice.OneIn(2));
+    grid.AllowEdit((index != 0 && index != TreeGrid) || m_dice.OneIn(2));
+    if (index == TreeGrid)
+        grid.GetColumns()->GetAt(m_dice.Below(2))->SetTreeColumn(TRUE);
+    if (index == GroupGrid)
+        grid.GetColumns()->GetGroupsOrder()->Add(grid.GetColumns()->GetAt(1), m_dice.OneIn(2));
+    if (index == GroupGrid && m_dice.OneIn(2))
+        grid.GetColumns()->GetGroupsOrder()->Add(grid.GetColumns()->GetAt(0), m_dice.OneIn(2));
     grid.EnablePreviewMode(index != 2 && m_dice.OneIn(2));
     grid.ShowGroupBy(m_dice.OneIn(2));
     grid.SetFreezeColumnsCount(m_dice.Below(3));
@@ -152,9 +162,17 @@ void Yard::Fill(CXTPReportControl& grid, int index) {
         grid.SetVirtualMode(MakeRecord(index, 0), VirtualRows);
     } else {
         for (int i = m_dice.Between(0, 60); i > 0; --i)
-            grid.AddRecord(MakeRecord(index, i));
+            AddRecord(grid, index, i);
     }
     grid.Populate();
+}
+
+/// In a tree below one that is there, or beside it.
+void Yard::AddRecord(CXTPReportControl& grid, int index, int number) {
+    CXTPReportRecords* records = grid.GetRecords();
+    while (index == TreeGrid && records->GetCount() > 0 && !m_dice.OneIn(3))
+        records = records->GetAt(m_dice.Below(records->GetCount()))->GetChilds();
+    records->Add(MakeRecord(index, number))->SetExpanded(m_dice.OneIn(2));
 }
 
 /// Every kind of plot in turn, most of them bars.
@@ -226,6 +244,31 @@ void Yard::EditSomething(CXTPReportControl& grid) {
     grid.EditItem(&args);
 }
 
+void Yard::ChangeOutline(CXTPReportControl& grid) {
+    const int count = grid.GetRows()->GetCount();
+    CXTPReportRow* const row = count > 0 ? grid.GetRows()->GetAt(m_dice.Below(count)) : nullptr;
+    switch (m_dice.Below(5)) {
+    case 0:
+        grid.ExpandAll();
+        break;
+    case 1:
+        grid.CollapseAll();
+        break;
+    case 2:
+        grid.SetFilterText(m_dice.OneIn(2) ? L"" : L"text 1");
+        grid.Populate();
+        break;
+    case 3:
+        if (row && row->GetRecord() && !grid.IsVirtualMode())
+            row->GetRecord()->Delete();
+        break;
+    default:
+        if (row)
+            row->SetExpanded(!row->IsExpanded());
+        break;
+    }
+}
+
 /// What an owner may do while it is told of something.
 void Yard::DoMischief(int index) {
     if (!isMischiefAllowed || m_isInMischief || !m_grids[index] || !m_dice.OneIn(6))
@@ -233,7 +276,7 @@ void Yard::DoMischief(int index) {
     m_isInMischief = true;
     ++m_heard.mischief;
     CXTPReportControl& grid = *m_grids[index];
-    switch (m_dice.Below(18)) {
+    switch (m_dice.Below(19)) {
     case 0:
         m_grids[index].reset();
         break;
@@ -286,6 +329,9 @@ void Yard::DoMischief(int index) {
         break;
     case 16:
         grid.GetReportHeader()->SetAutoColumnSizing(m_dice.OneIn(2));
+        break;
+    case 17:
+        ChangeOutline(grid);
         break;
     default:
         ::MessageBox(m_hWnd, _T("mischief"), _T("Yard"), MB_OK);

@@ -380,6 +380,114 @@ private:
 
 TEST(FailingCalls, CuttingAndPasting) { Try<CutAndPaste>(); }
 
+// --- Rows below each other
+// ---------------------------------------------------------------------------------------------
+
+/// A grid of records with children, whose rows are looked at afterwards.
+class Outline : public Scenario {
+public:
+    explicit Outline(const char* name) : Scenario(name) {
+        m_owner.CreateEx(0, AfxRegisterWndClass(0), L"owner", WS_POPUP, CRect(0, 0, 300, 400), nullptr, 0);
+        m_grid.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 400), &m_owner, 1);
+        m_grid.AddColumn(new CXTPReportColumn(0, L"text", 100));
+        m_grid.AddColumn(new CXTPReportColumn(1, L"kind", 100));
+        m_grid.GetColumns()->GetAt(0)->SetTreeColumn(TRUE);
+        for (int i = 0; i < 6; ++i) {
+            CXTPReportRecord* const record = Add(m_grid.GetRecords(), i);
+            if (i % 2 == 0)
+                Add(record->GetChilds(), 10 + i);
+        }
+        m_grid.Populate();
+    }
+    ~Outline() override {
+        m_grid.DestroyWindow();
+        m_owner.DestroyWindow();
+    }
+    std::string Broken() override {
+        CXTPReportRows& rows = *m_grid.GetRows();
+        for (int i = 0; i < rows.GetCount(); ++i) {
+            CXTPReportRow* const row = rows.GetAt(i);
+            if (!row || row->GetIndex() != i || (row->GetRecord() && rows.Find(row->GetRecord()) != row))
+                return "a row is not where it should be";
+            if (row->GetParentRow() && row->GetParentRow()->GetIndex() >= i)
+                return "a row stands above its parent";
+        }
+        if (m_grid.GetSelectedRows()->GetRanges().Contains(rows.GetCount()))
+            return "more rows are selected than there are";
+        return !m_grid.GetFocusedRow() || m_grid.GetFocusedRow()->GetIndex() < rows.GetCount() ? "" : "no such row";
+    }
+
+protected:
+    static CXTPReportRecord* Add(CXTPReportRecords* records, int number) {
+        CXTPReportRecord* const record = records->Add(new CXTPReportRecord);
+        record->AddItem(new CXTPReportRecordItemText(std::to_wstring(number).c_str()));
+        record->AddItem(new CXTPReportRecordItemText(number % 3 ? L"some" : L"third"));
+        return record;
+    }
+    CWnd m_owner;
+    CXTPReportControl m_grid;
+};
+
+/// Rows are grouped, expanded and collapsed, one by one and all at once.
+class GroupAndExpand : public Outline {
+public:
+    GroupAndExpand() : Outline("group and expand") {}
+    void Act() override {
+        CXTPReportColumns& columns = *m_grid.GetColumns();
+        {
+            const calltable::Pause pause; // each time from the same rows, whatever a failure has left
+            columns.GetGroupsOrder()->Clear();
+            m_grid.CollapseAll();
+            m_grid.Populate();
+            m_grid.SetFocusedRow(m_grid.GetRows()->GetAt(1));
+        }
+        columns.GetGroupsOrder()->Add(columns.GetAt(1));
+        m_grid.Populate();
+        m_grid.ExpandAll();
+        m_grid.GetRows()->GetAt(0)->SetExpanded(FALSE);
+        m_grid.UpdateWindow();
+        m_grid.GetRows()->GetAt(0)->SetExpanded(TRUE);
+        m_grid.SendMessage(WM_KEYDOWN, VK_MULTIPLY, 1);
+        m_grid.UpdateWindow();
+    }
+    std::string Wrong() override { return m_grid.GetRows()->GetCount() == 2 + 6 + 3 ? "" : "other rows"; }
+};
+
+TEST(FailingCalls, GroupingAndExpanding) { Try<GroupAndExpand>(); }
+
+/// A filter is typed and cleared.
+class Filter : public Outline {
+public:
+    Filter() : Outline("filter") {
+        m_edit.Create(WS_CHILD | WS_VISIBLE, CRect(0, 380, 100, 400), &m_owner, 2);
+        m_edit.SetReportCtrl(&m_grid);
+    }
+    ~Filter() override { m_edit.DestroyWindow(); }
+    void Act() override {
+        {
+            const calltable::Pause pause;
+            m_edit.SetWindowText(L"");
+            m_grid.SetFilterText(L"");
+            m_grid.Populate();
+        }
+        m_found = -1;
+        m_edit.SetWindowText(L"third");
+        m_found = m_grid.GetRows()->GetCount();
+        m_edit.SetWindowText(L"");
+        m_grid.UpdateWindow();
+    }
+    std::string Wrong() override {
+        // 0 and 3, and 2 above 12; 10 and 14 are none.
+        return m_found == 3 && m_grid.GetRows()->GetCount() == 6 ? "" : "other rows";
+    }
+
+private:
+    CXTPReportFilterEditControl m_edit;
+    int m_found = 0;
+};
+
+TEST(FailingCalls, Filtering) { Try<Filter>(); }
+
 // --- Layouts ---------------------------------------------------------------------------------------------------------
 
 constexpr wchar_t section[] = L"Layout";

@@ -30,7 +30,10 @@ std::string Unusable(CXTPReportControl& control) {
                 return "a key twice, or of no column";
         }
     }
-    return control.GetRows()->GetCount() == control.GetRecords()->GetCount() ? "" : "rows came or went";
+    int records = 0; // a layout may group the rows
+    for (int row = 0; row < control.GetRows()->GetCount(); ++row)
+        records += control.GetRows()->GetRecordAt(row) != nullptr;
+    return records == control.GetRecords()->GetCount() ? "" : "rows came or went";
 }
 
 class Mutator {

@@ -74,6 +74,8 @@ TEST(RowOutline, ExpandsAndCollapsesInPlace) {
     EXPECT_THAT(Rows(outline), ElementsAre(0, 5, 6));
     EXPECT_TRUE(outline.Collapse(0).IsNothing());
     EXPECT_EQ(outline.Expand(0, [](int node) { return node == 1; }), (RowSplice{1, 0, 4}));
+    EXPECT_EQ(outline.ExpandAnew(0, None), (RowSplice{1, 4, 2}));
+    EXPECT_THAT(Rows(outline), ElementsAre(0, 1, 4, 5, 6));
 }
 
 TEST(RowOutline, RemovedNodesLeaveTheNumbersOfTheOthers) {

@@ -105,6 +105,7 @@ CXTPReportControl::~CXTPReportControl() {
         DestroyWindow();
     if (CXTPReportInplaceEdit* const pEdit = std::exchange(m_impl->openEdit, nullptr))
         pEdit->ForgetControl();
+    m_impl->isLayingOut = true; // nothing is laid out any more, which may take memory that there is not
     // Emptied while everything still stands, because records and columns tell the control when they go.
     m_impl->records->RemoveAll();
     m_impl->records->SetVirtualMode(nullptr, 0);
@@ -193,7 +194,11 @@ void CXTPReportControl::OnRowsChanged(int nFirst, int nRemoved, int nInserted) {
     if (m_impl->topRow > nFirst)
         m_impl->topRow = moved(m_impl->topRow);
     m_impl->chosenTopRow = m_impl->topRow;
-    AdjustLayout();
+    try {
+        AdjustLayout();
+    } catch (const std::bad_alloc&) {
+        RedrawControl(); // where the columns stand is as it was
+    }
 }
 
 void CXTPReportControl::OnRowsTakenOut(const RowSelection& gone) {

@@ -228,6 +228,30 @@ void CXTPReportRows::Rebuild(const CXTPReportRecords& records, CXTPReportColumns
     m_nVirtualCount = 0;
     m_pOutline = std::move(pOutline);
     m_records.Assign(std::move(rows.records));
+    if (m_pOutline)
+        m_pGroups->isShown = true;
+    CountGroups();
+}
+
+/// Counts the records of each group. Only when the rows are made: those that are there do not change for want of
+/// memory.
+void CXTPReportRows::CountGroups() {
+    const int nEnd = m_pOutline && m_pGroups ? m_pOutline->NodeCount() : 0;
+    const auto groupAt = [this](int nNode) {
+        return IsGroup(nNode) ? static_cast<ReportGroup*>(m_records.At(nNode)) : nullptr;
+    };
+    for (int nNode = 0; nNode < nEnd; ++nNode)
+        if (ReportGroup* const pGroup = groupAt(nNode))
+            pGroup->groups = 0;
+    // From below: groups stand below groups alone.
+    for (int nNode = nEnd - 1; nNode >= 0; --nNode) {
+        ReportGroup* const pGroup = groupAt(nNode);
+        if (!pGroup)
+            continue;
+        pGroup->records = m_pOutline->End(nNode) - nNode - 1 - pGroup->groups;
+        if (const int nParent = m_pOutline->Parent(nNode); nParent >= 0)
+            groupAt(nParent)->groups += pGroup->groups + 1;
+    }
 }
 
 void CXTPReportRows::RebuildVirtual(CXTPReportRecord* pVirtualRecord, int nCount) {
@@ -251,8 +275,7 @@ void CXTPReportRows::ExpandBranch(int nIndex) {
         return;
     const int nNode = NodeAt(nIndex);
     SetNodesExpanded(nNode, m_pOutline->End(nNode), true);
-    m_pOutline->Collapse(nIndex);
-    m_pOutline->Expand(nIndex, [](int) { return true; });
+    m_pOutline->ExpandAnew(nIndex, [](int) { return true; });
     DetachRowObjects();
 }
 

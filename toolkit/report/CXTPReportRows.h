@@ -87,6 +87,7 @@ private:
     void Splice(const RowSplice& splice);
     void TakeOut(int nFirstNode, int nEndNode);
     void SetNodesExpanded(int nFirstNode, int nEndNode, bool bExpanded);
+    void CountGroups();
     bool IsGroup(int nNode) const;
     int NodeAt(int nIndex) const;
     static void Detach(CXTPReportRow* pRow);

@@ -29,7 +29,9 @@ void ReportGroup::ForgetUnused(int lastUse) {
 
 void ReportGroups::BeginUse() {
     constexpr std::size_t mostKept = 4096;
-    if (root.CountBelow() > mostKept)
+    // A building that was given up has marked groups that the rows of before still show.
+    if (isShown && root.CountBelow() > mostKept)
         root.ForgetUnused(use);
+    isShown = false;
     ++use;
 }

@@ -30,6 +30,7 @@ public:
     void ForgetUnused(int lastUse);
 
     int records = 0; ///< below it in the rows
+    int groups = 0;  ///< below it in the rows
     int use = 0;     ///< the number of the building that has used it last
     int bucket = 0;  ///< the group's number among those next to it, during a building
 
@@ -64,7 +65,8 @@ private:
 /// Every group that there has been, as long as there are not very many: one that a filter hides comes back as it was.
 struct ReportGroups {
     ReportGroup root;
-    int use = 0; ///< counts the buildings
+    int use = 0;         ///< counts the buildings
+    bool isShown = true; ///< the last one has become the rows, or there were none
 
     /// Another building begins. Groups that the last one has not used are forgotten when they have become very many;
     /// those that it has used live at least until the next one.

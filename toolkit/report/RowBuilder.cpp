@@ -99,9 +99,9 @@ private:
     }
 
     Records m_records;
-    Numbers m_parents; ///< -1 for the records of the control's own collection
+    Numbers m_parents;             ///< -1 for the records of the control's own collection
     std::vector<bool> m_isDropped; ///< by the filter; empty: none
-    Numbers m_begins; ///< of the children of each record, behind those of none
+    Numbers m_begins;              ///< of the children of each record, behind those of none
     Numbers m_children;
 };
 
@@ -172,10 +172,7 @@ private:
         std::vector<Bucket> buckets = Parted(numbers, m_groupColumns[level], above);
         for (const Bucket& bucket : buckets) {
             const int place = Add(bucket.group, parent);
-            const int formerGroups = m_groupRows++;
             WriteGroups(bucket.numbers, level + 1, *bucket.group, place);
-            const int below = static_cast<int>(m_rows.records.size()) - 1 - place;
-            bucket.group->records = below - (m_groupRows - formerGroups - 1);
         }
     }
 
@@ -232,7 +229,6 @@ private:
     ReportGroups& m_groups;
     std::vector<CXTPReportColumn*> m_groupColumns;
     RowList m_rows;
-    int m_groupRows = 0;
 };
 
 /// The records of a grid without groups and child records; cheaper than the way of the others.

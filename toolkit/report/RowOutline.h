@@ -28,7 +28,7 @@ public:
     int Parent(int node) const { return m_nodes[node].parent; }        ///< -1 for a root
     /// Behind the last node below it.
     int End(int node) const { return m_nodes[node].end; }
-    int Level(int node) const;                                            ///< nodes above it
+    int Level(int node) const;                                              ///< nodes above it
     bool HasChildren(int node) const { return m_nodes[node].children > 0; } ///< that were not removed
     bool IsRemoved(int node) const { return m_nodes[node].children < 0; }
 
@@ -37,7 +37,7 @@ public:
     int RowOf(int node) const;                         ///< -1 when the node is not shown
     /// The row of the node, else of the nearest node above it that has one; -1 when there is none.
     int RowOfNearest(int node) const;
-    bool IsExpanded(int row) const; ///< rows of nodes below it are shown
+    bool IsExpanded(int row) const;    ///< rows of nodes below it are shown
     int NextSiblingRow(int row) const; ///< -1 for the last node below a parent
     int BranchEnd(int row) const;      ///< behind the last row below it
     /// Whether another node stands below the same parent behind this one.
@@ -57,6 +57,16 @@ public:
         const std::vector<int> below = Shown(node + 1, m_nodes[node].end, isExpanded);
         m_shown.insert(m_shown.begin() + row + 1, below.begin(), below.end());
         return {row + 1, 0, static_cast<int>(below.size())};
+    }
+    /// As `Expand`, and shows anew what is shown already. Nothing changes for want of memory.
+    template <class IsExpanded>
+    RowSplice ExpandAnew(int row, IsExpanded isExpanded) {
+        const int node = m_shown[row];
+        const std::vector<int> below = Shown(node + 1, m_nodes[node].end, isExpanded);
+        m_shown.reserve(m_shown.size() + below.size());
+        const RowSplice former = Collapse(row);
+        m_shown.insert(m_shown.begin() + row + 1, below.begin(), below.end());
+        return {row + 1, former.removed, static_cast<int>(below.size())};
     }
     RowSplice Collapse(int row); ///< hides all that is below the row
     /// Takes the node out with all below it; the numbers of the others stay. Needs no memory.

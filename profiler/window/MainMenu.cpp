@@ -58,7 +58,8 @@ void AppendViewMenu(CMenu& bar) {
     view.AppendMenu(MF_STRING, ID_VIEW_MESSAGES, Translate("Menu", "&Messages\tCtrl+M"));
     view.AppendMenu(MF_SEPARATOR);
     view.AppendMenu(MF_STRING, ID_VIEW_FILTER, Translate("Menu", "&Filter by name\tCtrl+F"));
-    view.AppendMenu(MF_STRING, ID_VIEW_GROUP_BY_TYPE, Translate("Menu", "&Group by type\tCtrl+G"));
+    view.AppendMenu(MF_STRING, ID_VIEW_GROUP_BY_TYPE, Translate("Menu", "&Group by type\tCtrl+T"));
+    view.AppendMenu(MF_STRING, ID_VIEW_GROUP_BOX, Translate("Menu", "Group &box"));
     view.AppendMenu(MF_SEPARATOR);
     AppendPopup(view, rows, Translate("Menu", "&Row height"));
     AppendPopup(view, themes, Translate("Menu", "&Theme"));
@@ -112,6 +113,8 @@ CString CommandDescription(UINT command) {
         return Translate("Shows only the columns whose name contains what is typed.");
     case ID_VIEW_GROUP_BY_TYPE:
         return Translate("Puts the columns of one type together, under a line that tells the type.");
+    case ID_VIEW_GROUP_BOX:
+        return Translate("Shows or hides the box into which headers are dragged to group by their columns.");
     case ID_HELP_KEYS:
         return Translate("Tells what keys and mouse do.");
     case ID_APP_ABOUT:

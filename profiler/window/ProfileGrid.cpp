@@ -137,8 +137,10 @@ void ProfileGrid::AddColumns() {
         column->AllowRemove(layout.item != NameItem);
         column->SetEditable(layout.item == RequiredItem);
         column->SetFiltrable(layout.item == NameItem);
+        column->SetGroupable(layout.item == TypeItem || layout.item == CountItem || layout.item == MissingItem);
         AddColumn(column);
     }
+    SetFreezeColumnsCount(1); // the name stays in sight
 }
 
 CString ProfileGrid::DefaultEmptyText() { return Translate("Open a CSV file (Ctrl+O) or drop one here."); }

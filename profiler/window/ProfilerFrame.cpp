@@ -75,6 +75,7 @@ BEGIN_MESSAGE_MAP(ProfilerFrame, CFrameWnd)
     ON_COMMAND(ID_VIEW_MESSAGES, &ProfilerFrame::OnViewMessages)
     ON_COMMAND(ID_VIEW_FILTER, &ProfilerFrame::OnViewFilter)
     ON_COMMAND(ID_VIEW_GROUP_BY_TYPE, &ProfilerFrame::OnViewGroupByType)
+    ON_COMMAND(ID_VIEW_GROUP_BOX, &ProfilerFrame::OnViewGroupBox)
     ON_COMMAND_RANGE(ID_VIEW_THEME_FIRST, ID_VIEW_THEME_LAST, &ProfilerFrame::OnViewTheme)
     ON_COMMAND_RANGE(ID_VIEW_ROW_HEIGHT_FIRST, ID_VIEW_ROW_HEIGHT_LAST, &ProfilerFrame::OnViewRowHeight)
     ON_COMMAND(ID_HELP_KEYS, &ProfilerFrame::OnHelpKeys)
@@ -88,6 +89,7 @@ BEGIN_MESSAGE_MAP(ProfilerFrame, CFrameWnd)
     ON_UPDATE_COMMAND_UI(ID_VIEW_MESSAGES, &ProfilerFrame::OnUpdateViewMessages)
     ON_UPDATE_COMMAND_UI(ID_VIEW_FILTER, &ProfilerFrame::OnUpdateViewFilter)
     ON_UPDATE_COMMAND_UI(ID_VIEW_GROUP_BY_TYPE, &ProfilerFrame::OnUpdateViewGroupByType)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_GROUP_BOX, &ProfilerFrame::OnUpdateViewGroupBox)
     ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_THEME_FIRST, ID_VIEW_THEME_LAST, &ProfilerFrame::OnUpdateViewTheme)
     ON_UPDATE_COMMAND_UI_RANGE(ID_VIEW_ROW_HEIGHT_FIRST, ID_VIEW_ROW_HEIGHT_LAST, &ProfilerFrame::OnUpdateViewRowHeight)
 END_MESSAGE_MAP()
@@ -385,6 +387,8 @@ void ProfilerFrame::OnViewGroupByType() {
                                         : Translate("The columns are no longer grouped."));
 }
 
+void ProfilerFrame::OnViewGroupBox() { m_grid.ShowGroupBy(!m_grid.IsGroupByVisible()); }
+
 void ProfilerFrame::OnViewTheme(UINT id) {
     m_theme = static_cast<int>(id - ID_VIEW_THEME_FIRST);
     m_grid.ApplyTheme(m_theme);
@@ -411,6 +415,7 @@ void ProfilerFrame::OnHelpKeys() {
                                    "Double-click the edge: best width\n"
                                    "Right-click a header: choose columns\n\n"
                                    "Arrow keys: choose row and column\n"
+                                   "Left, Right in the line of a group: close, open it\n"
                                    "F3: sort by the column, Shift+F3 also by it\n"
                                    "Ctrl+Shift+Left, Right: move the column\n"
                                    "Alt+Left, Right: change its width\n"
@@ -418,7 +423,7 @@ void ProfilerFrame::OnHelpKeys() {
                                    "Alt+Down: choose columns\n"
                                    "Ctrl+F1: tip of the cell\n"
                                    "Alt+Enter, double click: details of the column\n"
-                                   "Ctrl+F: filter by name, Ctrl+G: group by type\n\n"
+                                   "Ctrl+F: filter by name, Ctrl+T: group by type\n\n"
                                    "Ctrl+O: open a file\n"
                                    "Ctrl+E: export as HTML, Ctrl+B: open in the browser\n"
                                    "Ctrl+Shift+C: copy the table, Ctrl+C: copy the row\n"
@@ -446,6 +451,8 @@ void ProfilerFrame::OnUpdateViewMessages(CCmdUI* item) { item->SetCheck(m_messag
 void ProfilerFrame::OnUpdateViewFilter(CCmdUI* item) { item->SetCheck(m_filter.IsVisible() ? 1 : 0); }
 
 void ProfilerFrame::OnUpdateViewGroupByType(CCmdUI* item) { item->SetCheck(m_grid.IsGroupedByType() ? 1 : 0); }
+
+void ProfilerFrame::OnUpdateViewGroupBox(CCmdUI* item) { item->SetCheck(m_grid.IsGroupByVisible() ? 1 : 0); }
 
 void ProfilerFrame::OnUpdateViewRowHeight(CCmdUI* item) {
     item->SetRadio(kRowHeights[item->m_nID - ID_VIEW_ROW_HEIGHT_FIRST] == m_grid.RowHeight());

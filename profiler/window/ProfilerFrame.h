@@ -49,6 +49,7 @@ protected:
     void OnViewMessages();
     void OnViewFilter();
     void OnViewGroupByType();
+    void OnViewGroupBox();
     void OnViewTheme(UINT id);
     void OnViewRowHeight(UINT id);
     void OnHelpKeys();
@@ -60,6 +61,7 @@ protected:
     void OnUpdateViewMessages(CCmdUI* item);
     void OnUpdateViewFilter(CCmdUI* item);
     void OnUpdateViewGroupByType(CCmdUI* item);
+    void OnUpdateViewGroupBox(CCmdUI* item);
     void OnUpdateViewTheme(CCmdUI* item);
     void OnUpdateViewRowHeight(CCmdUI* item);
     DECLARE_MESSAGE_MAP()

@@ -163,6 +163,34 @@ TEST_F(ProfilerRowsTest, FilteredGroupsHaveTheirOwnCount) {
     EXPECT_EQ(FilterCount(), L"2 of 7 columns") << "in a collapsed group as well";
 }
 
+TEST_F(ProfilerRowsTest, TheGroupBoxIsShownAboveTheHeadersAndKept) {
+    EXPECT_FALSE(Grid().IsGroupByVisible());
+    Command(ID_VIEW_GROUP_BOX);
+    EXPECT_TRUE(Grid().IsGroupByVisible());
+    EXPECT_TRUE(MenuState(2, ID_VIEW_GROUP_BOX) & MF_CHECKED);
+    EXPECT_EQ(Grid().GetGroupByRect().bottom, Grid().GetHeaderRect().top);
+    Restart();
+    EXPECT_TRUE(Grid().IsGroupByVisible());
+    Command(ID_VIEW_GROUP_BOX);
+    EXPECT_FALSE(Grid().IsGroupByVisible());
+}
+
+TEST_F(ProfilerRowsTest, OnlyWhatManyColumnsShareGroups) {
+    for (int item = 0; item <= RequiredItem; ++item) {
+        const bool isShared = item == TypeItem || item == CountItem || item == MissingItem;
+        EXPECT_EQ(Grid().GetColumns()->Find(item)->IsGroupable() != FALSE, isShared) << item;
+    }
+}
+
+TEST_F(ProfilerRowsTest, NamesStayInSight) {
+    Frame().SetWindowPos(nullptr, 0, 0, 700, 400, SWP_NOMOVE | SWP_NOZORDER);
+    const CRect name = Grid().GetColumns()->Find(NameItem)->GetRect(),
+                type = Grid().GetColumns()->Find(TypeItem)->GetRect();
+    Grid().SetLeftOffset(100);
+    EXPECT_EQ(Grid().GetColumns()->Find(NameItem)->GetRect(), name);
+    EXPECT_EQ(Grid().GetColumns()->Find(TypeItem)->GetRect(), type - CPoint(100, 0));
+}
+
 TEST_F(ProfilerRowsTest, AGroupsRowHasNoDetails) {
     Command(ID_VIEW_GROUP_BY_TYPE);
     Grid().SetFocusedRow(Grid().GetRows()->GetAt(0));

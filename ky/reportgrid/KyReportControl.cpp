@@ -45,8 +45,6 @@ KyReportControl::KyReportControl() {
     tips->SetMaxTipWidth(maxTipWidth);
     SetReportHeader(new KyReportHeader(this, GetColumns()));
     GetPaintManager()->SetNoGroupByText(Translate("Drag a column header here to group by that column."));
-    // Translators: %1 is the place of a column in the sort order, %2 the number of columns there.
-    GetPaintManager()->SetSortRankText(Translate("Sort order: %1 of %2"));
 }
 
 KyReportControl::~KyReportControl() {
@@ -190,6 +188,9 @@ CString KyReportControl::GetText(XTPReportText text) const {
         return Translate("Group without a value", "(none)");
     case xtpReportTextFilterCue:
         return Translate("Filter cue", "Filter");
+    case xtpReportTextSortRank:
+        // Translators: %1 is the place of a column in the sort order, %2 the number of columns there.
+        return Translate("Sort order: %1 of %2");
     }
     return CXTPReportControl::GetText(text);
 }

@@ -158,27 +158,6 @@ void ProfileGrid::SetUpPaintManager() {
     GetPaintManager()->SetNoItemText(TextWithoutRows());
 }
 
-CString ProfileGrid::GetText(XTPReportText text) const {
-    switch (text) {
-    case xtpReportTextSort:
-        return Translate("For screen readers", "Sort");
-    case xtpReportTextJump:
-        return Translate("For screen readers", "Jump");
-    case xtpReportTextEdit:
-        return Translate("For screen readers", "Edit");
-    case xtpReportTextOpen:
-        return Translate("For screen readers", "Open");
-    case xtpReportTextExpand:
-        return Translate("For screen readers", "Expand");
-    case xtpReportTextCollapse:
-        return Translate("For screen readers", "Collapse");
-    case xtpReportTextNoValue:
-        return Translate("Group", "(none)");
-    default:
-        return KyPlotRecordReportControl::GetText(text);
-    }
-}
-
 CString ProfileGrid::TextWithoutRows() const {
     return GetRecords()->GetCount() == 0 ? m_emptyText : Translate("No column has such a name.");
 }

@@ -72,8 +72,6 @@ public:
     void SetRowHeight(int pixels);
 
     void Populate() override;
-    /// The grid's own texts in the user's language.
-    CString GetText(XTPReportText text) const override;
 
 protected:
     void OnPlotRecordItemDragCancelled() override;

@@ -96,6 +96,8 @@ CString CXTPReportControl::GetText(XTPReportText text) const {
         return _T("(none)");
     case xtpReportTextFilterCue:
         return _T("Filter");
+    case xtpReportTextSortRank:
+        return _T("Sort order: %1 of %2");
     }
     return CString();
 }

@@ -23,11 +23,11 @@ CString CutOffText(CXTPReportControl& control, const CellHit& hit) {
 }
 
 /// The rank of a column by which rows are sorted together with others; empty for all else.
-CString SortRankText(const CXTPReportColumn& column, const CXTPReportPaintManager& paintManager) {
+CString SortRankText(const CXTPReportColumn& column) {
     const int count = column.GetColumns()->GetSortOrder()->GetCount();
     if (!column.IsSorted() || count < 2)
         return CString();
-    CString text = paintManager.GetSortRankText(), number;
+    CString text = column.GetControl()->GetText(xtpReportTextSortRank), number;
     number.Format(_T("%d"), column.GetSortRank());
     text.Replace(_T("%1"), number);
     number.Format(_T("%d"), count);
@@ -37,7 +37,7 @@ CString SortRankText(const CXTPReportColumn& column, const CXTPReportPaintManage
 
 CString HeaderTip(const CXTPReportColumn& column, const CXTPReportPaintManager& paintManager) {
     CString tip = column.GetTooltip();
-    const CString rank = SortRankText(column, paintManager);
+    const CString rank = SortRankText(column);
     const int room = column.GetWidth() - 2 * paintManager.GetCellPadding() - paintManager.GetSortMarkSpace(&column);
     if (tip.IsEmpty() && (!rank.IsEmpty() || paintManager.GetTextWidth(column.GetCaption()) > room))
         tip = column.GetCaption();

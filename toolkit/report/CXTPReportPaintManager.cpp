@@ -89,8 +89,7 @@ bool IsDisabled(const CXTPReportControl* control) {
 CXTPReportPaintManager::CXTPReportPaintManager(XTPReportPaintTheme theme)
     : m_theme(theme), m_columnStyle(reportlook::OwnColumnStyle(theme)), m_nDpi(windowdpi::OfSystem()),
       m_strNoItems(_T("There are no items to show.")),
-      m_strNoGroupBy(_T("Drag a column header here to group by that column.")),
-      m_strSortRank(_T("Sort order: %1 of %2")), m_lfHost{} {
+      m_strNoGroupBy(_T("Drag a column header here to group by that column.")), m_lfHost{} {
     CXTPReportPaintManager::RefreshMetrics();
 }
 
@@ -206,7 +205,6 @@ void CXTPReportPaintManager::TakeOver(const CXTPReportPaintManager& former) {
     m_strNoItems = former.m_strNoItems;
     m_nPreviewLines = former.m_nPreviewLines;
     m_strNoGroupBy = former.m_strNoGroupBy;
-    m_strSortRank = former.m_strSortRank;
     m_bHostFont = former.m_bHostFont;
     m_lfHost = former.m_lfHost;
     m_nHostFontDpi = former.m_nHostFontDpi;

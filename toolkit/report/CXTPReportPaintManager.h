@@ -99,10 +99,6 @@ public:
     /// Shown in a group-by box without buttons.
     CString GetNoGroupByText() const { return m_strNoGroupBy; }
     void SetNoGroupByText(LPCTSTR strText) { m_strNoGroupBy = strText; } ///< one line; empty shows nothing
-    /// Told by the tip of a column when the rows are sorted by several ones: "%1" in it stands for the place in the
-    /// sort order, "%2" for the number of columns there.
-    CString GetSortRankText() const { return m_strSortRank; }
-    void SetSortRankText(LPCTSTR strText) { m_strSortRank = strText; } ///< empty tells nothing
     /// Takes what was set on another paint manager: resolution, fonts, row height, grid lines, alternate rows, texts;
     /// but no colours.
     void TakeOver(const CXTPReportPaintManager& former);
@@ -226,7 +222,6 @@ protected:
     XTPReportGridStyle m_gridHorizontal = xtpReportGridSolid; ///< of the lines between rows
     CString m_strNoItems;                                     ///< shown when there are no rows
     CString m_strNoGroupBy;                                   ///< shown when the rows are not grouped
-    CString m_strSortRank;                                    ///< with the places of two numbers
 
 private:
     /// What stands beside a caption; rank 0: none.

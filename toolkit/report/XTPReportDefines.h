@@ -55,7 +55,10 @@ enum XTPReportText {
     xtpReportTextExpand,   ///< what is done to a collapsed row
     xtpReportTextCollapse, ///< what is done to an expanded row
     xtpReportTextNoValue,  ///< stands for the value of a group whose records show no text
-    xtpReportTextFilterCue ///< in an empty filter edit control
+    xtpReportTextFilterCue, ///< in an empty filter edit control
+    /// Told by the tip of a column when the rows are sorted by several ones: "%1" in it stands for the place in the
+    /// sort order, "%2" for the number of columns there. Empty tells nothing.
+    xtpReportTextSortRank
 };
 
 /// Everything that drawing one cell needs. Coordinates are those of `pDC`.

@@ -14,8 +14,9 @@ namespace messageformat {
 /// A value that does not lose its end in silence when the memory for its text cannot be had: streams do, unless asked.
 template <class Value>
 struct Whole {
-    const Value& value;
+    const Value& value; ///< not owned
 
+    /// Throws when the stream fails.
     friend std::wostream& operator<<(std::wostream& stream, const Whole& whole) {
         stream.exceptions(std::ios_base::badbit);
         return stream << whole.value;

@@ -41,9 +41,9 @@ public:
     void SetRanges(const RowSelection& ranges); ///< replaces the selection
     /// From `nFirst` on, `nRemoved` rows were taken out, which leave the selection, and `nInserted` came in their
     /// place, which are not selected; those below have moved along.
+    void RowsChanged(int nFirst, int nRemoved, int nInserted);
     /// These rows have gone, see `CXTPReportControl::OnRowsTakenOut`.
     void RowsTakenOut(const RowSelection& gone);
-    void RowsChanged(int nFirst, int nRemoved, int nInserted);
 
 private:
     int GetRowCount() const;

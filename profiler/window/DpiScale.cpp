@@ -17,6 +17,11 @@ int DpiOf(HWND window) {
     return dpi != 0 ? static_cast<int>(dpi) : CClientDC(nullptr).GetDeviceCaps(LOGPIXELSX);
 }
 
+bool IsDpi(int dpi) {
+    constexpr int kLargest = 9600;
+    return dpi > 0 && dpi <= kLargest;
+}
+
 int ScaledToDpi(int pixels, int dpi) { return ::MulDiv(pixels, dpi, 96); }
 
 LOGFONT MessageFont(int dpi) {

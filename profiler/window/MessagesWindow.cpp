@@ -53,6 +53,8 @@ void MessagesWindow::UseDpi(int dpi) {
 }
 
 LRESULT MessagesWindow::OnDpiChanged(WPARAM resolution, LPARAM suggested) {
+    if (!IsDpi(LOWORD(resolution)))
+        return 0;
     UseDpi(LOWORD(resolution));
     const auto* place = reinterpret_cast<const RECT*>(suggested);
     SetWindowPos(nullptr, place->left, place->top, place->right - place->left, place->bottom - place->top,

@@ -149,6 +149,8 @@ void ProfilerFrame::SetPaneWidths(int dpi) {
 }
 
 LRESULT ProfilerFrame::OnDpiChanged(WPARAM resolution, LPARAM suggested) {
+    if (!IsDpi(LOWORD(resolution)))
+        return 0;
     SetPaneWidths(LOWORD(resolution));
     m_filter.UseDpi(LOWORD(resolution));
     return CFrameWnd::OnDpiChanged(resolution, suggested);

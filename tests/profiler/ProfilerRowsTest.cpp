@@ -79,6 +79,23 @@ TEST_F(ProfilerRowsTest, TheFilterIsHiddenUntilItIsAskedFor) {
     EXPECT_FALSE(MenuState(2, ID_VIEW_FILTER) & MF_CHECKED);
 }
 
+TEST_F(ProfilerRowsTest, TheFilterFollowsTheResolutionUnlessNoMonitorHasIt) {
+    Command(ID_VIEW_FILTER);
+    CRect bar, place;
+    Frame().GetWindowRect(&place);
+    const auto goTo = [&](int dpi) {
+        Frame().SendMessage(WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(&place));
+        Bar().GetWindowRect(&bar);
+        return bar.Height();
+    };
+    const int height = goTo(96);
+    const int larger = goTo(144);
+    EXPECT_GT(larger, height * 5 / 4);
+    for (const int noMonitor : {0, 9601, 47577, 65535})
+        EXPECT_EQ(goTo(noMonitor), larger) << noMonitor;
+    EXPECT_EQ(goTo(96), height);
+}
+
 TEST_F(ProfilerRowsTest, OnlyColumnsWithSuchANameAreShown) {
     Command(ID_VIEW_FILTER);
     EXPECT_EQ(FilterCount(), L"7 of 7 columns");

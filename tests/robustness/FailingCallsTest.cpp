@@ -841,6 +841,7 @@ public:
             Grid().GetRecords()->GetAt(i)->SetPreviewItem(new CXTPReportRecordItemPreview(
                 _T("words that are wrapped in as many lines as they need, or in three")));
         Grid().EnablePreviewMode(TRUE);
+        Grid().GetSelectedRows()->Clear(); // want of memory may cost the selection
         m_rig.Paint();
         m_expected = Tops();
     }

@@ -7,12 +7,15 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <new>
 
 namespace {
 
 /// A scroll bar shows a moved thumb at the latest after this time. Redrawing a bar costs more than drawing a page of
 /// rows, so that many steps of a fast scroll share one redraw.
 constexpr UINT ThumbDelay = 20;
+/// After this time a layout is tried again for which there was no memory.
+constexpr UINT LayoutDelay = 50;
 /// Above this many rows the vertical bar counts in larger units; sums of two positions stay within an int.
 constexpr int MaxBarRange = 1 << 29;
 constexpr int SidewaysStepAt96Dpi = 40;
@@ -88,6 +91,16 @@ void CXTPReportControl::Impl::LayOut() {
         bool& isLayingOut;
         ~End() { isLayingOut = false; }
     } end{isLayingOut};
+    try {
+        LayOutParts();
+    } catch (const std::bad_alloc&) {
+        // What has changed has changed: its caller must not take it for undone.
+        if (control.m_hWnd)
+            control.SetTimer(ReportTimerLayout, LayoutDelay);
+    }
+}
+
+void CXTPReportControl::Impl::LayOutParts() {
     WrapPreviews();
     FitBars();
     header->FitColumns(ClientRect().Width());
@@ -356,6 +369,10 @@ void CXTPReportControl::OnTimer(UINT_PTR nIDEvent) {
         break;
     case ReportTimerThumbs:
         m_impl->RedrawStaleThumbs();
+        break;
+    case ReportTimerLayout:
+        KillTimer(ReportTimerLayout);
+        AdjustLayout();
         break;
     case ReportTimerDamage:
         m_impl->RenewDamage();

@@ -43,6 +43,26 @@ std::vector<gridgeometry::ColumnExtent> HeaderExtents(const CXTPReportHeader& he
 }
 
 void CXTPReportHeader::AdjustLayout(const CRect& rcHeader) {
+    if (m_pControl->GetFreezeColumnsCount() > 0)
+        PlaceFrozenColumns(rcHeader);
+    else
+        PlaceColumns(rcHeader);
+}
+
+/// Needs no memory, so that a column that is shown or hidden always has its place at once.
+void CXTPReportHeader::PlaceColumns(const CRect& rcHeader) {
+    m_nFreezeEdge = rcHeader.left;
+    int x = rcHeader.left - m_pControl->GetLeftOffset();
+    for (int i = 0; i < m_pColumns->GetCount(); ++i) {
+        CXTPReportColumn* const column = m_pColumns->GetAt(i);
+        const int width = column->IsVisible() ? column->GetWidth() : 0;
+        column->m_bFrozen = FALSE;
+        column->SetRect(column->IsVisible() ? CRect(x, rcHeader.top, x + width, rcHeader.bottom) : CRect());
+        x += width;
+    }
+}
+
+void CXTPReportHeader::PlaceFrozenColumns(const CRect& rcHeader) {
     std::vector<CXTPReportColumn*> columns;
     std::vector<int> widths;
     for (int i = 0; i < m_pColumns->GetCount(); ++i) {
@@ -117,7 +137,14 @@ std::vector<gridgeometry::SharedColumn> CXTPReportHeader::DescribeVisibleColumns
     return shared;
 }
 
-int CXTPReportHeader::GetLeastWidth() const { return gridgeometry::LeastWidth(DescribeVisibleColumns()); }
+int CXTPReportHeader::GetLeastWidth() const {
+    if (m_bAutoColumnSizing)
+        return gridgeometry::LeastWidth(DescribeVisibleColumns());
+    int width = 0;
+    for (int i = 0; i < m_pColumns->GetCount(); ++i)
+        width += m_pColumns->GetAt(i)->IsVisible() ? m_pColumns->GetAt(i)->GetOwnWidth() : 0;
+    return width;
+}
 
 void CXTPReportHeader::FitColumns(int nViewWidth) {
     std::vector<int> widths;

@@ -174,6 +174,8 @@ private:
     CRect GetGroupButtonsRect() const;
     gridgeometry::SharedColumn Describe(const CXTPReportColumn& column, int nWidth) const;
     std::vector<gridgeometry::SharedColumn> DescribeVisibleColumns() const;
+    void PlaceColumns(const CRect& rcHeader);
+    void PlaceFrozenColumns(const CRect& rcHeader);
     CXTPReportColumn* GetResizePartner(const CXTPReportColumn* pColumn) const;
     void MoveDivider(CXTPReportColumn* pColumn, int nWidth);
 

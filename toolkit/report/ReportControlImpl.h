@@ -119,7 +119,9 @@ struct CXTPReportControl::Impl {
     void FollowDpi(int dpi);
     gridgeometry::StackedRows RowGrid() const;
     int RowAt(CPoint point) const;
+    /// Without memory for it everything stays where it is for a moment.
     void LayOut();
+    void LayOutParts();
     void FitBars();
     void UpdateBar(int bar, BarState& state, const BarState& wanted);
     void UpdateThumbs();
@@ -317,3 +319,4 @@ void CXTPReportControl::Impl::RemakeRows(Change change) {
 constexpr UINT_PTR ReportTimerAutoScroll = 0x7E51;
 constexpr UINT_PTR ReportTimerThumbs = 0x7E52;
 constexpr UINT_PTR ReportTimerDamage = 0x7E53;
+constexpr UINT_PTR ReportTimerLayout = 0x7E54;

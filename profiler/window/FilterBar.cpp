@@ -20,6 +20,7 @@ enum Control : UINT { LabelId = 1, TextId, CountId };
 BEGIN_MESSAGE_MAP(FilterBar, CControlBar)
     ON_WM_SIZE()
     ON_WM_SETFOCUS()
+    ON_WM_CLOSE()
 END_MESSAGE_MAP()
 
 bool FilterBar::Create(CFrameWnd& frame, CXTPReportControl& grid) {
@@ -114,6 +115,9 @@ void FilterBar::PlaceControls() {
 }
 
 void FilterBar::OnSetFocus(CWnd*) { m_text.SetFocus(); }
+
+/// Its window stays, to be opened again.
+void FilterBar::OnClose() { Close(); }
 
 /// Escape empties the text; when there is none, it closes the bar. Tab and Enter go to the grid.
 BOOL FilterBar::PreTranslateMessage(MSG* message) {

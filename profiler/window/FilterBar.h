@@ -27,6 +27,7 @@ public:
 protected:
     void OnSize(UINT type, int width, int height);
     void OnSetFocus(CWnd* old);
+    void OnClose();
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -131,6 +131,16 @@ TEST_F(ProfilerRowsTest, ClosingTheFilterShowsAllColumns) {
     EXPECT_EQ(Rows(), 7);
 }
 
+TEST_F(ProfilerRowsTest, TheFilterOpensAgainAfterItsWindowWasAskedToClose) {
+    Command(ID_VIEW_FILTER);
+    FilterText().SetWindowText(L"mass");
+    Bar().SendMessage(WM_CLOSE);
+    EXPECT_FALSE(Bar().IsWindowVisible());
+    EXPECT_EQ(Rows(), 7);
+    Command(ID_VIEW_FILTER);
+    EXPECT_TRUE(Bar().IsWindowVisible());
+}
+
 TEST_F(ProfilerRowsTest, TabEnterAndDownGoIntoTheGrid) {
     for (const UINT key : {VK_TAB, VK_RETURN}) {
         FilterText().SetFocus();

@@ -151,6 +151,13 @@ TEST_F(AutoSizeTest, EscapeGivesAllWidthsBack) {
     EXPECT_EQ(m_owner.Count(XTP_NM_REPORT_COLUMNWIDTHCHANGED), 0);
 }
 
+TEST_F(AutoSizeTest, ADividerThatIsPressedAndLetGoChangesNoWidth) {
+    DragDivider(0, 0);
+    m_header->OnCancelMode();
+    EXPECT_THAT(Widths(), ElementsAre(125, 100, 75));
+    EXPECT_EQ(m_columns[0]->GetRect().Width(), 125);
+}
+
 TEST_F(AutoSizeTest, TheLastDividerHasNobodyToTakeFrom) {
     EXPECT_EQ(m_header->HitTestDivider(CPoint(Width - 1, HeaderOf(2).y)), nullptr);
     EXPECT_EQ(m_header->HitTestDivider(DividerOf(1)), m_columns[1]);

@@ -73,11 +73,11 @@ void CXTPReportColumn::SetWidth(int nWidth) {
 }
 
 void CXTPReportColumn::RestoreWidth(const DpiLength& width) {
-    const bool isSame = width == m_setWidth;
+    if (width == m_setWidth)
+        return;
     m_setWidth = width;
     m_nWidth = GetOwnWidth();
-    if (!isSame)
-        Changed(Effect::Layout);
+    Changed(Effect::Layout);
 }
 
 /// Lays out when a limit has moved the width that the column had, and where a limit moves those of others.

@@ -32,19 +32,17 @@ CRect CXTPReportControl::Impl::ClientRect() const {
 }
 
 CRect CXTPReportControl::GetHeaderRect() const {
-    const CRect rcClient = m_impl->ClientRect();
-    const int top = GetGroupByRect().bottom;
-    return CRect(0, top, rcClient.right, top + m_impl->paintManager->GetHeaderHeight());
+    const int top = m_impl->GroupByHeight();
+    return CRect(0, top, m_impl->ClientRect().right, top + m_impl->paintManager->GetHeaderHeight());
 }
 
 CRect CXTPReportControl::GetGroupByRect() const {
-    const int height = m_impl->isGroupByShown ? m_impl->paintManager->GetGroupByHeight() : 0;
-    return CRect(0, 0, m_impl->ClientRect().right, height);
+    return CRect(0, 0, m_impl->ClientRect().right, m_impl->GroupByHeight());
 }
 
 CRect CXTPReportControl::GetReportRectangle() const {
     const CRect rcClient = m_impl->ClientRect();
-    const int top = GetHeaderRect().bottom;
+    const int top = m_impl->GroupByHeight() + m_impl->paintManager->GetHeaderHeight();
     return CRect(0, top, rcClient.right, std::max<int>(rcClient.bottom, top));
 }
 

@@ -114,7 +114,8 @@ struct CXTPReportControl::Impl {
     /// Rows whose pixels were moved by scrolling since their items drew them: see RefreshMovedRow.
     RowSelection movedRows;
 
-    CRect ClientRect() const; ///< empty without a window
+    CRect ClientRect() const; ///< empty without a window; asks the system, which takes longer than most answers
+    int GroupByHeight() const { return isGroupByShown ? paintManager->GetGroupByHeight() : 0; }
     void TakePaintManager(std::unique_ptr<CXTPReportPaintManager> taken);
     void FollowDpi(int dpi);
     gridgeometry::StackedRows RowGrid() const;

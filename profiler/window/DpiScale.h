@@ -6,7 +6,7 @@
 /// Dots per inch of the monitor on which the window is; for no window those with which the program started.
 int DpiOf(HWND window);
 
-/// Whether a monitor may have so many dots per inch: messages can tell of any, and fonts for them break drawing.
+/// Whether a monitor may have so many dots per inch: messages can tell of any.
 bool IsDpi(int dpi);
 
 /// `pixels` at 96 dots per inch as pixels at another resolution.

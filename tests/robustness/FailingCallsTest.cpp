@@ -478,7 +478,7 @@ public:
     }
     std::string Wrong() override {
         // 0 and 3, and 2 above 12; 10 and 14 are none.
-        return m_found == 3 && m_grid.GetRows()->GetCount() == 6 ? "" : "other rows";
+        return m_found == 4 && m_grid.GetRows()->GetCount() == 6 ? "" : "other rows";
     }
 
 private:

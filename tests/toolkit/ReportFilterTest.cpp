@@ -108,6 +108,36 @@ TEST_F(FilterTest, ARecordIsShownForOneBelowIt) {
     EXPECT_EQ(m_grid.GetRows()->GetCount(), 6);
 }
 
+TEST_F(FilterTest, WhatIsFoundBelowACollapsedRecordIsShownAsLongAsTheFilterStays) {
+    CXTPReportRecord* const child = Add(m_third, _T("fin"));
+    Add(child, _T("bone"));
+    Add(m_first, _T("tail bone"));
+    m_first->SetExpanded(TRUE);
+    Filter(_T("bone"));
+    EXPECT_THAT(Shown(), ElementsAre(L"Blue Whale", L".tail bone", L"Shark", L".fin", L"..bone"));
+    Row(2)->SetExpanded(FALSE);
+    m_grid.Populate();
+    EXPECT_THAT(Shown(), ElementsAre(L"Blue Whale", L".tail bone", L"Shark")) << "collapsed in what was found";
+    m_grid.CollapseAll();
+    EXPECT_THAT(Shown(), ElementsAre(L"Blue Whale", L"Shark"));
+    Filter(_T("bon"));
+    EXPECT_THAT(Shown(), ElementsAre(L"Blue Whale", L".tail bone", L"Shark", L".fin", L"..bone")) << "another filter";
+    Filter(_T(" "));
+    EXPECT_THAT(Shown(), ElementsAre(L"Blue Whale", L".tail bone", L"blackbird", L"Shark")) << "as it was before";
+    EXPECT_TRUE(m_first->IsExpanded());
+    EXPECT_FALSE(m_third->IsExpanded());
+}
+
+TEST_F(FilterTest, WhatIsFoundInACollapsedGroupIsShownAsLongAsTheFilterStays) {
+    m_grid.GetColumns()->GetGroupsOrder()->Add(m_columns[1]);
+    m_grid.Populate();
+    m_grid.CollapseAll();
+    Filter(_T("whale"));
+    EXPECT_THAT(Shown(), ElementsAre(L"[B: sea (1)]", L".Blue Whale"));
+    Filter(_T(""));
+    EXPECT_THAT(Shown(), ElementsAre(L"[B: air (1)]", L"[B: sea (2)]"));
+}
+
 TEST_F(FilterTest, GroupsCountWhatIsShown) {
     m_grid.GetColumns()->GetGroupsOrder()->Add(m_columns[1]);
     m_grid.Populate();

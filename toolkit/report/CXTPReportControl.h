@@ -115,7 +115,8 @@ public:
     // --- Filter -------------------------------------------------------------------------------------------------
     /// Records have a row from the next `Populate` on only when every word of the text (what white space parts) occurs
     /// in what `CXTPReportRecord::GetFilterText` tells, whatever the case of the letters, or in that of a record below
-    /// them. Empty: all of them.
+    /// them. Empty: all of them. What another text has found is expanded; what is collapsed then is so until the text
+    /// changes again, and without a filter everything is as it was before.
     void SetFilterText(LPCTSTR strText);
     CString GetFilterText() const; ///< empty at first
 

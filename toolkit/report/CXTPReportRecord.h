@@ -45,7 +45,7 @@ public:
     /// Rows follow at the next `Populate`. An invisible record hides those below it.
     void SetVisible(BOOL bVisible) { m_bVisible = bVisible; }
     /// Whether the records below this one are shown, as far as this one is. FALSE at first. The user's expanding and
-    /// collapsing is kept here.
+    /// collapsing is kept here, but not while a filter is set, see `CXTPReportControl::SetFilterText`.
     BOOL IsExpanded() const { return m_bExpanded; }
     /// Rows follow at the next `Populate`; `CXTPReportRow::SetExpanded` is for at once.
     void SetExpanded(BOOL bExpanded) { m_bExpanded = bExpanded != FALSE; }
@@ -90,5 +90,6 @@ private:
     int m_nRow = -1; ///< kept by the rows' sequence
     bool m_bVisible = true;
     bool m_bExpanded = false;
-    bool m_bGroup = false; ///< stands for a group of records among the rows
+    bool m_bCollapsedInFilter = false; ///< takes the place of `m_bExpanded` while a filter is set
+    bool m_bGroup = false;             ///< stands for a group of records among the rows
 };

@@ -8,6 +8,7 @@
 #include "ReportGroups.h"
 #include "RowBuilder.h"
 #include "RowOutline.h"
+#include "TextFilter.h"
 
 #include <algorithm>
 #include <exception>
@@ -218,15 +219,20 @@ void CXTPReportRows::Rebuild(const CXTPReportRecords& records, CXTPReportColumns
     if (!m_pGroups)
         m_pGroups = std::make_unique<ReportGroups>();
     RowList rows = rowbuilder::Build(records, columns, filter, *m_pGroups);
+    const CString strFilter = filter.IsEmpty() ? CString() : filter.Text();
     std::unique_ptr<RowOutline> pOutline;
     if (!rows.parents.empty()) {
+        if (!strFilter.IsEmpty() && strFilter != m_strFilter)
+            for (CXTPReportRecord* const pEntry : rows.records)
+                pEntry->m_bCollapsedInFilter = false;
         pOutline = std::make_unique<RowOutline>(rows.parents);
-        pOutline->ShowAll([&rows](int nNode) { return rows.records[nNode]->IsExpanded(); });
+        pOutline->ShowAll([&](int nNode) { return IsExpandedIn(strFilter, *rows.records[nNode]); });
     }
     DetachRowObjects();
     m_pVirtualRecord = nullptr;
     m_nVirtualCount = 0;
     m_pOutline = std::move(pOutline);
+    m_strFilter = strFilter;
     m_records.Assign(std::move(rows.records));
     if (m_pOutline)
         m_pGroups->isShown = true;
@@ -254,6 +260,21 @@ void CXTPReportRows::CountGroups() {
     }
 }
 
+/// What a filter has found is shown at first, whatever was collapsed before.
+bool CXTPReportRows::IsExpandedIn(const CString& strFilter, const CXTPReportRecord& entry) {
+    return strFilter.IsEmpty() ? entry.m_bExpanded : !entry.m_bCollapsedInFilter;
+}
+
+bool CXTPReportRows::IsEntryExpanded(int nNode) const { return IsExpandedIn(m_strFilter, *m_records.At(nNode)); }
+
+void CXTPReportRows::SetEntryExpanded(int nNode, bool bExpanded) {
+    CXTPReportRecord& entry = *m_records.At(nNode);
+    if (m_strFilter.IsEmpty())
+        entry.m_bExpanded = bExpanded;
+    else
+        entry.m_bCollapsedInFilter = !bExpanded;
+}
+
 void CXTPReportRows::RebuildVirtual(CXTPReportRecord* pVirtualRecord, int nCount) {
     DetachRowObjects();
     m_pOutline.reset();
@@ -265,8 +286,8 @@ void CXTPReportRows::RebuildVirtual(CXTPReportRecord* pVirtualRecord, int nCount
 void CXTPReportRows::SetExpanded(int nIndex, bool bExpanded) {
     if (!HasChildren(nIndex))
         return;
-    GetEntryAt(nIndex)->SetExpanded(bExpanded);
-    const auto isExpanded = [this](int nNode) { return m_records.At(nNode)->IsExpanded() != FALSE; };
+    SetEntryExpanded(NodeAt(nIndex), bExpanded);
+    const auto isExpanded = [this](int nNode) { return IsEntryExpanded(nNode); };
     Splice(bExpanded ? m_pOutline->Expand(nIndex, isExpanded) : m_pOutline->Collapse(nIndex));
 }
 
@@ -279,11 +300,11 @@ void CXTPReportRows::ExpandBranch(int nIndex) {
     DetachRowObjects();
 }
 
-/// Keeps in their records whether those are expanded.
+/// Keeps whether the entries are expanded.
 void CXTPReportRows::SetNodesExpanded(int nFirstNode, int nEndNode, bool bExpanded) {
     for (int nNode = nFirstNode; nNode < nEndNode; ++nNode)
         if (!m_pOutline->IsRemoved(nNode) && m_pOutline->HasChildren(nNode))
-            m_records.At(nNode)->SetExpanded(bExpanded);
+            SetEntryExpanded(nNode, bExpanded);
 }
 
 void CXTPReportRows::SetAllExpanded(bool bExpanded) {

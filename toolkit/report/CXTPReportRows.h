@@ -57,7 +57,7 @@ public:
     /// One record for all rows. A null record and negative counts give no rows.
     void RebuildVirtual(CXTPReportRecord* pVirtualRecord, int nCount);
     bool IsVirtual() const { return m_pVirtualRecord != nullptr; } ///< one record stands for all rows
-    /// Shows or hides the rows below a row, and keeps that in its record; selection, focus and top row move along.
+    /// Shows or hides the rows below a row, and keeps that; selection, focus and top row move along.
     void SetExpanded(int nIndex, bool bExpanded);
     /// The same for every row; every row object is detached.
     void SetAllExpanded(bool bExpanded);
@@ -88,6 +88,9 @@ private:
     void TakeOut(int nFirstNode, int nEndNode);
     void SetNodesExpanded(int nFirstNode, int nEndNode, bool bExpanded);
     void CountGroups();
+    static bool IsExpandedIn(const CString& strFilter, const CXTPReportRecord& entry);
+    bool IsEntryExpanded(int nNode) const;
+    void SetEntryExpanded(int nNode, bool bExpanded);
     bool IsGroup(int nNode) const;
     int NodeAt(int nIndex) const;
     static void Detach(CXTPReportRow* pRow);
@@ -97,6 +100,7 @@ private:
     RecordSequence m_records;
     std::unique_ptr<RowOutline> m_pOutline; ///< null while no row stands below another
     std::unique_ptr<ReportGroups> m_pGroups;
+    CString m_strFilter; ///< which the rows have passed; empty: none
     CXTPReportRecord* m_pVirtualRecord = nullptr;
     int m_nVirtualCount = 0;
     static constexpr int RowBlock = 256;

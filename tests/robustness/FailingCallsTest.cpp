@@ -392,11 +392,7 @@ public:
         m_grid.AddColumn(new CXTPReportColumn(0, L"text", 100));
         m_grid.AddColumn(new CXTPReportColumn(1, L"kind", 100));
         m_grid.GetColumns()->GetAt(0)->SetTreeColumn(TRUE);
-        for (int i = 0; i < 6; ++i) {
-            CXTPReportRecord* const record = Add(m_grid.GetRecords(), i);
-            if (i % 2 == 0)
-                Add(record->GetChilds(), 10 + i);
-        }
+        AddRecords();
         m_grid.Populate();
     }
     ~Outline() override {
@@ -418,6 +414,13 @@ public:
     }
 
 protected:
+    void AddRecords() {
+        for (int i = 0; i < 6; ++i) {
+            CXTPReportRecord* const record = Add(m_grid.GetRecords(), i);
+            if (i % 2 == 0)
+                Add(record->GetChilds(), 10 + i);
+        }
+    }
     static CXTPReportRecord* Add(CXTPReportRecords* records, int number) {
         CXTPReportRecord* const record = records->Add(new CXTPReportRecord);
         record->AddItem(new CXTPReportRecordItemText(std::to_wstring(number).c_str()));
@@ -454,6 +457,39 @@ public:
 };
 
 TEST(FailingCalls, GroupingAndExpanding) { Try<GroupAndExpand>(); }
+
+/// Records of several groups go at once, all those of one group among them.
+class RemoveSeveral : public Outline {
+public:
+    RemoveSeveral() : Outline("remove several records") {}
+    void Act() override {
+        {
+            const calltable::Pause pause;
+            m_grid.ResetContent();
+            AddRecords();
+            CXTPReportColumnOrder& groups = *m_grid.GetColumns()->GetGroupsOrder();
+            groups.Clear();
+            groups.Add(m_grid.GetColumns()->GetAt(1));
+            m_grid.Populate();
+            m_grid.ExpandAll();
+            m_grid.GetSelectedRows()->SelectBlock(1, 9);
+            m_grid.SetFocusedRow(m_grid.GetRows()->GetAt(4));
+        }
+        CXTPReportRecords& records = *m_grid.GetRecords();
+        records.RemoveRecords({records.GetAt(0), records.GetAt(2), records.GetAt(3)});
+        m_grid.UpdateWindow();
+    }
+    std::string Broken() override {
+        const int records = m_grid.GetRecords()->GetCount(), rows = m_grid.GetRows()->GetCount();
+        // 14 below 4 has a row besides, and so have the groups.
+        if (!(records == 6 && rows == 2 + 6 + 3) && !(records == 3 && rows == 1 + 3 + 1))
+            return "some of them are gone";
+        return Outline::Broken();
+    }
+    std::string Wrong() override { return m_grid.GetRecords()->GetCount() == 3 ? Broken() : "all are there"; }
+};
+
+TEST(FailingCalls, RemovingSeveral) { Try<RemoveSeveral>(); }
 
 /// A filter is typed and cleared.
 class Filter : public Outline {

@@ -479,6 +479,25 @@ TEST_F(AccessibleTest, ChangesAreToldAsEvents) {
     EXPECT_EQ(Events(m_grid.m_hWnd, [this] { m_grid.Populate(); }), (Told{{EVENT_OBJECT_REORDER, CHILDID_SELF}}));
 }
 
+TEST_F(AccessibleTest, RowsThatAreTakenOutAreToldAndWhereTheFocusIsThen) {
+    AddRecords(6);
+    m_grid.SetFocus();
+    Click(Cell(4));
+    using Told = std::vector<std::pair<DWORD, LONG>>;
+    const auto remove = [this](std::vector<int> places) {
+        std::vector<CXTPReportRecord*> records;
+        for (const int place : places)
+            records.push_back(m_grid.GetRecords()->GetAt(place));
+        return Events(m_grid.m_hWnd, [&] { m_grid.GetRecords()->RemoveRecords(records); });
+    };
+    const Told onlyRows = {{EVENT_OBJECT_REORDER, CHILDID_SELF}};
+    EXPECT_EQ(remove({0}), onlyRows);
+    EXPECT_EQ(remove({1}), onlyRows);
+    EXPECT_EQ(remove({2}), (Told{{EVENT_OBJECT_REORDER, CHILDID_SELF}, {EVENT_OBJECT_FOCUS, Columns + 3}}))
+        << "the focused one";
+    EXPECT_EQ(remove({1, 2}), (Told{{EVENT_OBJECT_REORDER, CHILDID_SELF}, {EVENT_OBJECT_FOCUS, Columns + 1}}));
+}
+
 // --- Objects that are kept ------------------------------------------------------------------------------------------
 
 TEST_F(AccessibleTest, ARowThatIsGoneIsToldToBe) {

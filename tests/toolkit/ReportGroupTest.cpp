@@ -396,7 +396,7 @@ TEST_F(GroupTest, AgreesWithANaiveGroupingOverRandomOperations) {
             addOne();
         m_grid.Populate();
         for (int step = 0; step < 40; ++step) {
-            switch (upTo(5)) {
+            switch (upTo(6)) {
             case 0:
                 addOne();
                 m_grid.Populate();
@@ -406,6 +406,13 @@ TEST_F(GroupTest, AgreesWithANaiveGroupingOverRandomOperations) {
                     const int gone = upTo(static_cast<int>(all.size()) - 1);
                     all[gone]->Delete();
                     all.erase(all.begin() + gone);
+                }
+                break;
+            case 3:
+                if (!all.empty()) {
+                    const auto gone = std::stable_partition(all.begin(), all.end(), [&](auto*) { return upTo(3) > 0; });
+                    m_grid.GetRecords()->RemoveRecords({gone, all.end()});
+                    all.erase(gone, all.end());
                 }
                 break;
             case 2:

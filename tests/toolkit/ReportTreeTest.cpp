@@ -669,6 +669,44 @@ TEST_F(TreeTest, AgreesWithANaiveTreeOverRandomOperations) {
             all.push_back(
                 Add(all.empty() || upTo(2) == 0 ? nullptr : all[upTo(static_cast<int>(all.size()) - 1)], text));
         };
+        const auto findAll = [&] {
+            all.clear();
+            std::vector<CXTPReportRecords*> rest{m_grid.GetRecords()};
+            while (!rest.empty()) {
+                CXTPReportRecords* const records = rest.back();
+                rest.pop_back();
+                for (CXTPReportRecord* const record : records->GetRecords()) {
+                    all.push_back(record);
+                    rest.push_back(record->GetChilds());
+                }
+            }
+        };
+        /// Selection and focus stay with those records that are left.
+        const auto remove = [&](const std::vector<CXTPReportRecord*>& some) {
+            m_grid.GetSelectedRows()->Clear();
+            for (int i = 0; i < m_grid.GetRows()->GetCount(); ++i)
+                if (upTo(1))
+                    m_grid.GetSelectedRows()->Add(Row(i));
+            const auto isGone = [&some](const CXTPReportRecord* record) {
+                for (; record; record = record->GetParentRecord())
+                    if (std::find(some.begin(), some.end(), record) != some.end())
+                        return true;
+                return false;
+            };
+            std::vector<CXTPReportRecord*> left;
+            for (int i = 0; i < m_grid.GetSelectedRows()->GetCount(); ++i)
+                if (CXTPReportRecord* const record = m_grid.GetSelectedRows()->GetAt(i)->GetRecord(); !isGone(record))
+                    left.push_back(record);
+            CXTPReportRecord* const focused = Focused() >= 0 ? Row(Focused())->GetRecord() : nullptr;
+            const bool staysFocused = focused && !isGone(focused);
+            (some.empty() ? m_grid.GetRecords() : some[0]->GetRecords())->RemoveRecords(some);
+            ASSERT_EQ(m_grid.GetSelectedRows()->GetCount(), static_cast<int>(left.size()));
+            for (int i = 0; i < static_cast<int>(left.size()); ++i)
+                ASSERT_EQ(m_grid.GetSelectedRows()->GetAt(i)->GetRecord(), left[i]);
+            if (staysFocused) {
+                ASSERT_EQ(Row(Focused())->GetRecord(), focused);
+            }
+        };
         for (int i = 0; i < 25; ++i)
             addOne();
         m_grid.Populate();
@@ -689,16 +727,7 @@ TEST_F(TreeTest, AgreesWithANaiveTreeOverRandomOperations) {
             case 2:
                 if (row) {
                     row->GetRecord()->Delete();
-                    all.clear();
-                    std::vector<CXTPReportRecords*> rest{grid.GetRecords()};
-                    while (!rest.empty()) {
-                        CXTPReportRecords* const records = rest.back();
-                        rest.pop_back();
-                        for (CXTPReportRecord* const record : records->GetRecords()) {
-                            all.push_back(record);
-                            rest.push_back(record->GetChilds());
-                        }
-                    }
+                    findAll();
                 }
                 break;
             case 3:
@@ -707,6 +736,16 @@ TEST_F(TreeTest, AgreesWithANaiveTreeOverRandomOperations) {
             case 4:
                 if (upTo(3) == 0)
                     grid.CollapseAll();
+                break;
+            case 5:
+                if (row) {
+                    CXTPReportRecords* const records = row->GetRecord()->GetRecords();
+                    std::vector<CXTPReportRecord*> some;
+                    std::copy_if(records->GetRecords().begin(), records->GetRecords().end(), std::back_inserter(some),
+                                 [&upTo](const CXTPReportRecord*) { return upTo(2) == 0; });
+                    remove(some);
+                    findAll();
+                }
                 break;
             default:
                 if (row)

@@ -78,24 +78,42 @@ TEST(RowOutline, ExpandsAndCollapsesInPlace) {
     EXPECT_THAT(Rows(outline), ElementsAre(0, 1, 4, 5, 6));
 }
 
+RowSplice TakeOut(RowOutline& outline, int node) {
+    outline.Remove(node);
+    return outline.Hide(node, outline.End(node));
+}
+
 TEST(RowOutline, RemovedNodesLeaveTheNumbersOfTheOthers) {
     RowOutline outline = Sample();
     outline.ShowAll(All);
-    EXPECT_EQ(outline.Remove(1), (RowSplice{1, 3, 0}));
+    EXPECT_EQ(TakeOut(outline, 1), (RowSplice{1, 3, 0}));
     EXPECT_THAT(Rows(outline), ElementsAre(0, 4, 5, 6, 7));
     EXPECT_TRUE(outline.IsRemoved(2));
-    EXPECT_TRUE(outline.Remove(2).IsNothing());
-    EXPECT_EQ(outline.Remove(4), (RowSplice{1, 1, 0}));
+    EXPECT_TRUE(TakeOut(outline, 2).IsNothing());
+    EXPECT_EQ(TakeOut(outline, 4), (RowSplice{1, 1, 0}));
     EXPECT_FALSE(outline.HasChildren(0)) << "both are gone";
     EXPECT_FALSE(outline.IsExpanded(0));
-    EXPECT_EQ(outline.RemoveBelow(6), (RowSplice{3, 1, 0}));
+    outline.RemoveBelow(6);
+    EXPECT_EQ(outline.Hide(7, outline.End(6)), (RowSplice{3, 1, 0}));
     EXPECT_FALSE(outline.HasChildren(6));
     EXPECT_THAT(Rows(outline), ElementsAre(0, 5, 6));
     outline.ShowAll(All);
     EXPECT_THAT(Rows(outline), ElementsAre(0, 5, 6));
     for (const int node : {0, 5, 6})
-        outline.Remove(node);
+        TakeOut(outline, node);
     EXPECT_THAT(Rows(outline), IsEmpty());
+}
+
+TEST(RowOutline, TheRowsOfAllRemovedNodesGoAtOnce) {
+    RowOutline outline = Sample();
+    outline.ShowAll(All);
+    outline.Remove(1);
+    outline.RemoveBelow(6);
+    outline.Remove(5);
+    outline.HideRemoved();
+    EXPECT_THAT(Rows(outline), ElementsAre(0, 4, 6));
+    EXPECT_TRUE(outline.HasChildren(0));
+    EXPECT_FALSE(outline.HasChildren(6));
 }
 
 /// Keeps what an outline is about in the plainest way.
@@ -152,7 +170,7 @@ TEST(RowOutline, AgreesWithANaiveModelOverRandomOperations) {
             RowSplice splice;
             switch (std::uniform_int_distribution<int>(0, 7)(random)) {
             case 0:
-                splice = outline.Remove(node);
+                splice = TakeOut(outline, node);
                 for (int below = 0; below < 60; ++below)
                     if (model.IsBelow(below, node))
                         model.removed[below] = true;

@@ -189,16 +189,14 @@ void CXTPReportControl::OnRowsChanged(int nFirst, int nRemoved, int nInserted) {
         // The rows have the plain height until the next Populate.
     }
     // A removed row hands the focus to the one that takes its place, so that the keyboard goes on from there.
+    const bool movesFocus = m_impl->focusedRow >= nFirst && m_impl->focusedRow < nFirst + nRemoved;
     m_impl->focusedRow = std::min(moved(m_impl->focusedRow), m_impl->rows->GetCount() - 1);
     // Rows that come in at the top stand in view; those that come in above it move nothing.
     if (m_impl->topRow > nFirst)
         m_impl->topRow = moved(m_impl->topRow);
     m_impl->chosenTopRow = m_impl->topRow;
-    try {
-        AdjustLayout();
-    } catch (const std::bad_alloc&) {
-        RedrawControl(); // where the columns stand is as it was
-    }
+    AdjustLayout();
+    m_impl->TellRowsChanged(movesFocus);
 }
 
 void CXTPReportControl::OnRowsTakenOut(const RowSelection& gone) {
@@ -208,10 +206,12 @@ void CXTPReportControl::OnRowsTakenOut(const RowSelection& gone) {
         // The rows have the plain height until the next Populate.
     }
     int& focused = m_impl->focusedRow;
+    const bool movesFocus = gone.Contains(focused);
     focused = std::min(focused - gone.CountAbove(focused), m_impl->rows->GetCount() - 1);
     m_impl->topRow -= gone.CountAbove(m_impl->topRow);
     m_impl->chosenTopRow = m_impl->topRow;
     AdjustLayout();
+    m_impl->TellRowsChanged(movesFocus);
 }
 
 void CXTPReportControl::OnRowsCleared() {
@@ -305,6 +305,12 @@ void CXTPReportControl::Impl::DisconnectAccess() {
     if (accessLink)
         accessLink->control = nullptr;
     accessLink.reset();
+}
+
+void CXTPReportControl::Impl::TellRowsChanged(bool movesFocus) const {
+    TellAccess(EVENT_OBJECT_REORDER);
+    if (movesFocus && focusedRow >= 0 && control.HasFocus())
+        TellAccess(EVENT_OBJECT_FOCUS, focusedRow);
 }
 
 void CXTPReportControl::Impl::TellAccess(DWORD event, int rowIndex) const {

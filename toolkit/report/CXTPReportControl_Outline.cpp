@@ -38,7 +38,6 @@ void CXTPReportControl::Impl::ExpandRow(int rowIndex, bool expand) {
         selectedRows->SelectBlock(rowIndex, rowIndex);
         selectedRows->SetAnchor(rowIndex);
     }
-    TellAccess(EVENT_OBJECT_REORDER);
     TellAccess(EVENT_OBJECT_STATECHANGE, rowIndex);
     if (takesFocus) {
         if (control.HasFocus())

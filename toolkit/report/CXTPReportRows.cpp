@@ -345,8 +345,11 @@ RowSelection CXTPReportRows::PlacesOf(const std::vector<CXTPReportRecord*>& reco
 }
 
 void CXTPReportRows::RecordsRemoved(const std::vector<CXTPReportRecord*>& records) {
-    const bool bSingly = m_pOutline || records.size() == 1;
-    const RowSelection gone = bSingly ? RowSelection() : PlacesOf(records);
+    if (m_pOutline && records.size() > 1) {
+        BranchesRemoved(records);
+        return;
+    }
+    const RowSelection gone = records.size() > 1 ? PlacesOf(records) : RowSelection();
     if (gone.IsEmpty()) {
         // All rows go, also when there is no memory to lay out what is left.
         std::exception_ptr failure;
@@ -362,6 +365,31 @@ void CXTPReportRows::RecordsRemoved(const std::vector<CXTPReportRecord*>& record
         return;
     }
     m_records.Erase(gone);
+    TellTakenOut(gone);
+}
+
+void CXTPReportRows::BranchesRemoved(const std::vector<CXTPReportRecord*>& records) {
+    for (const CXTPReportRecord* const pRecord : records)
+        if (const int nNode = m_records.IndexOf(pRecord); nNode >= 0)
+            TakeOutNodes(nNode, m_pOutline->End(nNode));
+    RowSelection gone;
+    try {
+        for (int nRow = 0; nRow < m_pOutline->RowCount(); ++nRow)
+            if (m_pOutline->IsRemoved(m_pOutline->NodeAt(nRow)))
+                gone.Add(nRow, nRow);
+    } catch (const std::bad_alloc&) {
+        // Better no selection, focus and place than those of other rows.
+        m_pOutline->HideRemoved();
+        DetachRowObjects();
+        ForgetPlaces();
+        return;
+    }
+    m_pOutline->HideRemoved();
+    TellTakenOut(gone);
+}
+
+/// These rows have gone: what goes by their indices follows.
+void CXTPReportRows::TellTakenOut(const RowSelection& gone) {
     TakeOutRowObjects(gone);
     if (!m_pControl)
         return;
@@ -375,16 +403,14 @@ void CXTPReportRows::ChildrenRemoved(const CXTPReportRecord* pRecord) {
         TakeOut(nNode + 1, m_pOutline->End(nNode));
 }
 
-/// Takes out a record with all below it, or all below a record.
-void CXTPReportRows::TakeOut(int nFirstNode, int nEndNode) {
-    if (nFirstNode == nEndNode)
-        return;
-    const bool isBranch = m_pOutline->End(nFirstNode) == nEndNode;
+/// Takes out a record with all below it, or all below a record; the rows stay for now. Groups that have become empty go
+/// as well.
+CXTPReportRows::NodeRange CXTPReportRows::TakeOutNodes(int nFirstNode, int nEndNode) {
     int nRecords = 0;
     for (int nNode = nFirstNode; nNode < nEndNode; ++nNode)
         nRecords += !m_pOutline->IsRemoved(nNode);
-    int nTop = isBranch ? nFirstNode : nFirstNode - 1;
-    bool isWhole = isBranch;
+    bool isWhole = m_pOutline->End(nFirstNode) == nEndNode;
+    int nTop = isWhole ? nFirstNode : nFirstNode - 1;
     for (int nAbove = m_pOutline->Parent(nFirstNode); nAbove >= 0; nAbove = m_pOutline->Parent(nAbove)) {
         if (!IsGroup(nAbove))
             continue;
@@ -395,9 +421,22 @@ void CXTPReportRows::TakeOut(int nFirstNode, int nEndNode) {
         nTop = nAbove;
         isWhole = true;
     }
-    const RowSplice splice = isWhole ? m_pOutline->Remove(nTop) : m_pOutline->RemoveBelow(nTop);
-    for (int nNode = isWhole ? nTop : nTop + 1; nNode < m_pOutline->End(nTop); ++nNode)
+    if (isWhole)
+        m_pOutline->Remove(nTop);
+    else
+        m_pOutline->RemoveBelow(nTop);
+    const NodeRange gone = {isWhole ? nTop : nTop + 1, m_pOutline->End(nTop)};
+    for (int nNode = gone.nFirst; nNode < gone.nEnd; ++nNode)
         m_records.Vacate(nNode);
+    return gone;
+}
+
+/// As `TakeOutNodes`, with their rows.
+void CXTPReportRows::TakeOut(int nFirstNode, int nEndNode) {
+    if (nFirstNode == nEndNode)
+        return;
+    const NodeRange gone = TakeOutNodes(nFirstNode, nEndNode);
+    const RowSplice splice = m_pOutline->Hide(gone.nFirst, gone.nEnd);
     if (splice.IsNothing() && m_pControl)
         m_pControl->RedrawControl(); // a count in the row of a group, or a button
     Splice(splice);
@@ -405,9 +444,14 @@ void CXTPReportRows::TakeOut(int nFirstNode, int nEndNode) {
 
 void CXTPReportRows::Clear() {
     RebuildVirtual(nullptr, 0);
-    if (m_pControl) {
-        m_pControl->GetSelectedRows()->SetRanges(RowSelection());
-        m_pControl->GetSelectedRows()->SetAnchor(-1);
-        m_pControl->OnRowsCleared();
-    }
+    ForgetPlaces();
+}
+
+/// Selection, focus and top row.
+void CXTPReportRows::ForgetPlaces() {
+    if (!m_pControl)
+        return;
+    m_pControl->GetSelectedRows()->SetRanges(RowSelection());
+    m_pControl->GetSelectedRows()->SetAnchor(-1);
+    m_pControl->OnRowsCleared();
 }

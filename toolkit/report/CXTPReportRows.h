@@ -85,7 +85,15 @@ private:
     void TakeOutRowObjects(const RowSelection& gone);
     void SpliceRowObjects(const RowSplice& splice);
     void Splice(const RowSplice& splice);
+    struct NodeRange {
+        int nFirst;
+        int nEnd;
+    };
+    NodeRange TakeOutNodes(int nFirstNode, int nEndNode);
     void TakeOut(int nFirstNode, int nEndNode);
+    void BranchesRemoved(const std::vector<CXTPReportRecord*>& records);
+    void TellTakenOut(const RowSelection& gone);
+    void ForgetPlaces();
     void SetNodesExpanded(int nFirstNode, int nEndNode, bool bExpanded);
     void CountGroups();
     static bool IsExpandedIn(const CString& strFilter, const CXTPReportRecord& entry);

@@ -223,6 +223,8 @@ struct CXTPReportControl::Impl {
     void DisconnectAccess();
     /// Events about the focus, the selection and the rows; a negative row is the grid.
     void TellAccess(DWORD event, int rowIndex = -1) const;
+    /// Rows have come or gone; `movesFocus`: the focused one among them.
+    void TellRowsChanged(bool movesFocus) const;
 
     // --- Mouse ------------------------------------------------------------------------------------------------------
     XTPReportMouseMode mouseMode = xtpReportMouseNothing;

@@ -67,20 +67,22 @@ RowSplice RowOutline::Collapse(int row) {
     return Hide(node + 1, End(node));
 }
 
-RowSplice RowOutline::Remove(int node) {
+void RowOutline::Remove(int node) {
     if (IsRemoved(node))
-        return {};
+        return;
     if (const int parent = Parent(node); parent >= 0)
         --m_nodes[parent].children;
     MarkRemoved(node, End(node));
-    return Hide(node, End(node));
 }
 
-RowSplice RowOutline::RemoveBelow(int node) {
+void RowOutline::RemoveBelow(int node) {
     if (!IsRemoved(node))
         m_nodes[node].children = 0;
     MarkRemoved(node + 1, End(node));
-    return Hide(node + 1, End(node));
+}
+
+void RowOutline::HideRemoved() {
+    std::erase_if(m_shown, [this](int node) { return IsRemoved(node); });
 }
 
 void RowOutline::MarkRemoved(int firstNode, int endNode) {

@@ -69,10 +69,13 @@ public:
         return {row + 1, former.removed, static_cast<int>(below.size())};
     }
     RowSplice Collapse(int row); ///< hides all that is below the row
-    /// Takes the node out with all below it; the numbers of the others stay. Needs no memory.
-    RowSplice Remove(int node);
-    /// Takes out all that is below the node.
-    RowSplice RemoveBelow(int node);
+    /// Takes the node out with all below it; the numbers of the others stay. Their rows have to be hidden then. Needs
+    /// no memory.
+    void Remove(int node);
+    void RemoveBelow(int node); ///< the same for all that is below the node
+    /// Takes out the rows of the nodes from `firstNode` up to `endNode`.
+    RowSplice Hide(int firstNode, int endNode);
+    void HideRemoved(); ///< takes out the rows of all nodes that were removed; linear in the rows
 
 private:
     struct Node {
@@ -94,7 +97,6 @@ private:
     }
     int NextSibling(int node) const;
     int FirstRowFrom(int node) const; ///< the first row of that node or one behind it
-    RowSplice Hide(int firstNode, int endNode);
     void MarkRemoved(int firstNode, int endNode);
 
     std::vector<Node> m_nodes;

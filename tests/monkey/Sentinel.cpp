@@ -20,7 +20,17 @@ std::array<std::string, LastEvents> g_journal;
 std::atomic<std::int64_t> g_events{0};
 std::atomic<bool> g_isFailing{false};
 HANDLE g_thread = nullptr;
-DWORD g_threadId = 0;
+
+/// A crash waits here to be told by the watching thread: the one that crashed may have no stack left to do it.
+struct Crash {
+    HANDLE hasCome = nullptr;
+    std::atomic<bool> isTaken{false};
+    DWORD code = 0;
+    DWORD64 address = 0;
+    CONTEXT context = {};
+} g_crash;
+/// So much stack is kept for the handler of an overflow.
+constexpr ULONG StackOfHandlers = 64 * 1024;
 
 /// "module+0x1234", as the addresses of the linker's map and of addr2line have it.
 std::string PlaceOf(DWORD64 address) {
@@ -91,18 +101,36 @@ LONG CALLBACK OnException(EXCEPTION_POINTERS* pointers) {
     default:
         return EXCEPTION_CONTINUE_SEARCH;
     }
-    char what[160];
-    std::snprintf(what, sizeof(what), "crash 0x%08lx at %s, address 0x%llx", record.ExceptionCode,
-                  PlaceOf(pointers->ContextRecord->Rip).c_str(),
-                  record.NumberParameters > 1 ? static_cast<unsigned long long>(record.ExceptionInformation[1]) : 0);
-    End(what, pointers->ContextRecord);
+    if (!g_crash.isTaken.exchange(true)) {
+        g_crash.code = record.ExceptionCode;
+        g_crash.address = record.NumberParameters > 1 ? record.ExceptionInformation[1] : 0;
+        g_crash.context = *pointers->ContextRecord;
+        ::SetEvent(g_crash.hasCome);
+    }
+    ::Sleep(INFINITE);
+    return EXCEPTION_CONTINUE_SEARCH;
 }
 
-DWORD WINAPI WatchForHangs(void*) {
+[[noreturn]] void TellCrash() {
+    char what[160];
+    std::snprintf(what, sizeof(what), "crash 0x%08lx at %s, address 0x%llx", g_crash.code,
+                  PlaceOf(g_crash.context.Rip).c_str(), static_cast<unsigned long long>(g_crash.address));
+    End(what, &g_crash.context);
+}
+
+DWORD WINAPI WatchForTrouble(void*) {
     std::int64_t seen = -1;
     DWORD since = ::GetTickCount();
+    const HANDLE troubles[] = {g_crash.hasCome, g_thread};
     for (;;) {
-        ::Sleep(200);
+        switch (::WaitForMultipleObjects(2, troubles, FALSE, 200)) {
+        case WAIT_OBJECT_0:
+            TellCrash();
+        case WAIT_OBJECT_0 + 1:
+            End("the thread has ended", nullptr);
+        default:
+            break;
+        }
         const std::int64_t now = g_events;
         if (now != seen) {
             seen = now;
@@ -158,11 +186,13 @@ int RunWithHeapChecks() {
 
 void Watch(std::string replay) {
     g_replay = std::move(replay);
-    g_threadId = ::GetCurrentThreadId();
+    ULONG stack = StackOfHandlers;
+    ::SetThreadStackGuarantee(&stack);
+    g_crash.hasCome = ::CreateEvent(nullptr, TRUE, FALSE, nullptr);
     ::DuplicateHandle(::GetCurrentProcess(), ::GetCurrentThread(), ::GetCurrentProcess(), &g_thread, 0, FALSE,
                       DUPLICATE_SAME_ACCESS);
     ::AddVectoredExceptionHandler(1, &OnException);
-    ::CloseHandle(::CreateThread(nullptr, 0, &WatchForHangs, nullptr, 0, nullptr));
+    ::CloseHandle(::CreateThread(nullptr, 0, &WatchForTrouble, nullptr, 0, nullptr));
 }
 
 void Note(std::string text) {

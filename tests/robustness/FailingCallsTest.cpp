@@ -380,8 +380,7 @@ private:
 
 TEST(FailingCalls, CuttingAndPasting) { Try<CutAndPaste>(); }
 
-// --- Rows below each other
-// ---------------------------------------------------------------------------------------------
+// --- Rows below each other -------------------------------------------------------------------------------------------
 
 /// A grid of records with children, whose rows are looked at afterwards.
 class Outline : public Scenario {

@@ -172,8 +172,7 @@ TEST_F(FilterTest, VirtualModeIsNotFiltered) {
     m_grid.SetVirtualMode(nullptr, 0);
 }
 
-// --- The edit control
-// -------------------------------------------------------------------------------------------------
+// --- The edit control ------------------------------------------------------------------------------------------------
 
 class FilterEditTest : public FilterTest {
 protected:

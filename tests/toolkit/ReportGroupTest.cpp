@@ -29,8 +29,7 @@ protected:
     CXTPReportRecord *m_pear, *m_leek, *m_plum, *m_salt, *m_kale;
 };
 
-// --- Which groups there are
-// -------------------------------------------------------------------------------------------
+// --- Which groups there are ------------------------------------------------------------------------------------------
 
 TEST_F(GroupTest, RecordsStandBelowARowForEachTextOfTheColumn) {
     EXPECT_THAT(Shown(), ElementsAre(L"[B: (none) (1)]", L".salt", L"[B: fruit (2)]", L".pear", L".plum",
@@ -142,8 +141,7 @@ TEST_F(GroupTest, VirtualModeHasNoGroupsButKeepsThemForALayout) {
     m_grid.SetVirtualMode(nullptr, 0);
 }
 
-// --- What is expanded
-// -------------------------------------------------------------------------------------------------
+// --- What is expanded ------------------------------------------------------------------------------------------------
 
 TEST_F(GroupTest, WhatIsCollapsedSurvivesPopulateByItsCaption) {
     Row(2)->SetExpanded(FALSE);
@@ -200,8 +198,7 @@ TEST_F(GroupTest, VeryManyGroupsThatAreGoneAreForgotten) {
     EXPECT_EQ(m_grid.GetRows()->GetCount(), 10'000) << "nobody remembers that they were collapsed";
 }
 
-// --- Selection, focus and removal
-// ---------------------------------------------------------------------------------------
+// --- Selection, focus and removal ------------------------------------------------------------------------------------
 
 TEST_F(GroupTest, GroupRowsAreFocusedAndSelectedLikeOthersAndKeepThat) {
     Click(CPoint(150, Row(2)->GetRect().CenterPoint().y));
@@ -233,8 +230,7 @@ TEST_F(GroupTest, ARemovedRecordLeavesTheCountAndTheLastOneTakesTheGroupAlong) {
     EXPECT_THAT(Shown(), IsEmpty());
 }
 
-// --- Mouse and keyboard
-// -------------------------------------------------------------------------------------------------
+// --- Mouse and keyboard ----------------------------------------------------------------------------------------------
 
 TEST_F(GroupTest, TheButtonAndADoubleClickCollapseAGroup) {
     Click(ButtonOf(2));
@@ -343,8 +339,7 @@ TEST_F(GroupTest, OnScreenIsWhatIsDrawnAnew) {
     EXPECT_EQ(Difference(*OnScreen(), *Printed()), 0) << "the count of a collapsed group";
 }
 
-// --- What works on records
-// ----------------------------------------------------------------------------------------------
+// --- What works on records -------------------------------------------------------------------------------------------
 
 TEST_F(GroupTest, CopyingLeavesOutTheRowsOfGroups) {
     m_grid.GetSelectedRows()->SelectBlock(1, 3);

@@ -214,8 +214,7 @@ TEST_F(PreviewTest, RowsThatComeAndGoByExpandingBringTheirPreviews) {
     EXPECT_EQ(heights(), (std::vector<int>{HeightWith(1), HeightWith(0), HeightWith(3), HeightWith(2)}));
 }
 
-// --- Cells and previews
-// -----------------------------------------------------------------------------------------------
+// --- Cells and previews ----------------------------------------------------------------------------------------------
 
 TEST_F(PreviewTest, CellsDoNotReachIntoThePreview) {
     AddPreviews({TwoLines, nullptr});
@@ -269,8 +268,7 @@ TEST_F(PreviewTest, AnEditorStandsInItsCell) {
     EXPECT_TRUE(rcEdit.top >= rcItem.top && rcEdit.bottom <= rcItem.bottom) << rcEdit.top << " " << rcEdit.bottom;
 }
 
-// --- Scrolling
-// --------------------------------------------------------------------------------------------------------
+// --- Scrolling -------------------------------------------------------------------------------------------------------
 
 TEST_F(PreviewTest, ScrollingMovesThePixelsOfRowsOfEveryHeight) {
     AddMixed(60);
@@ -346,8 +344,7 @@ TEST_F(PreviewTest, TheScrollBarCountsRowsAndItsThumbKeepsItsSize) {
     EXPECT_EQ(static_cast<int>(atTop), 60 - m_grid.GetTopRowIndex());
 }
 
-// --- Drawing
-// ----------------------------------------------------------------------------------------------------------
+// --- Drawing ---------------------------------------------------------------------------------------------------------
 
 TEST_F(PreviewTest, ThePreviewStandsOnTheRowBetweenItsCellsAndTheLineBelow) {
     AddPreviews({TwoLines, nullptr});

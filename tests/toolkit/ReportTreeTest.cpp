@@ -173,8 +173,7 @@ TEST_F(TreeTest, ATreeMayBeVeryDeep) {
     EXPECT_EQ(Focused(), 0);
 }
 
-// --- Selection and focus
-// ----------------------------------------------------------------------------------------------
+// --- Selection and focus ---------------------------------------------------------------------------------------------
 
 TEST_F(TreeTest, SelectionAndFocusMoveAlongWithTheirRows) {
     Focus(1); // c
@@ -287,8 +286,7 @@ TEST_F(TreeTest, AnEditorBelowARemovedRecordClosesWithoutEffect) {
     EXPECT_EQ(m_owner.Count(XTP_NM_REPORT_EDITCANCELED), 1);
 }
 
-// --- The mouse
-// --------------------------------------------------------------------------------------------------------
+// --- The mouse -------------------------------------------------------------------------------------------------------
 
 TEST_F(TreeTest, APressOnTheButtonExpandsAndDoesNothingElse) {
     Focus(2);

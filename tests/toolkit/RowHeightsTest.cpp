@@ -86,8 +86,7 @@ TEST(RowsOfSeveralHeights, PageKeysGoAsFarAsAPageShows) {
     EXPECT_EQ(rows.NextRow(RowMove::PageUp, 4, 4), 2);
 }
 
-// --- Against a loop over the heights
-// ----------------------------------------------------------------------------------
+// --- Against a loop over the heights ---------------------------------------------------------------------------------
 
 /// What the classes are to answer, found by walking over all rows.
 class NaiveRows {

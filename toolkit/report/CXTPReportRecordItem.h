@@ -105,8 +105,7 @@ public:
     /// `CXTPToolTipContext::FillInToolInfo`.
     virtual INT_PTR OnToolHitTest(CPoint point, TOOLINFO* pTI);
 
-    // --- Editing; `pItemArgs` and what it points to last as long as the call
-    // ------------------------------------------
+    // --- Editing; `pItemArgs` and what it points to last as long as the call -----------------------------------------
     BOOL IsEditable() const { return m_bEditable; } ///< TRUE at first
     /// Whether the cell can be edited where control and column allow it; see `CXTPReportControl::AllowEdit`.
     void SetEditable(BOOL bEditable) { m_bEditable = bEditable != FALSE; }

@@ -498,8 +498,7 @@ private:
     CXTPReportControl& Control() const { return *m_link->control; }
     int ColumnCount() const { return Control().GetColumns()->GetVisibleColumnsCount(); }
 
-    // --- Frames of methods: arguments are checked, results emptied, and nothing is thrown
-    // ------------------------------
+    // --- Frames of methods: arguments are checked, results emptied, and nothing is thrown ----------------------------
     static void Empty(BSTR* result) { *result = nullptr; }
     static void Empty(LONG* result) { *result = 0; }
     static void Empty(IDispatch** result) { *result = nullptr; }
@@ -542,8 +541,7 @@ private:
         });
     }
 
-    // --- Numbers of children, from 1
-    // ----------------------------------------------------------------------------------
+    // --- Numbers of children, from 1 ---------------------------------------------------------------------------------
     /// The element of this object itself where the number means nothing.
     Element ElementOf(LONG number) const {
         const int columns = ColumnCount();
@@ -560,8 +558,7 @@ private:
         return number;
     }
 
-    // --- Results
-    // ------------------------------------------------------------------------------------------------------
+    // --- Results -----------------------------------------------------------------------------------------------------
     HRESULT GiveObject(CXTPReportRow* row, IDispatch** object) {
         *object = new ReportAccessible(m_link, row);
         return S_OK;

@@ -50,6 +50,19 @@ TEST_F(GridTest, BarsShowWhenTheyAreNeeded) {
     EXPECT_EQ(m_grid.GetStyle() & (WS_VSCROLL | WS_HSCROLL), 0U);
 }
 
+TEST_F(GridTest, ASingleRowHasNoBarHoweverLowTheView) {
+    AddRecords(2);
+    m_columns[0]->SetWidth(700);
+    m_grid.SetWindowPos(nullptr, 0, 0, Width, m_grid.GetHeaderRect().bottom + 30, SWP_NOMOVE | SWP_NOZORDER);
+    ASSERT_LT(m_grid.GetReportRectangle().Height(), m_grid.GetRowRect(0).Height());
+    EXPECT_EQ(m_grid.GetStyle() & (WS_VSCROLL | WS_HSCROLL), static_cast<DWORD>(WS_VSCROLL | WS_HSCROLL));
+    m_grid.SetLeftOffset(10'000);
+    m_grid.GetRecords()->RemoveAt(0);
+    EXPECT_EQ(m_grid.GetStyle() & (WS_VSCROLL | WS_HSCROLL), static_cast<DWORD>(WS_HSCROLL));
+    EXPECT_EQ(m_grid.GetHeaderRect().Width(), Width);
+    EXPECT_EQ(m_grid.GetLeftOffset(), m_grid.GetReportHeader()->GetTotalWidth() - Width);
+}
+
 TEST_F(GridTest, TheVerticalBarCountsRows) {
     AddRecords(50);
     m_grid.SetTopRow(12);

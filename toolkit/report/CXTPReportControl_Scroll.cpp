@@ -124,8 +124,10 @@ void CXTPReportControl::Impl::FitBars() {
     rcView.right += style & WS_VSCROLL ? barWidth : 0;
     rcView.bottom += style & WS_HSCROLL ? barHeight : 0;
     const int viewHeight = std::max<int>(rcView.Height() - control.GetHeaderRect().bottom, 0);
+    // A single row stays where it is, however low the view: the system hides a bar that has nowhere to go.
+    const std::int64_t scrolledHeight = rows->GetCount() > 1 ? RowGrid().TotalHeight() : 0;
     const gridgeometry::ScrollBars bars = gridgeometry::FitScrollBars(
-        rcView.Width(), viewHeight, header->GetLeastWidth(), RowGrid().TotalHeight(), barWidth, barHeight);
+        rcView.Width(), viewHeight, header->GetLeastWidth(), scrolledHeight, barWidth, barHeight);
     barV.isShown = (style & WS_VSCROLL) != 0;
     barH.isShown = (style & WS_HSCROLL) != 0;
     if (bars.vertical != barV.isShown)

@@ -56,6 +56,8 @@ public:
         ++m_open[static_cast<int>(kind)];
     }
     void Remove(Kind kind, const void* handle) {
+        if (handle == nullptr)
+            return; // which is what entries hold whose handle has gone
         for (Entry* entry = &m_entries[Place(handle)]; entry->isUsed; entry = Next(entry)) {
             if (entry->handle == handle && entry->kind == kind) {
                 entry->handle = nullptr; // it stays used: searches go on over it

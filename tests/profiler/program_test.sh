@@ -315,6 +315,57 @@ release_elsewhere() {
     expect_share 6 "so does a release outside of the window"
 }
 
+# expect_plots WANTED PURPOSE: of the first nine rows those that show a plot with a target, from the top.
+expect_plots() {
+    local row found=
+    for row in 1 2 3 4 5 6 7 8 9; do
+        if plot_find "$(plot_row "$row")" "$plot_target" first >/dev/null; then
+            found+=$row
+        fi
+    done
+    if [ "$found" = "$1" ]; then printf 'ok: %s\n' "$2"; else fail "$2: plots in rows $found, expected $1"; fi
+}
+
+filter_by_name() {
+    grid_picture unfiltered
+    expect_plots 3456 "four of seven columns have a plot"
+    x_key ctrl+f
+    x_type 'BEAK (mm)'
+    point_nowhere
+    expect_plots 23 "the filter leaves the columns with both words" # one lower, below the bar
+    x_shot filtered
+    x_key Down Down # into the grid
+    x_key alt+Return
+    x_wait_window 'Details of Beak Depth'
+    x_key Escape
+    x_wait_window 'penguins\.csv'
+    echo "ok: Down goes into the grid"
+    x_key ctrl+f
+    x_key Escape Escape
+    grid_picture unfiltered_again
+    if same_picture unfiltered unfiltered_again; then echo "ok: Escape shows all"; else fail "Escape shows all"; fi
+}
+
+group_by_type() {
+    x_key ctrl+t
+    point_nowhere
+    expect_plots 2345 "the group of numbers comes first"
+    x_shot grouped
+    x_key Home Left
+    point_nowhere
+    expect_plots '' "Left collapses it"
+    x_click 60 $(($(plot_row 1) + 8))
+    x_key Return
+    point_nowhere
+    expect_plots 2345 "Enter expands it"
+    x_click 12 $(($(plot_row 1) + 11))
+    point_nowhere
+    expect_plots '' "so does a click on its button, the other way round"
+    x_key ctrl+t
+    grid_picture ungrouped
+    if same_picture unfiltered ungrouped; then echo "ok: and back"; else fail "and back"; fi
+}
+
 change_the_layout() {
     grid_picture default
     x_click 100 "$header_y" 3
@@ -362,6 +413,8 @@ look_at_the_details
 x_key F5
 expect status 'penguins\.csv is open\.' "F5 reads the file again"
 choose_the_row_height
+filter_by_name
+group_by_type
 change_the_layout
 if same_picture fresh default; then echo "ok: limits begin anew"; else fail "limits begin anew"; fi
 x_close

@@ -587,6 +587,39 @@ TEST_F(AccessibleOutlineTest, AnExpansionIsTold) {
                                                std::pair<DWORD, LONG>(EVENT_OBJECT_STATECHANGE, Columns + 1)));
 }
 
+TEST_F(AccessibleOutlineTest, ButtonsOfTheGroupByBoxComeLast) {
+    Group();
+    m_grid.GetColumns()->GetGroupsOrder()->Add(m_columns[2]);
+    m_grid.Populate();
+    const LONG children = Columns + m_grid.GetRows()->GetCount();
+    EXPECT_EQ(ChildCount(Grid()), children) << "there is no box";
+    m_grid.ShowGroupBy();
+    const Accessible grid = Grid();
+    ASSERT_EQ(ChildCount(grid), children + 2);
+    EXPECT_EQ(Role(grid, children), ROLE_SYSTEM_OUTLINEITEM) << "the last row";
+    EXPECT_FALSE(ChildObject(grid, children + 1));
+    EXPECT_EQ(Name(grid, children + 1), L"B");
+    EXPECT_EQ(Name(grid, children + 2), L"C");
+    EXPECT_EQ(Value(grid, children + 1), L"(none)");
+    EXPECT_EQ(Role(grid, children + 1), ROLE_SYSTEM_PUSHBUTTON);
+    EXPECT_EQ(State(grid, children + 1), 0);
+    const CRect rcButton = OnScreenRect(m_grid.GetReportHeader()->GetGroupRect(m_columns[2]));
+    EXPECT_EQ(Location(grid, children + 2), rcButton);
+    VARIANT hit = {};
+    EXPECT_EQ(grid->accHitTest(rcButton.CenterPoint().x, rcButton.CenterPoint().y, &hit), S_OK);
+    EXPECT_EQ(hit.vt, VT_I4);
+    EXPECT_EQ(hit.lVal, children + 2);
+    EXPECT_EQ(grid->accNavigate(NAVDIR_LASTCHILD, Child(CHILDID_SELF), &hit), S_OK);
+    EXPECT_EQ(hit.lVal, children + 2);
+    BSTR name = nullptr;
+    EXPECT_EQ(grid->get_accName(Child(children + 3), &name), E_INVALIDARG);
+
+    EXPECT_EQ(Name(Row(0)), L"B: B0 (2)");
+    EXPECT_EQ(DefaultAction(grid, children + 1), L"Sort");
+    EXPECT_EQ(grid->accDoDefaultAction(Child(children + 1)), S_OK);
+    EXPECT_EQ(Name(Row(0)), L"B: B1 (1)") << "the groups are turned round";
+}
+
 TEST_F(AccessibleOutlineTest, ARowOfAGroupHasItsCaptionAndEmptyCells) {
     Group();
     EXPECT_EQ(Name(Row(0)), L"B: B0 (2)");

@@ -325,8 +325,8 @@ protected:
     LRESULT OnPrintClient(CDC* pDC, UINT nFlags);    ///< draws the client area into `pDC`, whatever the flags
     LRESULT OnSetFont(WPARAM wParam, LPARAM lParam); ///< a copy of the font, for all texts; a null font changes nothing
     /// For assistive programs: an `IAccessible` of the client area, with the headers of the visible columns, the rows
-    /// and their cells. Its objects may be kept; they answer CO_E_OBJNOTCONNECTED once the window is destroyed, or the
-    /// row was taken out. Changes of focus, selection and rows are told as events.
+    /// with their cells, and the buttons of the group-by box. Its objects may be kept; they answer CO_E_OBJNOTCONNECTED
+    /// once the window is destroyed, or the row was taken out. Changes of focus, selection and rows are told as events.
     LRESULT OnGetObject(WPARAM wParam, LPARAM lParam);
     LRESULT OnGetFont(WPARAM wParam, LPARAM lParam); ///< the paint manager's font; not the handle that was set
     DECLARE_MESSAGE_MAP()

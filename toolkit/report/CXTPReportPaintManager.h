@@ -244,6 +244,7 @@ private:
     void DrawColumnEdges(CDC* pDC, const CXTPReportColumn* pColumn, const CRect& rcColumn, BOOL bHot,
                          BOOL bPressed) const;
     void FillHeader(CDC* pDC, const CRect& rc, COLORREF clrLight, COLORREF clrDark) const;
+    void FillHeaderPart(CDC* pDC, const CRect& rcPart, BOOL bHot, BOOL bPressed, BOOL bSorted) const;
 
     std::shared_ptr<textwrap::CharWidths> m_charWidths; ///< of `m_fontText`
     int m_nPreviewSpacing = 0;                          ///< pixels below the preview text of a row

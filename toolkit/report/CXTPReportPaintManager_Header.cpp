@@ -110,6 +110,21 @@ void CXTPReportPaintManager::FillHeader(CDC* pDC, const CRect& rc, COLORREF clrL
     FillVertical(pDC, rcLower, clrDark, LookColor::Mix(clrDark, clrLight, 30));
 }
 
+/// A column or a button, but for the line at the bottom.
+void CXTPReportPaintManager::FillHeaderPart(CDC* pDC, const CRect& rcPart, BOOL bHot, BOOL bPressed,
+                                            BOOL bSorted) const {
+    CRect rcFill(rcPart);
+    rcFill.bottom -= 1;
+    if (bPressed)
+        FillHeader(pDC, rcFill, m_clrHeaderPressedLight, m_clrHeaderPressed);
+    else if (bHot)
+        FillHeader(pDC, rcFill, m_clrHeaderHotLight, m_clrHeaderHot);
+    else if (bSorted)
+        FillHeader(pDC, rcFill, m_clrHeaderSortedLight, m_clrHeaderSorted);
+    else
+        FillHeader(pDC, rcFill, m_clrHeaderLight, m_clrHeader);
+}
+
 void CXTPReportPaintManager::DrawHeaderBackground(CDC* pDC, const CRect& rcHeader) {
     CRect rcFill(rcHeader);
     rcFill.bottom -= 1;
@@ -121,16 +136,7 @@ void CXTPReportPaintManager::DrawHeaderBackground(CDC* pDC, const CRect& rcHeade
 
 void CXTPReportPaintManager::DrawColumnBackground(CDC* pDC, CXTPReportColumn* pColumn, const CRect& rcColumn, BOOL bHot,
                                                   BOOL bPressed) {
-    CRect rcFill(rcColumn);
-    rcFill.bottom -= 1;
-    if (bPressed)
-        FillHeader(pDC, rcFill, m_clrHeaderPressedLight, m_clrHeaderPressed);
-    else if (bHot)
-        FillHeader(pDC, rcFill, m_clrHeaderHotLight, m_clrHeaderHot);
-    else if (pColumn && pColumn->IsSorted())
-        FillHeader(pDC, rcFill, m_clrHeaderSortedLight, m_clrHeaderSorted);
-    else
-        FillHeader(pDC, rcFill, m_clrHeaderLight, m_clrHeader);
+    FillHeaderPart(pDC, rcColumn, bHot, bPressed, pColumn && pColumn->IsSorted());
     FillIfSet(pDC, rcColumn.left, rcColumn.bottom - 1, rcColumn.right, rcColumn.bottom, m_clrHeaderLine);
     DrawColumnEdges(pDC, pColumn, rcColumn, bHot, bPressed);
 }
@@ -338,14 +344,7 @@ void CXTPReportPaintManager::DrawGroupByButton(CDC* pDC, CXTPReportColumn* pColu
                                                BOOL bPressed) {
     if (rcButton.Width() <= 0)
         return;
-    CRect rcFill(rcButton);
-    rcFill.bottom -= 1;
-    if (bPressed)
-        FillHeader(pDC, rcFill, m_clrHeaderPressedLight, m_clrHeaderPressed);
-    else if (bHot)
-        FillHeader(pDC, rcFill, m_clrHeaderHotLight, m_clrHeaderHot);
-    else
-        FillHeader(pDC, rcFill, m_clrHeaderLight, m_clrHeader);
+    FillHeaderPart(pDC, rcButton, bHot, bPressed, FALSE);
     // A button stands alone, so it has an edge on every side, whatever the edges of columns are.
     if (GetLook().header->edge == HeaderEdge::Raised) {
         FillIfSet(pDC, rcButton.left, rcButton.bottom - 1, rcButton.right, rcButton.bottom, m_clrHeaderLine);

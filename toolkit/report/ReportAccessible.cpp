@@ -47,13 +47,14 @@ void GiveNumber(LONG number, VARIANT* result) {
     result->lVal = number;
 }
 
-/// One thing that can be told about. Both null: the grid itself.
+/// One thing that can be told about. Row and column both null: the grid itself.
 struct Element {
     CXTPReportRow* row = nullptr;
     CXTPReportColumn* column = nullptr;
+    bool isGroupButton = false; ///< that of the column in the group-by box
 
     bool IsGrid() const { return !row && !column; }
-    bool IsHeader() const { return !row && column; }
+    bool IsHeader() const { return !row && column && !isGroupButton; }
     bool IsRow() const { return row && !column; }
     bool IsCell() const { return row && column; }
     /// Null but for the row of a group.
@@ -146,6 +147,8 @@ CString DescriptionOf(CXTPReportControl& control, const Element& element) {
 LONG RoleOf(const CXTPReportControl& control, const Element& element) {
     if (element.IsGrid())
         return ROLE_SYSTEM_TABLE;
+    if (element.isGroupButton)
+        return ROLE_SYSTEM_PUSHBUTTON;
     if (element.IsHeader())
         return ROLE_SYSTEM_COLUMNHEADER;
     if (!element.IsRow())
@@ -167,6 +170,8 @@ CRect RectOf(const CXTPReportControl& control, const Element& element) {
     CRect rc;
     if (element.IsGrid()) {
         control.GetClientRect(&rc);
+    } else if (element.isGroupButton) {
+        rc = control.GetReportHeader()->GetGroupRect(element.column);
     } else if (element.IsHeader()) {
         rc = element.column->GetRect();
     } else {
@@ -181,6 +186,8 @@ CRect RectOf(const CXTPReportControl& control, const Element& element) {
 }
 
 bool IsSeen(const CXTPReportControl& control, const Element& element) {
+    if (element.isGroupButton)
+        return !RectOf(control, element).IsRectEmpty();
     CRect rcView = element.row ? control.GetReportRectangle() : control.GetHeaderRect();
     if (element.column) {
         const CRect rcUncovered = element.column->GetUncoveredRect();
@@ -192,7 +199,7 @@ bool IsSeen(const CXTPReportControl& control, const Element& element) {
 }
 
 bool IsFocused(const CXTPReportControl& control, const Element& element) {
-    if (!control.HasFocus() || element.IsHeader())
+    if (!control.HasFocus() || element.IsHeader() || element.isGroupButton)
         return false;
     if (element.IsGrid())
         return control.GetFocusedRow() == nullptr;
@@ -212,7 +219,7 @@ LONG StateOf(const CXTPReportControl& control, const Element& element) {
     add(!control.IsWindowEnabled(), STATE_SYSTEM_UNAVAILABLE);
     add(!control.IsWindowVisible(), STATE_SYSTEM_INVISIBLE);
     add(!IsSeen(control, element), STATE_SYSTEM_OFFSCREEN);
-    add(!element.IsHeader(), STATE_SYSTEM_FOCUSABLE);
+    add(!element.IsHeader() && !element.isGroupButton, STATE_SYSTEM_FOCUSABLE);
     add(IsFocused(control, element), STATE_SYSTEM_FOCUSED);
     add(element.IsGrid() && control.IsMultipleSelection(), STATE_SYSTEM_MULTISELECTABLE | STATE_SYSTEM_EXTSELECTABLE);
     add(element.row, STATE_SYSTEM_SELECTABLE);
@@ -225,11 +232,13 @@ LONG StateOf(const CXTPReportControl& control, const Element& element) {
     return state;
 }
 
-/// Pressing a header sorts. A row that others stand below is expanded or collapsed; another one, and a cell, does what
-/// enter does for it.
+/// Pressing a header sorts, a button in the group-by box turns the order of its groups round. A row that others stand
+/// below is expanded or collapsed; another one, and a cell, does what enter does for it.
 CString DefaultActionOf(const CXTPReportControl& control, const Element& element) {
     if (element.IsGrid())
         return CString();
+    if (element.isGroupButton)
+        return control.GetText(xtpReportTextSort);
     if (element.IsHeader()) {
         const bool sorts = control.GetReportHeader()->IsAllowColumnSort() && element.column->IsSortable();
         return sorts ? control.GetText(xtpReportTextSort) : CString();
@@ -254,6 +263,10 @@ void Edit(CXTPReportControl& control, const Element& cell) {
 }
 
 void Act(CXTPReportControl& control, const Element& element) {
+    if (element.isGroupButton) {
+        control.GetReportHeader()->TurnGroup(element.column);
+        return;
+    }
     if (element.IsHeader()) {
         control.GetReportHeader()->Sort(element.column, FALSE);
         return;
@@ -382,7 +395,7 @@ public:
     }
     STDMETHODIMP get_accChildCount(LONG* count) override {
         return Tell(count, [&] {
-            *count = ColumnCount() + (m_row ? 0 : Control().GetRows()->GetCount());
+            *count = ColumnCount() + (m_row ? 0 : Control().GetRows()->GetCount() + GroupButtonCount());
             return S_OK;
         });
     }
@@ -497,6 +510,9 @@ private:
     bool IsConnected() const { return m_link->control && (!m_row || m_row->GetControl() == m_link->control); }
     CXTPReportControl& Control() const { return *m_link->control; }
     int ColumnCount() const { return Control().GetColumns()->GetVisibleColumnsCount(); }
+    int GroupButtonCount() const {
+        return Control().IsGroupByVisible() ? Control().GetColumns()->GetGroupsOrder()->GetCount() : 0;
+    }
 
     // --- Frames of methods: arguments are checked, results emptied, and nothing is thrown ----------------------------
     static void Empty(BSTR* result) { *result = nullptr; }
@@ -547,8 +563,11 @@ private:
         const int columns = ColumnCount();
         if (number >= 1 && number <= columns)
             return {m_row, Control().GetColumns()->GetVisibleAt(number - 1)};
-        if (!m_row && number > columns)
+        const int rows = Control().GetRows()->GetCount();
+        if (!m_row && number > columns && number - columns <= rows)
             return {Control().GetRows()->GetAt(number - columns - 1), nullptr};
+        if (!m_row && number > columns && number - columns - rows <= GroupButtonCount())
+            return {nullptr, Control().GetColumns()->GetGroupsOrder()->GetAt(number - columns - rows - 1), true};
         return {m_row, nullptr};
     }
     LONG NumberOf(const CXTPReportColumn* column) const {
@@ -615,6 +634,9 @@ private:
                     number = cell;
         } else if (const CXTPReportColumn* const column = Control().GetReportHeader()->HitTest(point)) {
             number = NumberOf(column);
+        } else if (const CXTPReportColumn* const grouped = Control().GetReportHeader()->HitTestGroup(point)) {
+            number = ColumnCount() + Control().GetRows()->GetCount() + 1 +
+                     Control().GetColumns()->GetGroupsOrder()->IndexOf(grouped);
         } else if (CXTPReportRow* const row = Control().HitTest(point)) {
             return GiveRow(row, hit);
         }

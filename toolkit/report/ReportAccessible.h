@@ -15,8 +15,8 @@ struct ReportAccessLink {
 namespace reportaccessible {
 
 /// Answers WM_GETOBJECT for the client area: an `IAccessible` of the grid. Its children are the headers of the visible
-/// columns, from the left, and after them the rows, from the top; a row's children are its cells in the visible
-/// columns. Headers and cells are simple elements, rows are objects. 0 when memory runs out.
+/// columns, from the left, after them the rows, from the top, and last the buttons of the group-by box; a row's
+/// children are its cells in the visible columns. Rows are objects, the others simple elements. 0 when memory runs out.
 LRESULT Answer(const std::shared_ptr<ReportAccessLink>& link, WPARAM wParam);
 
 /// The child number of a row of the grid, as events tell it.

@@ -169,6 +169,8 @@ TEST_F(TreeTest, ATreeMayBeVeryDeep) {
     m_grid.UpdateWindow();
     Focus(2999);
     m_grid.UpdateWindow();
+    m_grid.GetSelectedRows()->SelectBlock(0, 2999);
+    m_grid.Copy();
     m_grid.CollapseAll();
     EXPECT_EQ(Focused(), 0);
 }

@@ -120,11 +120,12 @@ void Play(std::uint64_t seed, int events) {
     Pump();
     CheckHandles(handles);
     sentinel::CheckHeaps();
+    const sentinel::StackUse stack = sentinel::StackOfThread();
     std::printf(
         "monkey: seed %llu, %d events, %d raw messages, %d modal loops closed; an owner heard %d notifications and "
-        "%d dragged values and answered %d with mischief; %.1f s: nothing went wrong\n",
+        "%d dragged values and answered %d with mischief; at most %zu of %zu KB of stack; %.1f s: nothing went wrong\n",
         static_cast<unsigned long long>(seed), events, events, breaker.LoopsEnded(), heard.notifications,
-        heard.draggedValues, heard.mischief, (::GetTickCount() - start) / 1000.0);
+        heard.draggedValues, heard.mischief, stack.most / 1024, stack.room / 1024, (::GetTickCount() - start) / 1000.0);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // What ends a run that went wrong: crashes, hangs and broken invariants, told with the seed and the last events.
 #include "Sentinel.h"
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cstdio>
@@ -29,6 +30,8 @@ struct Crash {
     DWORD64 address = 0;
     CONTEXT context = {};
 } g_crash;
+/// What the unused part of the watched thread's stack is filled with, so that one can see how far down it was used.
+constexpr BYTE StackPaint = 0xA7;
 /// So much stack is kept for the handler of an overflow.
 constexpr ULONG StackOfHandlers = 64 * 1024;
 
@@ -145,6 +148,23 @@ DWORD WINAPI WatchForTrouble(void*) {
     }
 }
 
+/// The part of the thread's stack that is committed, without a guard; Wine commits all of it.
+MEMORY_BASIC_INFORMATION CommittedStack() {
+    MEMORY_BASIC_INFORMATION memory = {};
+    ::VirtualQuery(&memory, &memory, sizeof(memory));
+    ::VirtualQuery(memory.AllocationBase, &memory, sizeof(memory));
+    while (memory.State != MEM_COMMIT || (memory.Protect & (PAGE_GUARD | PAGE_NOACCESS)) != 0)
+        ::VirtualQuery(static_cast<BYTE*>(memory.BaseAddress) + memory.RegionSize, &memory, sizeof(memory));
+    return memory;
+}
+
+void PaintStack() {
+    const MEMORY_BASIC_INFORMATION stack = CommittedStack();
+    constexpr std::uintptr_t inUse = 16 * 1024; // by this function and those that it calls
+    const auto begin = reinterpret_cast<std::uintptr_t>(stack.BaseAddress);
+    std::memset(stack.BaseAddress, StackPaint, reinterpret_cast<std::uintptr_t>(&stack) - inUse - begin);
+}
+
 } // namespace
 
 namespace sentinel {
@@ -188,6 +208,7 @@ void Watch(std::string replay) {
     g_replay = std::move(replay);
     ULONG stack = StackOfHandlers;
     ::SetThreadStackGuarantee(&stack);
+    PaintStack();
     g_crash.hasCome = ::CreateEvent(nullptr, TRUE, FALSE, nullptr);
     ::DuplicateHandle(::GetCurrentProcess(), ::GetCurrentThread(), ::GetCurrentProcess(), &g_thread, 0, FALSE,
                       DUPLICATE_SAME_ACCESS);
@@ -206,6 +227,14 @@ void Fail(const std::string& what) {
     CONTEXT context;
     ::RtlCaptureContext(&context);
     End(what.c_str(), &context);
+}
+
+StackUse StackOfThread() {
+    const MEMORY_BASIC_INFORMATION stack = CommittedStack();
+    const auto* const begin = static_cast<const BYTE*>(stack.BaseAddress);
+    const BYTE* const end = begin + stack.RegionSize;
+    const BYTE* const touched = std::find_if(begin, end, [](BYTE byte) { return byte != StackPaint; });
+    return {static_cast<std::size_t>(end - touched), stack.RegionSize};
 }
 
 void CheckHeaps() {

@@ -23,6 +23,13 @@ std::int64_t EventsNoted();
 /// Tells what is wrong, the way back to it and the last events, and ends the process with exit code 1.
 [[noreturn]] void Fail(const std::string& what);
 
+/// The most that the calling thread's stack has ever held, and what it may hold; bytes.
+struct StackUse {
+    std::size_t most;
+    std::size_t room;
+};
+StackUse StackOfThread();
+
 /// Fails when a heap of the process is damaged.
 void CheckHeaps();
 

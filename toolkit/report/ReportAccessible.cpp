@@ -1,24 +1,22 @@
-// What a report control tells screen readers and other assistive programs.
+// The objects through which screen readers and other assistive programs see a report control.
 #include "ReportAccessible.h"
 
+#include "AccessibleElement.h"
 #include "CXTPReportColumn.h"
 #include "CXTPReportColumns.h"
 #include "CXTPReportControl.h"
-#include "CXTPReportGroupRow.h"
 #include "CXTPReportHeader.h"
-#include "CXTPReportRecord.h"
-#include "CXTPReportRecordItem.h"
-#include "CXTPReportRecordItemPreview.h"
 #include "CXTPReportRow.h"
 #include "CXTPReportRows.h"
 #include "CXTPReportSelectedRows.h"
-#include "CellText.h"
 
 #include <oleacc.h>
 
 #include <algorithm>
 #include <atomic>
 #include <new>
+
+namespace reportaccessible {
 
 namespace {
 
@@ -47,26 +45,6 @@ void GiveNumber(LONG number, VARIANT* result) {
     result->lVal = number;
 }
 
-/// One thing that can be told about. Row and column both null: the grid itself.
-struct Element {
-    CXTPReportRow* row = nullptr;
-    CXTPReportColumn* column = nullptr;
-    bool isGroupButton = false; ///< that of the column in the group-by box
-
-    bool IsGrid() const { return !row && !column; }
-    bool IsHeader() const { return !row && column && !isGroupButton; }
-    bool IsRow() const { return row && !column; }
-    bool IsCell() const { return row && column; }
-    /// Null but for the row of a group.
-    const CXTPReportGroupRow* Group() const {
-        return IsRow() && row->IsGroupRow() ? static_cast<const CXTPReportGroupRow*>(row) : nullptr;
-    }
-    /// Null where the record has no such cell.
-    CXTPReportRecordItem* Item() const {
-        return IsCell() && row->GetRecord() ? row->GetRecord()->GetItem(column) : nullptr;
-    }
-};
-
 /// Keeps a row object, or none, in memory.
 class RowReference {
 public:
@@ -84,206 +62,6 @@ public:
 private:
     CXTPReportRow* const m_row;
 };
-
-CString TextOf(CXTPReportControl& control, const Element& cell) {
-    CXTPReportRecordItem* const item = cell.Item();
-    if (!item)
-        return CString();
-    // The metrics come first: an item of a virtual grid learns from them which row it stands for.
-    const CString text = CellMetrics(control, cell.row, cell.column, item).strText;
-    return text.IsEmpty() ? item->GetAccessibleValue(cell.column) : text;
-}
-
-/// Calls `visit` for the cell in each visible column, from the left, until it returns false.
-template <class Visit>
-void ForCells(const CXTPReportControl& control, CXTPReportRow* row, Visit visit) {
-    const CXTPReportColumns& columns = *control.GetColumns();
-    for (int i = 0; i < columns.GetCount(); ++i) {
-        CXTPReportColumn* const column = columns.GetAt(i);
-        if (column->IsVisible() && !visit(Element{row, column}))
-            return;
-    }
-}
-
-CString NameOf(CXTPReportControl& control, const Element& element) {
-    CString name;
-    if (element.IsGrid())
-        control.GetWindowText(name);
-    else if (const CXTPReportGroupRow* const group = element.Group())
-        name = group->GetCaption();
-    else if (element.column)
-        name = element.column->GetCaption();
-    else
-        ForCells(control, element.row, [&](const Element& cell) {
-            name = TextOf(control, cell);
-            return name.IsEmpty();
-        });
-    return name;
-}
-
-/// What stands below the cells of the row.
-CString PreviewOf(const CXTPReportControl& control, const CXTPReportRow& row) {
-    const CXTPReportRecord* const record = row.GetRecord();
-    const bool isShown = control.IsPreviewMode() && record && record->GetItemPreview();
-    return isShown ? record->GetItemPreview()->GetPreviewText().Trim() : CString();
-}
-
-/// A row's cells with their columns and its preview, to be read in one go.
-CString DescriptionOf(CXTPReportControl& control, const Element& element) {
-    CString description;
-    if (!element.IsRow())
-        return description;
-    ForCells(control, element.row, [&](const Element& cell) {
-        const CString text = TextOf(control, cell);
-        if (!text.IsEmpty())
-            description +=
-                (description.IsEmpty() ? CString() : CString(_T("; "))) + cell.column->GetCaption() + _T(": ") + text;
-        return true;
-    });
-    const CString preview = PreviewOf(control, *element.row);
-    return preview.IsEmpty() ? description : description + (description.IsEmpty() ? _T("") : _T("; ")) + preview;
-}
-
-LONG RoleOf(const CXTPReportControl& control, const Element& element) {
-    if (element.IsGrid())
-        return ROLE_SYSTEM_TABLE;
-    if (element.isGroupButton)
-        return ROLE_SYSTEM_PUSHBUTTON;
-    if (element.IsHeader())
-        return ROLE_SYSTEM_COLUMNHEADER;
-    if (!element.IsRow())
-        return ROLE_SYSTEM_CELL;
-    return control.GetRows()->IsOutline() ? ROLE_SYSTEM_OUTLINEITEM : ROLE_SYSTEM_ROW;
-}
-
-/// Of a cell its text. Of a row in an outline its level, from 0 on, as trees of the system tell it.
-CString ValueOf(CXTPReportControl& control, const Element& element) {
-    if (!element.IsRow() || !control.GetRows()->IsOutline())
-        return TextOf(control, element);
-    CString level;
-    level.Format(_T("%d"), element.row->GetGroupLevel() + element.row->GetTreeDepth());
-    return level;
-}
-
-/// In client coordinates, also where it is scrolled out of view.
-CRect RectOf(const CXTPReportControl& control, const Element& element) {
-    CRect rc;
-    if (element.IsGrid()) {
-        control.GetClientRect(&rc);
-    } else if (element.isGroupButton) {
-        rc = control.GetReportHeader()->GetGroupRect(element.column);
-    } else if (element.IsHeader()) {
-        rc = element.column->GetRect();
-    } else {
-        rc = element.column ? element.row->GetCellsRect() : element.row->GetRect();
-        if (element.column) {
-            const CRect rcColumn = element.column->GetRect();
-            rc.left = rcColumn.left;
-            rc.right = rcColumn.right;
-        }
-    }
-    return rc;
-}
-
-bool IsSeen(const CXTPReportControl& control, const Element& element) {
-    if (element.isGroupButton)
-        return !RectOf(control, element).IsRectEmpty();
-    CRect rcView = element.row ? control.GetReportRectangle() : control.GetHeaderRect();
-    if (element.column) {
-        const CRect rcUncovered = element.column->GetUncoveredRect();
-        rcView.left = std::max(rcView.left, rcUncovered.left);
-        rcView.right = std::min(rcView.right, rcUncovered.right);
-    }
-    CRect rcSeen;
-    return element.IsGrid() || rcSeen.IntersectRect(RectOf(control, element), rcView);
-}
-
-bool IsFocused(const CXTPReportControl& control, const Element& element) {
-    if (!control.HasFocus() || element.IsHeader() || element.isGroupButton)
-        return false;
-    if (element.IsGrid())
-        return control.GetFocusedRow() == nullptr;
-    const bool isColumnFocused = control.IsColumnFocusVisible() != FALSE;
-    return element.row->IsFocused() &&
-           (element.column ? isColumnFocused && control.GetFocusedColumn() == element.column : !isColumnFocused);
-}
-
-bool IsEditable(const CXTPReportControl& control, const Element& element) {
-    const CXTPReportRecordItem* const item = element.Item();
-    return item && control.IsAllowEdit() && element.column->IsEditable() && item->IsEditable();
-}
-
-LONG StateOf(const CXTPReportControl& control, const Element& element) {
-    LONG state = 0;
-    const auto add = [&state](bool condition, LONG bits) { state |= condition ? bits : 0; };
-    add(!control.IsWindowEnabled(), STATE_SYSTEM_UNAVAILABLE);
-    add(!control.IsWindowVisible(), STATE_SYSTEM_INVISIBLE);
-    add(!IsSeen(control, element), STATE_SYSTEM_OFFSCREEN);
-    add(!element.IsHeader() && !element.isGroupButton, STATE_SYSTEM_FOCUSABLE);
-    add(IsFocused(control, element), STATE_SYSTEM_FOCUSED);
-    add(element.IsGrid() && control.IsMultipleSelection(), STATE_SYSTEM_MULTISELECTABLE | STATE_SYSTEM_EXTSELECTABLE);
-    add(element.row, STATE_SYSTEM_SELECTABLE);
-    add(element.row && element.row->IsSelected(), STATE_SYSTEM_SELECTED);
-    if (element.IsRow() && element.row->HasChildren())
-        add(true, element.row->IsExpanded() ? STATE_SYSTEM_EXPANDED : STATE_SYSTEM_COLLAPSED);
-    const CXTPReportRecordItem* const item = element.Item();
-    add(item && item->GetHyperlinksCount() > 0, STATE_SYSTEM_LINKED);
-    add(element.IsCell() && !IsEditable(control, element), STATE_SYSTEM_READONLY);
-    return state;
-}
-
-/// Pressing a header sorts, a button in the group-by box turns the order of its groups round. A row that others stand
-/// below is expanded or collapsed; another one, and a cell, does what enter does for it.
-CString DefaultActionOf(const CXTPReportControl& control, const Element& element) {
-    if (element.IsGrid())
-        return CString();
-    if (element.isGroupButton)
-        return control.GetText(xtpReportTextSort);
-    if (element.IsHeader()) {
-        const bool sorts = control.GetReportHeader()->IsAllowColumnSort() && element.column->IsSortable();
-        return sorts ? control.GetText(xtpReportTextSort) : CString();
-    }
-    if (element.IsRow() && element.row->HasChildren())
-        return control.GetText(element.row->IsExpanded() ? xtpReportTextCollapse : xtpReportTextExpand);
-    if (element.row->IsGroupRow())
-        return CString(); // its cells
-    const CXTPReportRecordItem* const item = element.Item();
-    if (item && item->GetHyperlinksCount() > 0)
-        return control.GetText(xtpReportTextJump);
-    return control.GetText(IsEditable(control, element) ? xtpReportTextEdit : xtpReportTextOpen);
-}
-
-void Edit(CXTPReportControl& control, const Element& cell) {
-    XTP_REPORTRECORDITEM_ARGS args;
-    args.pControl = &control;
-    args.pRow = cell.row;
-    args.pColumn = cell.column;
-    args.pItem = cell.Item();
-    control.EditItem(&args);
-}
-
-void Act(CXTPReportControl& control, const Element& element) {
-    if (element.isGroupButton) {
-        control.GetReportHeader()->TurnGroup(element.column);
-        return;
-    }
-    if (element.IsHeader()) {
-        control.GetReportHeader()->Sort(element.column, FALSE);
-        return;
-    }
-    if (element.IsRow() && element.row->HasChildren()) {
-        element.row->SetExpanded(!element.row->IsExpanded());
-        return;
-    }
-    CXTPReportRecordItem* const item = element.Item();
-    const CPoint point = RectOf(control, element).CenterPoint();
-    if (item && item->GetHyperlinksCount() > 0)
-        control.SendItemNotify(XTP_NM_REPORT_HYPERLINK, point, element.row, item, element.column, 0);
-    else if (IsEditable(control, element))
-        Edit(control, element);
-    else
-        control.SendItemNotify(NM_RETURN, point, element.row, item, element.column);
-}
 
 // --- The selected rows of a grid -------------------------------------------------------------------------------------
 
@@ -685,8 +463,6 @@ private:
 };
 
 } // namespace
-
-namespace reportaccessible {
 
 LRESULT Answer(const std::shared_ptr<ReportAccessLink>& link, WPARAM wParam) {
     auto* const object = new (std::nothrow) ReportAccessible(link);

@@ -44,5 +44,6 @@ list(APPEND kytoolkit_report_SOURCES
     report/CXTPReportPaintManager_Outline.cpp
     report/CXTPReportRow.cpp
     report/CXTPReportThemeResource.cpp
+    report/AccessibleElement.cpp
     report/ReportAccessible.cpp
     report/ReportLook.cpp)

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <ranges>
 
 namespace histogramgeometry {
 
@@ -59,9 +58,15 @@ std::size_t BinPlaces::BinInStrip(int column) const {
             return static_cast<std::size_t>(bin);
     }
     // Places so large or so close together that the inverse says little.
-    const auto bins = std::views::iota(std::int64_t{1}, m_count);
-    const auto beyond = std::ranges::partition_point(bins, [&](std::int64_t at) { return Edge(at) <= column; });
-    return static_cast<std::size_t>(beyond - bins.begin());
+    std::int64_t first = 0, last = m_count - 1;
+    while (first < last) {
+        const std::int64_t middle = last - (last - first) / 2;
+        if (Edge(middle) <= column)
+            first = middle;
+        else
+            last = middle - 1;
+    }
+    return static_cast<std::size_t>(first);
 }
 
 std::optional<std::size_t> BinPlaces::BinAt(int column) const {

@@ -114,6 +114,28 @@ LONG CALLBACK OnException(EXCEPTION_POINTERS* pointers) {
     return EXCEPTION_CONTINUE_SEARCH;
 }
 
+/// What the watched thread waits for, as far as the system tells: menus and captures are loops of their own.
+std::string LoopOfThread() {
+    GUITHREADINFO info = {};
+    info.cbSize = sizeof(info);
+    if (!::GetGUIThreadInfo(::GetThreadId(g_thread), &info))
+        return "its windows cannot be asked";
+    const auto describe = [](const char* role, HWND window) {
+        if (!window)
+            return std::string();
+        char name[64] = "", text[160];
+        ::GetClassNameA(window, name, sizeof(name));
+        std::snprintf(text, sizeof(text), ", %s %s%s%s", role, name, ::IsWindowVisible(window) ? "" : " (not visible)",
+                      ::GetUpdateRect(window, nullptr, FALSE) ? " (to be painted)" : "");
+        return std::string(text);
+    };
+    char flags[32];
+    std::snprintf(flags, sizeof(flags), "flags 0x%lx", info.flags);
+    return flags + describe("active", info.hwndActive) + describe("focus", info.hwndFocus) +
+           describe("capture", info.hwndCapture) + describe("menu of", info.hwndMenuOwner) +
+           describe("sizing", info.hwndMoveSize);
+}
+
 [[noreturn]] void TellCrash() {
     char what[160];
     std::snprintf(what, sizeof(what), "crash 0x%08lx at %s, address 0x%llx", g_crash.code,
@@ -139,11 +161,12 @@ DWORD WINAPI WatchForTrouble(void*) {
             seen = now;
             since = ::GetTickCount();
         } else if (::GetTickCount() - since > HangTime) {
+            const std::string what = "hang: the event does not end; " + LoopOfThread();
             ::SuspendThread(g_thread);
             CONTEXT context = {};
             context.ContextFlags = CONTEXT_FULL;
             ::GetThreadContext(g_thread, &context);
-            End("hang: the event does not end", &context);
+            End(what.c_str(), &context);
         }
     }
 }

@@ -256,6 +256,17 @@ CRect GridRig::BarRect(int row) { return Bar(row).GetItemRect(); }
 
 CPoint GridRig::HeaderOf(int column) { return grid->GetColumns()->GetAt(column)->GetRect().CenterPoint(); }
 
+std::string GridRig::ColumnsAsText() {
+    std::string text;
+    CXTPReportColumns& columns = *grid->GetColumns();
+    for (int i = 0; i < columns.GetCount(); ++i) {
+        const CString name = columns.GetAt(i)->GetInternalName();
+        text += std::string(name.GetString(), name.GetString() + name.GetLength()) + " " +
+                std::to_string(columns.GetAt(i)->GetWidth()) + (columns.GetAt(i)->IsVisible() ? "+ " : "- ");
+    }
+    return text + "sorted by " + std::to_string(columns.GetSortOrder()->GetCount());
+}
+
 void GridRig::Mouse(UINT message, CPoint point) {
     const WPARAM buttons = message == WM_LBUTTONUP || message == WM_RBUTTONUP ? 0 : MK_LBUTTON;
     ::SendMessageW(grid->m_hWnd, message, buttons, MAKELPARAM(point.x, point.y));

@@ -75,6 +75,8 @@ public:
     /// The part of the window that shows the bar of that row.
     CRect BarRect(int row);
     CPoint HeaderOf(int column);
+    /// "name width visible" of each, from left to right, and by how many the grid is sorted.
+    std::string ColumnsAsText();
     void Mouse(UINT message, CPoint point);
 
     class Grid : public KyPlotRecordReportControl {

@@ -230,6 +230,17 @@ TEST_F(GroupTest, ARemovedRecordLeavesTheCountAndTheLastOneTakesTheGroupAlong) {
     EXPECT_THAT(Shown(), IsEmpty());
 }
 
+TEST_F(GroupTest, ARemovedRecordTakesThoseBelowItOutOfTheCount) {
+    Add(m_pear, _T("pip"), _T("greens"));
+    Add(m_plum, _T("stone"));
+    m_grid.Populate();
+    EXPECT_EQ(Shown()[2], L"[B: fruit (4)]");
+    m_pear->Delete();
+    EXPECT_EQ(Shown()[2], L"[B: fruit (2)]");
+    m_plum->Delete();
+    EXPECT_THAT(Shown(), ElementsAre(L"[B: (none) (1)]", L".salt", L"[B: greens (2)]", L".leek", L".kale"));
+}
+
 // --- Mouse and keyboard ----------------------------------------------------------------------------------------------
 
 TEST_F(GroupTest, TheButtonAndADoubleClickCollapseAGroup) {

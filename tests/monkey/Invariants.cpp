@@ -82,15 +82,18 @@ void CheckColumns(CXTPReportControl& grid) {
         total += column->GetWidth();
     }
     Expect(frozen <= grid.GetFreezeColumnsCount(), "no more columns are frozen than were asked for");
-    // A minimised grid keeps the places that it had.
-    Expect(grid.IsIconic() || total <= header.Width() || edge - header.left <= header.Width() - header.Width() / 4,
+    Expect(total <= header.Width() || edge - header.left <= header.Width() - header.Width() / 4,
            "frozen columns leave room for the others");
     const CXTPReportHeader& strip = *grid.GetReportHeader();
     Expect(!strip.IsAutoColumnSizing() || header.Width() == 0 ||
                total <= std::max<int>(header.Width(), strip.GetLeastWidth()),
            "columns that fill the view are no wider than it");
     const int offset = grid.GetLeftOffset();
-    Expect(offset >= 0 && offset <= std::max(total - header.Width(), 0), "the sideways offset is in range");
+    if (offset < 0 || offset > std::max(total - header.Width(), 0))
+        sentinel::Fail("broken: the sideways offset is in range: " + std::to_string(offset) + " of " +
+                       std::to_string(total) + " in " + std::to_string(header.Width()) +
+                       (grid.IsIconic() ? ", minimised" : "") + (grid.IsZoomed() ? ", maximised" : "") +
+                       (grid.GetStyle() & WS_VSCROLL ? ", with a bar" : ""));
     const CXTPReportColumnOrder& order = *grid.GetColumns()->GetSortOrder();
     for (int i = 0; i < order.GetCount(); ++i)
         Expect(columns.IndexOf(order.GetAt(i)) >= 0, "the grid is sorted by columns that it has");

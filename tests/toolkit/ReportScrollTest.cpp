@@ -63,6 +63,31 @@ TEST_F(GridTest, ASingleRowHasNoBarHoweverLowTheView) {
     EXPECT_EQ(m_grid.GetLeftOffset(), m_grid.GetReportHeader()->GetTotalWidth() - Width);
 }
 
+TEST_F(GridTest, AMinimisedGridIsScrolledInItsRangeAndComesBackWhereItStood) {
+    AddRecords(50);
+    m_columns[0]->SetWidth(700);
+    m_grid.SetTopRow(7);
+    m_grid.SetLeftOffset(100);
+    const auto isInRange = [this] {
+        const int most = m_grid.GetReportHeader()->GetTotalWidth() - m_grid.GetHeaderRect().Width();
+        return m_grid.GetLeftOffset() <= std::max(most, 0);
+    };
+    m_grid.ShowWindow(SW_MINIMIZE);
+    EXPECT_TRUE(isInRange());
+    m_grid.SetWindowPos(nullptr, 0, 0, 500, 300, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_TRUE(isInRange());
+    m_grid.ShowWindow(SW_RESTORE);
+    EXPECT_EQ(m_grid.GetTopRowIndex(), 7);
+    EXPECT_EQ(m_grid.GetLeftOffset(), 100);
+    m_grid.ShowWindow(SW_MINIMIZE);
+    m_grid.SendMessage(WM_MOUSEHWHEEL, MAKEWPARAM(0, 12'000), 0);
+    EXPECT_TRUE(isInRange());
+    m_grid.SetWindowPos(nullptr, 0, 0, 640, 300, SWP_NOMOVE | SWP_NOZORDER);
+    EXPECT_TRUE(isInRange());
+    m_grid.ShowWindow(SW_RESTORE);
+    EXPECT_TRUE(isInRange());
+}
+
 TEST_F(GridTest, TheVerticalBarCountsRows) {
     AddRecords(50);
     m_grid.SetTopRow(12);

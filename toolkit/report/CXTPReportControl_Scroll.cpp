@@ -352,9 +352,7 @@ void CXTPReportControl::OnMouseHWheel(UINT, short zDelta, CPoint) {
 
 void CXTPReportControl::OnSize(UINT nType, int cx, int cy) {
     CWnd::OnSize(nType, cx, cy);
-    if (nType == SIZE_MINIMIZED)
-        return;
-    AdjustLayout();
+    AdjustLayout(); // also when it is minimised: where the user has scrolled to is remembered
     // A row that was shown before there was room for any comes into view now.
     if (m_impl->wantedRow >= 0 && GetReportRectangle().Height() > 0) {
         m_impl->ShowRow(m_impl->wantedRow);

@@ -403,8 +403,8 @@ void CXTPReportRows::ChildrenRemoved(const CXTPReportRecord* pRecord) {
         TakeOut(nNode + 1, m_pOutline->End(nNode));
 }
 
-/// Takes out a record with all below it, or all below a record; the rows stay for now. Groups that have become empty go
-/// as well.
+/// Takes out the nodes of a record and all below it, or those below a record, and groups that have become empty. Who
+/// calls it hides their rows.
 CXTPReportRows::NodeRange CXTPReportRows::TakeOutNodes(int nFirstNode, int nEndNode) {
     int nRecords = 0;
     for (int nNode = nFirstNode; nNode < nEndNode; ++nNode)
